@@ -1,0 +1,54 @@
+#include "run_folder.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <array>
+
+#include "base/runtime_error.h"
+#include "core/settings_store.h"
+#include "database/codec.h"
+#include "online/contact_information.h"
+#include "platform/qt/settings_file.h"
+
+namespace benevix {
+
+RunFolder::RunFolder(const QString& path) : path_(path) {
+  const QByteArray settings = QFile::encodeName(path + "/settings");
+  qputenv("XDG_CONFIG_HOME", settings + "/user");
+  qputenv("XDG_CONFIG_DIRS", settings + "/machine");
+  qputenv("XDG_DATA_HOME", settings + "/data");
+  qputenv("XDG_CACHE_HOME", settings + "/cache");
+}
+
+void RunFolder::UseSite(const QString& address) const {
+  QSaveFile file(path_ + "/deployment.ini");
+  const QString text = QStringLiteral(
+                           "ServerBase=%1\n"
+                           "PaymentBase=%1xclick/business=\n"
+                           "Mail=app@benevix.example\n"
+                           "TranslationName=Parley\n"
+                           "TranslationBase=%1parley\n"
+                           "Copyright=Copyright Quorl\n"
+                           "Product=Benevix\n")
+                           .arg(address);
+  const QByteArray bytes = text.toUtf8();
+  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+    throw RuntimeError(file.fileName().toStdString() + ": " + file.errorString().toStdString());
+  }
+}
+
+void RunFolder::EnsureContact() const {
+  SettingsFile registry(SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile());
+  SettingsStore settings(registry);
+  if (!settings.GetUserString("UsrInfo").empty()) return;
+  const std::array<const char*, contact_field::kCount> fields = {
+      "Robin Sample", "12 Example Street",   "Springfield", "Oregon", "97000",
+      "U.S.A.",       "robin@sample.example"};
+  frmPersInfo window;
+  for (int i = 0; i < contact_field::kCount; ++i) window.Text1[i].Write(fields.at(i));
+  const TextCodec codec(QFileInfo(Program()).completeBaseName().toStdString());
+  settings.SaveUserString("UsrInfo", codec.Scramble(JoinContact(window)));
+}
+
+}  // namespace benevix

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace benevix {
+
+// A line that cannot be read; says why.
+class UnreadableLine : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// The words of a script line: UTF-8 in, texts of the code page out. Words are separated by blanks;
+// in double quotes a word may hold blanks, be empty, and use the escapes \" \\ \r \n \t \xHH. `#`
+// where a word could start begins a comment. Raises UnreadableLine.
+std::vector<std::string> Words(std::string_view line);
+
+// UTF-8 in, code page out. Raises UnreadableLine for a character that the code page lacks.
+std::string CodePageText(std::string_view utf8);
+
+// The text in double quotes as a script would write it, UTF-8.
+std::string Quoted(std::string_view text);
+
+}  // namespace benevix

@@ -1,0 +1,121 @@
+#include "site.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <system_error>
+#include <utility>
+
+#include "pages.h"
+#include "request_fields.h"
+
+namespace benevix {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view mailScript = "/cgi-bin/mail?";
+constexpr std::string_view paymentPrefix = "/xclick/";
+constexpr std::string_view paymentStart = "/xclick/business=";
+constexpr std::string_view addressMark = "{site}";
+
+constexpr const char* bytesType = "application/octet-stream";
+constexpr const char* madePageType = "text/html; charset=windows-1252";
+
+// The data files are in the program's code page, the pages in UTF-8.
+const std::map<std::string, std::string, std::less<>> contentTypes = {
+    {".html", "text/html; charset=utf-8"},
+    {".txt", "text/plain; charset=windows-1252"},
+    {".dat", "text/plain; charset=windows-1252"},
+    {".css", "text/css; charset=utf-8"},
+    {".svg", "image/svg+xml"},
+    {".png", "image/png"},
+    {".jpg", "image/jpeg"},
+    {".ico", "image/x-icon"},
+    {".zip", "application/zip"},
+};
+
+std::string ContentType(const fs::path& file) {
+  const auto found = contentTypes.find(file.extension().string());
+  return found == contentTypes.end() ? bytesType : found->second;
+}
+
+void ReplaceAll(std::string& text, std::string_view mark, std::string_view replacement) {
+  for (size_t at = text.find(mark); at != std::string::npos;
+       at = text.find(mark, at + replacement.size())) {
+    text.replace(at, mark.size(), replacement);
+  }
+}
+
+// Refuses whatever could mean another place on some system: "..", drive letters, backslashes.
+bool IsPlainPath(const std::string& relative) {
+  const auto forbidden = [](char c) { return c == '\\' || c == ':' || c == '\0'; };
+  if (std::any_of(relative.begin(), relative.end(), forbidden)) return false;
+  const fs::path path(relative);
+  return path.is_relative() &&
+         std::none_of(path.begin(), path.end(), [](const fs::path& part) { return part == ".."; });
+}
+
+SiteAnswer AnswerMail(std::string_view query) {
+  const std::vector<RequestField> fields = SplitFields(query);
+  if (FieldValue(fields, "email").empty() || FieldValue(fields, "recipient").empty()) {
+    return {400, madePageType, ErrorPage(400, "A sender and a recipient are needed.")};
+  }
+  return {200, madePageType, MailSentPage(fields)};
+}
+
+}  // namespace
+
+Site::Site(const fs::path& folder, std::string address)
+    : folder_(fs::canonical(folder)), address_(std::move(address)) {}
+
+SiteAnswer Site::Answer(std::string_view target) const {
+  if (target.starts_with(mailScript)) return AnswerMail(target.substr(mailScript.size()));
+  if (target.starts_with(paymentStart)) {
+    return {200, madePageType, PaymentPage(SplitFields(target.substr(paymentPrefix.size())))};
+  }
+  const std::string_view path = target.substr(0, target.find_first_of("?#"));
+  const auto file = FindFile(PercentDecode(path.substr(std::min<size_t>(1, path.size()))));
+  return file ? AnswerFile(*file) : ErrorAnswer(404);
+}
+
+std::optional<fs::path> Site::FindFile(const std::string& relative) const {
+  if (!IsPlainPath(relative)) return std::nullopt;
+  // Links are followed first, so that one that leads out of the folder is refused.
+  std::error_code failure;
+  fs::path file = fs::canonical(folder_ / relative, failure);
+  if (failure || !fs::is_regular_file(file, failure)) return std::nullopt;
+  const auto parts = std::mismatch(folder_.begin(), folder_.end(), file.begin(), file.end());
+  if (parts.first != folder_.end()) return std::nullopt;
+  return file;
+}
+
+SiteAnswer Site::AnswerFile(const fs::path& file) const {
+  std::ifstream stream(file, std::ios::binary);
+  std::string body{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+  if (!stream) return ErrorAnswer(404);
+  std::string type = ContentType(file);
+  if (type.starts_with("text/")) ReplaceAll(body, addressMark, address_);
+  return {200, std::move(type), std::move(body)};
+}
+
+SiteAnswer ErrorAnswer(int status) {
+  const auto reason = [status]() -> std::string_view {
+    switch (status) {
+      case 400:
+        return "The request could not be understood.";
+      case 404:
+        return "There is no such page here.";
+      case 405:
+        return "Pages can only be read here.";
+      case 414:
+        return "The address is too long.";
+      default:
+        return "The request could not be answered.";
+    }
+  };
+  return {status, madePageType, ErrorPage(status, reason())};
+}
+
+}  // namespace benevix

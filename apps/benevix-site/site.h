@@ -1,0 +1,37 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace benevix {
+
+struct SiteAnswer {
+  int status = 200;
+  std::string contentType;
+  std::string body;
+};
+
+// What the demonstration site answers: the files of a folder, the mail script and the payment page.
+class Site {
+ public:
+  // Takes the folder to serve and the site's own address, ending in "/". In text files "{site}"
+  // stands for that address. Raises std::filesystem::filesystem_error when there is no such folder.
+  Site(const std::filesystem::path& folder, std::string address);
+
+  // Takes a request target as it arrived, beginning with "/".
+  SiteAnswer Answer(std::string_view target) const;
+
+ private:
+  std::optional<std::filesystem::path> FindFile(const std::string& relative) const;
+  SiteAnswer AnswerFile(const std::filesystem::path& file) const;
+
+  std::filesystem::path folder_;
+  std::string address_;
+};
+
+// The answer of an HTTP error as a page.
+SiteAnswer ErrorAnswer(int status);
+
+}  // namespace benevix

@@ -1,0 +1,41 @@
+#include "benevix/machine.h"
+
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QScreen>
+
+#include "platform/linux/program_folder.h"
+#include "platform/qt/deployment_file.h"
+#include "window/texts.h"
+
+namespace benevix {
+namespace {
+
+ProgramInfo InfoOf(const QFileInfo& executable) {
+  ProgramInfo info;
+  info.deployment = ReadDeployment((executable.absolutePath() + "/deployment.ini").toStdString());
+  info.folder = ProgramFolder(executable.absoluteFilePath().toStdString());
+  info.exeName = FromQString(executable.completeBaseName());
+  info.major = BENEVIX_VERSION_MAJOR;
+  info.minor = BENEVIX_VERSION_MINOR;
+  info.revision = BENEVIX_VERSION_REVISION;
+  const QSize screen = QGuiApplication::primaryScreen()->size();
+  info.screenWidth = screen.width() * kTwipsPerPixel;
+  info.screenHeight = screen.height() * kTwipsPerPixel;
+  return info;
+}
+
+}  // namespace
+
+Machine::Machine(const std::string& executable, Waits& waits, MessageBoxes& boxes)
+    : waits_(waits),
+      boxes_(boxes),
+      info_(InfoOf(QFileInfo(QString::fromStdString(executable)))),
+      registry_(SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile()),
+      http_(waits) {}
+
+Surroundings Machine::TheSurroundings() {
+  return {info_, registry_, http_, boxes_, waits_, clock_, random_, shell_, files_, printer_};
+}
+
+}  // namespace benevix

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+
+#include "platform/linux/linux_files.h"
+#include "platform/linux/linux_shell.h"
+#include "platform/linux/random_generator.h"
+#include "platform/linux/system_clock.h"
+#include "platform/qt/qt_http_client.h"
+#include "platform/qt/qt_printer.h"
+#include "platform/qt/settings_file.h"
+#include "platform/surroundings.h"
+
+namespace benevix {
+
+// What surrounds the program on this machine: the real files, settings, network and printer. Needs
+// a QApplication.
+class Machine {
+ public:
+  // The executable's path, UTF-8, decides the program folder and the executable's name;
+  // deployment.ini is read beside it. Raises RuntimeError when that cannot be done.
+  Machine(const std::string& executable, Waits& waits, MessageBoxes& boxes);
+
+  [[nodiscard]] Surroundings TheSurroundings();
+
+ private:
+  Waits& waits_;
+  MessageBoxes& boxes_;
+  ProgramInfo info_;
+  SettingsFile registry_;
+  QtHttpClient http_;
+  SystemClock clock_;
+  RandomGenerator random_;
+  LinuxShell shell_;
+  LinuxFiles files_;
+  QtPrinter printer_;
+};
+
+}  // namespace benevix

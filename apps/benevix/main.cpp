@@ -1,0 +1,51 @@
+// The desktop program.
+
+#include <QApplication>
+#include <cstdio>
+
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "benevix/machine.h"
+#include "program/program.h"
+#include "window/mirror.h"
+#include "window/qt_message_boxes.h"
+#include "window/theme.h"
+
+namespace {
+
+using namespace benevix;
+
+int RunOn(Machine& machine, Mirror& mirror) {
+  Program program(machine.TheSurroundings());
+  mirror.Attach(program.TheDesk(), program.TheInput());
+  mirror.onEnded = [] { QCoreApplication::quit(); };
+  program.Main();
+  const int result = program.TheDesk().Ended() ? 0 : QApplication::exec();
+  program.Finish();
+  mirror.Detach();
+  return result;
+}
+
+int Run() {
+  const Scheme scheme = DesktopScheme();
+  ApplyTheme(*qApp, scheme);
+  Mirror mirror(scheme, Mirror::Timers::Run);
+  QtMessageBoxes boxes(mirror);
+  try {
+    Machine machine(QCoreApplication::applicationFilePath().toStdString(), mirror, boxes);
+    return RunOn(machine, mirror);
+  } catch (const RuntimeError& error) {
+    std::fprintf(stderr, "%s\n", ToUtf8(error.what()).c_str());
+    boxes.Show("Benevix", error.what(), BoxIcon::Critical, BoxButtons::OK);
+    return 1;
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QApplication app(argc, argv);
+  QApplication::setApplicationName("Benevix");
+  QApplication::setQuitOnLastWindowClosed(false);
+  return Run();
+}

@@ -1,0 +1,96 @@
+#include "donation_bench.h"
+
+#include <stdexcept>
+#include <vector>
+
+#include "benevix/machine.h"
+#include "program/program.h"
+#include "stopwatch.h"
+
+namespace benevix {
+namespace {
+
+constexpr int kTimed = 501;
+constexpr auto kBudget = "9000";
+constexpr auto kDonation = "5";
+
+class NoWaits : public Waits {
+ public:
+  void Begin() override {}
+  void End() override {}
+  void DoEvents() override {}
+};
+
+class NoBoxes : public MessageBoxes {
+ public:
+  BoxAnswer Show(const std::string& /*title*/, const std::string& text, BoxIcon /*icon*/,
+                 BoxButtons /*buttons*/) override {
+    throw std::runtime_error("an unexpected message: " + text);
+  }
+};
+
+void Must(bool done, const char* what) {
+  if (!done) throw std::runtime_error(std::string("could not be done: ") + what);
+}
+
+class Donor {
+ public:
+  explicit Donor(Program& program)
+      : input_(program.TheInput()), windows_(program.TheWindows()), values_(program.Values()) {}
+
+  void Enter() {
+    Must(input_.Click(windows_.splash.Image2[0]), "enter");
+    windows_.contact.Text1[contact_field::kCountry].Write("U.S.A.");
+    Type(windows_.main.Text1[0], kBudget);
+    Must(input_.Choose(windows_.payment.Option1[payment::kCreditCard]), "choose a payment");
+    Must(input_.Click(windows_.payment.Command1[0]), "confirm the payment");
+  }
+
+  // To the next organization of the list; from its end back to its beginning.
+  void Give() {
+    const ListView& list = windows_.main.ListView1;
+    do {
+      wrapped_ = wrapped_ || row_ == list.Count();
+      row_ = row_ % list.Count() + 1;
+    } while (!list.Text(row_).empty());
+    const Currency before = values_.TotalDonated;
+    Must(input_.SelectRow(windows_.main.ListView1, row_, MouseButton::Left), "select a row");
+    Type(windows_.main.Text1[2], kDonation);
+    Must(wrapped_ || values_.TotalDonated > before, "give");
+  }
+
+ private:
+  void Type(TextBox& box, const std::string& text) {
+    Must(input_.Focus(box), "focus a box");
+    Must(input_.Type(box, text), "type");
+    Must(input_.Key(box, keys::kEnter), "press Enter");
+  }
+
+  Input& input_;
+  Windows& windows_;
+  const SessionValues& values_;
+  int row_ = 0;
+  bool wrapped_ = false;
+};
+
+}  // namespace
+
+DonationTimes TimeDonationEntries(const std::string& folder, int given) {
+  NoWaits waits;
+  NoBoxes boxes;
+  Machine machine(folder + "/benevix", waits, boxes);
+  Program program(machine.TheSurroundings());
+  program.Main();
+  Donor donor(program);
+  donor.Enter();
+  for (int i = 0; i < given; ++i) donor.Give();
+  std::vector<double> times;
+  for (int i = 0; i < kTimed; ++i) {
+    const Stopwatch watch;
+    donor.Give();
+    times.push_back(watch.Milliseconds());
+  }
+  return {program.TheWindows().main.ListView1.Count(), Median(times)};
+}
+
+}  // namespace benevix

@@ -1,0 +1,26 @@
+// A window with a menu bar and a tree of 200 rows: the least that a program of the toolkit does.
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QTreeWidget>
+
+#include "shown.h"
+
+int main(int argc, char** argv) {
+  const QApplication app(argc, argv);
+  QMainWindow window;
+  QMenu* const menu = window.menuBar()->addMenu(QStringLiteral("&File"));
+  menu->addAction(QStringLiteral("E&xit"), &window, &QWidget::close);
+  auto* const tree = new QTreeWidget;
+  tree->setColumnCount(3);
+  for (int row = 0; row < 200; ++row) {
+    const QString text = QStringLiteral("Row %1").arg(row);
+    tree->addTopLevelItem(new QTreeWidgetItem({text, text, text}));
+  }
+  window.setCentralWidget(tree);
+  window.resize(1024, 720);
+  benevix::TellWhenShown();
+  window.show();
+  return QApplication::exec();
+}

@@ -1,0 +1,47 @@
+// The program as its own main starts it, but entered from the splash at once.
+//
+// usage: bench-start FOLDER
+
+#include <QApplication>
+#include <QTimer>
+#include <cstdio>
+
+#include "base/runtime_error.h"
+#include "benevix/machine.h"
+#include "program/program.h"
+#include "shown.h"
+#include "window/mirror.h"
+#include "window/qt_message_boxes.h"
+#include "window/theme.h"
+
+namespace {
+
+using namespace benevix;
+
+int Run(const std::string& folder) {
+  const Scheme scheme = DesktopScheme();
+  ApplyTheme(*qApp, scheme);
+  Mirror mirror(scheme, Mirror::Timers::Run);
+  QtMessageBoxes boxes(mirror);
+  Machine machine(folder + "/benevix", mirror, boxes);
+  Program program(machine.TheSurroundings());
+  mirror.Attach(program.TheDesk(), program.TheInput());
+  TellWhenShown();
+  program.Main();
+  QTimer::singleShot(0, &mirror,
+                     [&] { program.TheInput().Click(program.TheWindows().splash.Image2[0]); });
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QApplication app(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  try {
+    return argc == 2 ? Run(argv[1]) : 2;
+  } catch (const RuntimeError& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
+  }
+}

@@ -1,0 +1,8 @@
+# What stands after "cmake --install" runs where it stands: the programs, their plug-in, the data
+# files, the deployment values and the demonstration site.
+install(TARGETS benevix benevix-site benevix-demo RUNTIME DESTINATION .)
+install(TARGETS benevix_page_viewer LIBRARY DESTINATION plugins)
+install(FILES resources/deployment.ini DESTINATION .)
+install(DIRECTORY resources/ DESTINATION Resources
+  FILES_MATCHING PATTERN "*.dat" PATTERN "*.res" PATTERN "*.html")
+install(DIRECTORY site/ DESTINATION site)

@@ -1,0 +1,222 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "controls/control.h"
+#include "controls/list_view.h"
+
+namespace benevix {
+
+// 0x00BBGGRR, or a system colour: 0x80000000 plus its index. Colours are roles; what a role looks
+// like in a light or dark scheme is the mirror's business.
+using Color = std::uint32_t;
+
+namespace colors {
+inline constexpr Color kBlack = 0x00000000;
+inline constexpr Color kRed = 0x000000FF;
+inline constexpr Color kGreen = 0x0000FF00;
+inline constexpr Color kLightGrey = 0x00E0E0E0;
+inline constexpr Color kActiveTitleBar = 0x80000002;
+inline constexpr Color kInactiveTitleBar = 0x80000003;
+inline constexpr Color kWindowBackground = 0x80000005;
+inline constexpr Color kWindowText = 0x80000008;
+inline constexpr Color kInactiveBorder = 0x8000000B;
+inline constexpr Color kButtonFace = 0x8000000F;
+inline constexpr Color kButtonShadow = 0x80000010;
+inline constexpr Color kButtonText = 0x80000012;
+inline constexpr Color kInactiveTitleText = 0x80000013;
+inline constexpr Color kDarkShadow3D = 0x80000015;
+inline constexpr Color kLight3D = 0x80000016;
+}  // namespace colors
+
+struct TextBox : Control {
+  TextBox() = default;
+  explicit TextBox(std::string tip) { toolTip = std::move(tip); }
+
+  // The program's own writing: what stands in the box is no longer what the user typed.
+  void Write(std::string written) {
+    text = std::move(written);
+    typed = false;
+  }
+
+  std::string text;
+  bool typed = false;  // the user changed the text since the program last wrote it
+  bool multiLine = false;
+  Color foreColor = colors::kWindowText;
+  Color backColor = colors::kWindowBackground;
+  int fontSize = 8;  // points
+  bool fontBold = false;
+  int selections = 0;  // how often the whole text was asked to be selected
+};
+
+struct Label : Control {
+  Label() = default;
+  explicit Label(std::string text, std::string tip = {}, const char* heldBy = "")
+      : caption(std::move(text)) {
+    toolTip = std::move(tip);
+    holder = heldBy;
+  }
+
+  std::string caption;
+  Color foreColor = colors::kButtonText;
+  int left = 0, top = 0;  // twips
+  int height = 0;         // twips, of the whole text
+};
+
+struct Button : Control {
+  Button() = default;
+  explicit Button(std::string text, std::string tip = {}) : caption(std::move(text)) {
+    toolTip = std::move(tip);
+  }
+
+  std::string caption;
+};
+
+// Of the option buttons of one array at most one has the value True.
+struct OptionButton : Control {
+  OptionButton() = default;
+  explicit OptionButton(std::string text, std::string tip = {}, const char* heldBy = "")
+      : caption(std::move(text)) {
+    toolTip = std::move(tip);
+    holder = heldBy;
+  }
+
+  std::string caption;
+  bool value = false;
+  Color backColor = colors::kButtonFace;
+};
+
+template <std::size_t N>
+void Choose(OptionButton (&group)[N], std::size_t index) {
+  for (std::size_t i = 0; i < N; ++i) group[i].value = i == index;
+}
+
+// The chosen option's index, or -1.
+template <std::size_t N>
+int Chosen(const OptionButton (&group)[N]) {
+  for (std::size_t i = 0; i < N; ++i) {
+    if (group[i].value) return static_cast<int>(i);
+  }
+  return -1;
+}
+
+struct CheckBox : Control {
+  CheckBox() = default;
+  explicit CheckBox(std::string text, std::string tip = {}, const char* heldBy = "")
+      : caption(std::move(text)) {
+    toolTip = std::move(tip);
+    holder = heldBy;
+  }
+
+  std::string caption;
+  int value = 0;  // 0 or 1
+};
+
+struct ComboBox : Control {
+  ComboBox() = default;
+  explicit ComboBox(bool canBeTyped, std::string tip = {}, const char* heldBy = "")
+      : editable(canBeTyped) {
+    toolTip = std::move(tip);
+    holder = heldBy;
+  }
+
+  bool editable = false;
+  std::string text;
+  std::vector<std::string> list;
+};
+
+struct MenuItem : Control {
+  MenuItem() = default;
+  explicit MenuItem(std::string text, const char* heldBy = "", bool afterSeparator = false)
+      : caption(std::move(text)), separated(afterSeparator) {
+    holder = heldBy;
+  }
+
+  std::string caption;
+  bool checked = false;
+  bool separated = false;  // a separator stands before it
+  int popUps = 0;          // how often it was asked to open at the mouse
+};
+
+// Menu items that are made at run time, by index. The array's own fields hold for all of them.
+struct MenuArray : Control {
+  MenuArray() = default;
+  explicit MenuArray(const char* heldBy, bool afterSeparator = false) : separated(afterSeparator) {
+    holder = heldBy;
+  }
+
+  bool separated = false;
+  std::map<int, MenuItem> items;
+};
+
+struct Frame : Control {
+  Frame() = default;
+  explicit Frame(std::string text) : caption(std::move(text)) {}
+
+  std::string caption;
+};
+
+// A panel that can hold other controls, or a picture that can be clicked.
+struct PictureBox : Control {
+  PictureBox() = default;
+  explicit PictureBox(std::string tip) { toolTip = std::move(tip); }
+};
+
+struct Shape : Control {
+  Color fillColor = colors::kButtonFace;
+  Color borderColor = colors::kInactiveBorder;
+  int fillStyle = 0;  // 0 solid, 1 transparent
+  int borderWidth = 1;
+  int top = 0;  // twips
+};
+
+struct Line : Control {};
+
+struct Timer : Control {
+  Timer() = default;
+  Timer(int milliseconds, bool runs) : interval(milliseconds) { enabled = runs; }
+
+  int interval = 0;  // milliseconds
+};
+
+struct ScrollBar : Control {
+  int max = 0;
+  int value = 0;
+};
+
+struct PageViewer : Control {
+  std::string address;
+  int navigations = 0;
+
+  void Navigate2(std::string to) {
+    address = std::move(to);
+    ++navigations;
+  }
+};
+
+struct HttpControl : Control {
+  std::string proxy;       // host:port, empty for none
+  int requestTimeout = 5;  // seconds
+};
+
+enum class MousePointer { Default, Hourglass };
+
+struct Window {
+  std::string caption;
+  bool enabled = true;
+  bool topmost = false;
+  MousePointer mousePointer = MousePointer::Default;
+  int left = 0, top = 0, width = 0, height = 0;  // twips
+};
+
+using AnyControl =
+    std::variant<TextBox*, Label*, Button*, OptionButton*, CheckBox*, ComboBox*, MenuItem*,
+                 MenuArray*, Frame*, PictureBox*, Shape*, Line*, Timer*, ScrollBar*, PageViewer*,
+                 HttpControl*, ListView*>;
+
+}  // namespace benevix

@@ -1,0 +1,106 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "controls/directory.h"
+#include "controls/events.h"
+
+namespace benevix {
+
+// How a window is shown.
+enum class Modality { Modeless, Modal };
+enum class Attention { None, KeepsMainDisabled };
+
+// Knows which windows are loaded, shown, modal and topmost, and where the focus is. A window that
+// is unloaded goes back to its design values; a hidden one keeps what it holds.
+class Desk {
+ public:
+  struct Entry {
+    std::string name;
+    Window* window = nullptr;
+    Directory controls;
+    bool loaded = false;
+    bool shown = false;
+    bool modal = false;
+    bool keepsMainDisabled = false;
+    int loads = 0;  // tells one life of the window from the next
+    Control* focus = nullptr;
+    std::function<void()> reset;
+  };
+
+  explicit Desk(const EventTable& events) : events_(events) {}
+
+  // The first window added is the main window.
+  template <class W>
+  void Add(const char* name, W& window) {
+    entries_.push_back({name, &window, ControlsOf(window), false, false, false, false, 0, nullptr,
+                        [&window] { window = W(); }});
+  }
+
+  void Load(Window& window);
+  void Show(Window& window, Modality modality = Modality::Modeless,
+            Attention attention = Attention::None);
+  void Hide(Window& window);
+  void Unload(Window& window);
+
+  // The program stops at once: throws ProgramEnded.
+  [[noreturn]] void End();
+  [[nodiscard]] bool Ended() const { return ended_; }
+
+  [[nodiscard]] bool IsLoaded(const Window& window) const { return Find(window).loaded; }
+  [[nodiscard]] bool IsShown(const Window& window) const { return Find(window).shown; }
+
+  // The window's own value, and for the main window that no shown window keeps the user's
+  // attention.
+  [[nodiscard]] bool IsEnabled(const Window& window) const;
+
+  // Whether the user can work in the window: shown, enabled and not held up by a modal one.
+  [[nodiscard]] bool IsUsable(const Window& window) const;
+
+  // Whether the user can work with the control: so can its window, its holders and itself.
+  [[nodiscard]] bool IsUsable(const Entry& entry, const Control& control) const;
+
+  // The control that has the focus in the window, or null.
+  [[nodiscard]] Control* FocusOf(const Window& window) const { return Find(window).focus; }
+
+  // Moves the focus of the control's window there; raises LostFocus and GotFocus. A control that
+  // cannot take the focus leaves it where it is.
+  void SetFocus(Control& control);
+  void ClearFocus(Window& window);
+  // To the next (previous) control in the window's order that takes the focus.
+  void MoveFocus(Entry& entry, bool forward);
+
+  // Forgets the focus of controls that can no longer have it; nobody is told.
+  void Settle();
+
+  [[nodiscard]] const std::vector<Entry>& Entries() const { return entries_; }
+  [[nodiscard]] std::vector<Entry>& Entries() { return entries_; }
+  [[nodiscard]] Entry& Find(const Window& window);
+  [[nodiscard]] const Entry& Find(const Window& window) const;
+  // The entry whose control it is.
+  [[nodiscard]] Entry& Holding(const Control& control);
+
+  // The shown windows from the bottom to the top.
+  [[nodiscard]] const std::vector<Window*>& Shown() const { return shown_; }
+
+  // What can take the focus by its kind: boxes, buttons, options, combos and lists.
+  [[nodiscard]] static bool TakesFocus(const NamedControl& control);
+
+ private:
+  void ChangeFocus(Entry& entry, Control* to);
+  // The control and all that holds it are enabled and visible.
+  [[nodiscard]] static bool IsOpen(const Entry& entry, const Control& control);
+  [[nodiscard]] static bool IsTabStop(const Entry& entry, const NamedControl& control);
+  void Fire(const Window& window, Event event) const;
+  void Fire(const Control& control, Event event) const;
+
+  const EventTable& events_;
+  std::vector<Entry> entries_;
+  std::vector<Window*> shown_;
+  bool ended_ = false;
+};
+
+}  // namespace benevix

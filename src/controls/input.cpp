@@ -1,0 +1,207 @@
+#include "controls/input.h"
+
+namespace benevix {
+
+void Input::Enter(const std::function<void()>& what) {
+  // One thread, one deed at a time: what arrives while a handler waits is thrown away.
+  if (busy_ || desk_.Ended()) return;
+  busy_ = true;
+  try {
+    what();
+  } catch (const ProgramEnded&) {
+    // The desk has marked the end already.
+  } catch (const RuntimeError& error) {
+    try {
+      onError(error);
+    } catch (const ProgramEnded&) {
+      // Ended while the error was told.
+    }
+  }
+  busy_ = false;
+  desk_.Settle();
+  afterEvent();
+}
+
+bool Input::Do(Control& control, const std::function<void(Desk::Entry&)>& what) {
+  Desk::Entry& entry = desk_.Holding(control);
+  if (busy_ || !desk_.IsUsable(entry, control)) return false;
+  Enter([&] { what(entry); });
+  return true;
+}
+
+void Input::Fire(const Control& control, Event event, EventArgs args) {
+  events_.Fire(control, event, args);
+}
+
+bool Input::Click(Button& button) {
+  return Do(button, [&](Desk::Entry&) {
+    desk_.SetFocus(button);
+    Fire(button, Event::Click);
+  });
+}
+
+bool Input::Choose(OptionButton& option) {
+  return Do(option, [&](Desk::Entry& entry) {
+    desk_.SetFocus(option);
+    if (!option.value) {
+      std::string array;
+      for (const NamedControl& named : entry.controls) {
+        if (&named.Base() == &option) array = named.name;
+      }
+      for (const NamedControl& named : entry.controls) {
+        if (named.name == array) named.As<OptionButton>()->value = &named.Base() == &option;
+      }
+      Fire(option, Event::Click);
+    }
+    Fire(option, Event::MouseUp);
+  });
+}
+
+bool Input::Toggle(CheckBox& box) {
+  return Do(box, [&](Desk::Entry&) {
+    desk_.SetFocus(box);
+    box.value = box.value == 0 ? 1 : 0;
+    Fire(box, Event::Click);
+    Fire(box, Event::MouseUp);
+  });
+}
+
+bool Input::ChooseMenu(MenuItem& item) {
+  return Do(item, [&](Desk::Entry&) { Fire(item, Event::Click); });
+}
+
+bool Input::ChooseMenu(MenuArray& array, int index) {
+  const auto element = array.items.find(index);
+  if (element == array.items.end() || !element->second.enabled || !element->second.visible) {
+    return false;
+  }
+  return Do(array, [&](Desk::Entry&) {
+    EventArgs args;
+    args.index = index;
+    Fire(array, Event::Click, args);
+  });
+}
+
+bool Input::Click(Label& label) {
+  return Do(label, [&](Desk::Entry&) {
+    Fire(label, Event::Click);
+    Fire(label, Event::MouseUp);
+  });
+}
+
+bool Input::Click(PictureBox& picture) {
+  return Do(picture, [&](Desk::Entry&) {
+    Fire(picture, Event::Click);
+    Fire(picture, Event::MouseUp);
+  });
+}
+
+bool Input::MouseUp(Control& control, MouseButton button) {
+  return Do(control, [&](Desk::Entry&) {
+    EventArgs args;
+    args.button = button;
+    Fire(control, Event::MouseUp, args);
+  });
+}
+
+bool Input::Hover(Control& control) {
+  return Do(control, [&](Desk::Entry&) { Fire(control, Event::MouseMove); });
+}
+
+bool Input::Focus(Control& control) {
+  return Do(control, [&](Desk::Entry&) { desk_.SetFocus(control); });
+}
+
+bool Input::Leave(Control& control) {
+  return Do(control, [&](Desk::Entry& entry) {
+    desk_.SetFocus(control);
+    desk_.ClearFocus(*entry.window);
+  });
+}
+
+bool Input::Accepts(TextBox& box, char typed) {
+  EventArgs args;
+  args.key = static_cast<unsigned char>(typed);
+  events_.Fire(box, Event::KeyPress, args);
+  return args.key != 0;
+}
+
+bool Input::Type(TextBox& box, std::string text) {
+  return Do(box, [&](Desk::Entry&) {
+    box.text = std::move(text);
+    box.typed = true;
+    Fire(box, Event::Change);
+  });
+}
+
+bool Input::Type(ComboBox& combo, std::string text) {
+  return Do(combo, [&](Desk::Entry&) {
+    combo.text = std::move(text);
+    Fire(combo, Event::Change);
+  });
+}
+
+bool Input::Key(Control& control, int key) {
+  return Do(control, [&](Desk::Entry&) {
+    EventArgs args;
+    args.key = key;
+    Fire(control, Event::KeyUp, args);
+  });
+}
+
+bool Input::Tab(Control& control, bool forward) {
+  return Do(control, [&](Desk::Entry& entry) {
+    if (forward) {
+      EventArgs args;
+      args.key = keys::kTab;
+      Fire(control, Event::KeyUp, args);
+    }
+    const bool stayed = entry.focus == nullptr || entry.focus == &control;
+    if (stayed && desk_.IsUsable(*entry.window)) desk_.MoveFocus(entry, forward);
+  });
+}
+
+bool Input::Pick(ComboBox& combo, int index) {
+  if (index < 0 || index >= static_cast<int>(combo.list.size())) return false;
+  return Do(combo, [&](Desk::Entry&) {
+    combo.text = combo.list[static_cast<std::size_t>(index)];
+    Fire(combo, Event::Click);
+  });
+}
+
+bool Input::SelectRow(ListView& list, int row, MouseButton button, bool byKeyboard) {
+  if (row < 1 || row > list.Count()) return false;
+  return Do(list, [&](Desk::Entry&) {
+    desk_.SetFocus(list);
+    list.selected = row;
+    EventArgs args;
+    args.button = button;
+    args.byKeyboard = byKeyboard;
+    Fire(list, Event::ItemClick, args);
+  });
+}
+
+bool Input::Scroll(ScrollBar& bar, int value) {
+  return Do(bar, [&](Desk::Entry&) {
+    bar.value = value;
+    Fire(bar, Event::Scroll);
+  });
+}
+
+bool Input::Tick(Timer& timer) {
+  const Desk::Entry& entry = desk_.Holding(timer);
+  if (busy_ || desk_.Ended() || !entry.loaded || !timer.enabled) return false;
+  Enter([&] { Fire(timer, Event::Tick); });
+  return true;
+}
+
+bool Input::Close(Window& window) {
+  if (busy_ || !desk_.IsUsable(window)) return false;
+  Enter([&] {
+    EventArgs args;
+    if (!events_.Fire(window, Event::Close, args)) desk_.Unload(window);
+  });
+  return true;
+}
+
+}  // namespace benevix

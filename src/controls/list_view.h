@@ -1,0 +1,68 @@
+#pragma once
+
+#include <array>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "controls/control.h"
+
+namespace benevix {
+
+// The rows of a list as they were loaded. Rows count from 1; column 0 is the item text, column n
+// sub-item n.
+class RowSource {
+ public:
+  virtual ~RowSource() = default;
+  [[nodiscard]] virtual int Count() const = 0;
+  [[nodiscard]] virtual std::string Text(int row, int column) const = 0;
+};
+
+// A report list: the rows of its source, and over them the few cells that were written since. So an
+// event costs the same with three hundred rows and with two million.
+struct ListView : Control {
+  static constexpr int kColumns = 10;
+  using Cells = std::array<std::string, kColumns>;
+
+  std::array<std::string, kColumns> columns;  // captions
+  std::shared_ptr<const RowSource> rows;
+  std::map<int, Cells> cells;  // by row; an empty text shows the source's
+  int selected = 0;            // row, 0 for none
+  int top = 0;                 // the row last scrolled into view, 0 for none
+  int scrolls = 0;             // how often a row was asked to be scrolled into view
+  int changes = 0;             // how often a text was written or the rows were replaced
+  int appearance = 0;          // 1 three-dimensional
+
+  [[nodiscard]] int Count() const { return rows ? rows->Count() : 0; }
+
+  [[nodiscard]] std::string SubItem(int row, int column) const {
+    const auto written = cells.find(row);
+    if (written != cells.end()) {
+      const std::string& text = written->second[static_cast<std::size_t>(column)];
+      if (!text.empty()) return text;
+    }
+    return rows ? rows->Text(row, column) : std::string();
+  }
+
+  [[nodiscard]] std::string Text(int row) const { return SubItem(row, 0); }
+
+  void SetSubItem(int row, int column, std::string text) {
+    cells[row][static_cast<std::size_t>(column)] = std::move(text);
+    ++changes;
+  }
+
+  void SetRows(std::shared_ptr<const RowSource> source) {
+    rows = std::move(source);
+    cells.clear();
+    selected = 0;
+    top = 0;
+    ++changes;
+  }
+
+  void EnsureVisible(int row) {
+    top = row;
+    ++scrolls;
+  }
+};
+
+}  // namespace benevix

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace benevix {
+
+// Program-wide values that are no part of a session.
+struct RunValues {
+  bool ServerOK = false;  // the server answered "server ok" when last asked
+  float DBVersion = 0;    // version of the organization list
+  int YtdState = 0;       // 0 no year-to-date table in this run, 1 downloaded, 2 found damaged
+  int PlatformCode = 0;   // 3, 9, 1 or 0
+};
+
+}  // namespace benevix

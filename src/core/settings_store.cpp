@@ -1,0 +1,65 @@
+#include "core/settings_store.h"
+
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+
+namespace benevix {
+
+void SettingsStore::CreateKey(Root root, const std::string& path) {
+  registry_.CreateKey(root, path);
+}
+
+void SettingsStore::SetValue(Root root, const std::string& path, const std::string& name,
+                             std::uint32_t type, const std::string& value) {
+  const auto key = registry_.OpenKey(root, path, Access::SetValue);
+  if (key) SetValueOnHandle(*key, name, type, value);
+}
+
+ResultCode SettingsStore::SetValueOnHandle(RegistryKey& key, const std::string& name,
+                                           std::uint32_t type, const std::string& value) {
+  if (type == value_type::kText) return key.Write(name, type, value + '\0');
+  if (type != value_type::kNumber) return 0;
+  const auto number = static_cast<std::uint32_t>(ToInt32(Val(value)));
+  std::string bytes;
+  for (unsigned shift = 0; shift < 32; shift += 8) bytes += static_cast<char>(number >> shift);
+  return key.Write(name, type, bytes);
+}
+
+void SettingsStore::SaveString(Root root, const std::string& path, const std::string& name,
+                               const std::string& value) {
+  if (!registry_.OpenKey(root, path, Access::Full)) CreateKey(root, path);
+  SetValue(root, path, name, value_type::kText, value);
+}
+
+std::string SettingsStore::GetString(Root root, const std::string& path, const std::string& name) {
+  std::string value;
+  const auto key = registry_.OpenKey(root, path, Access::Query);
+  if (key) QueryValueOnHandle(*key, name, value);
+  return value;
+}
+
+void SettingsStore::DeleteValue(Root root, const std::string& path, const std::string& name) {
+  const auto key = registry_.OpenKey(root, path, Access::SetValue);
+  if (key) key->Delete(name);
+}
+
+ResultCode SettingsStore::QueryValueOnHandle(RegistryKey& key, const std::string& name,
+                                             std::string& value) {
+  std::uint32_t type = 0;
+  std::string bytes;
+  const ResultCode code = key.Read(name, type, bytes);
+  if (code != 0) return code;
+  if (type == value_type::kText) {
+    value = bytes.substr(0, bytes.empty() ? 0 : bytes.size() - 1);
+    return 0;
+  }
+  if (type != value_type::kNumber || bytes.size() != 4) return -1;
+  std::uint32_t number = 0;
+  for (int i = 3; i >= 0; --i) {
+    number = (number << 8) | static_cast<unsigned char>(bytes[static_cast<std::size_t>(i)]);
+  }
+  value = std::to_string(static_cast<std::int32_t>(number));
+  return 0;
+}
+
+}  // namespace benevix

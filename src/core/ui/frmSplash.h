@@ -1,0 +1,27 @@
+#pragma once
+
+#include "controls/controls.h"
+
+namespace benevix {
+
+// The first window: from it the user enters or leaves.
+struct frmSplash : Window {
+  frmSplash() {
+    caption = "Benevix";
+    width = 7200;
+    height = 4800;
+  }
+
+  PictureBox Image1;
+  PictureBox Image2[2] = {PictureBox("Enter"), PictureBox("Exit")};
+  Shape Shape2;
+};
+
+template <class F>
+void visit(frmSplash& window, F&& f) {
+  f("Image1", window.Image1);
+  f("Image2", window.Image2);
+  f("Shape2", window.Shape2);
+}
+
+}  // namespace benevix

@@ -1,0 +1,80 @@
+#include "database/organization_database.h"
+
+#include <charconv>
+#include <fstream>
+#include <unordered_map>
+
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+#include "platform/files.h"
+
+namespace benevix {
+
+void OrganizationDatabase::LoadOrganizationList() {
+  list_.reset();  // before the new one is read, so that there are never two
+  list_ = std::make_shared<const OrganizationList>(file_);
+  main_.ListView1.SetRows(list_);
+  if (list_->Version()) run_.DBVersion = *list_->Version();
+  if (!list_->Damage().empty()) throw RuntimeError(file_ + ": " + list_->Damage());
+}
+
+void OrganizationDatabase::ReadListVersion() {
+  std::ifstream in(PathOf(file_), std::ios::binary);
+  if (!in) throw RuntimeError(file_ + ": cannot be read");
+  for (std::string line; std::getline(in, line);) {
+    const auto version = HeaderVersion(line);
+    if (!version) continue;
+    run_.DBVersion = *version;
+    return;
+  }
+  settings_.SaveUserString("BVXDB", SingleToText(run_.DBVersion));
+}
+
+void OrganizationDatabase::BuildCountriesMenu() {
+  main_.lclist.items.clear();
+  main_.lclist.items[0];
+  if (!list_) return;
+  for (const int row : list_->Headings()) {
+    const std::string country = list_->Text(row, column::kCountry);
+    if (!country.empty()) main_.lclist.items[row - 1].caption = country;
+  }
+}
+
+namespace {
+
+// `keyOf` gives what a row is looked up by; the first row of each wanted key counts.
+template <class Keys, class KeyOf>
+std::map<std::string, int> FindFirst(const OrganizationList* list, Keys wanted, KeyOf keyOf) {
+  std::map<std::string, int> rows;
+  for (int row = 1; list != nullptr && row <= list->Count() && !wanted.empty(); ++row) {
+    const auto found = wanted.find(keyOf(row));
+    if (found == wanted.end()) continue;
+    rows[found->second] = row;
+    wanted.erase(found);
+  }
+  return rows;
+}
+
+}  // namespace
+
+std::map<std::string, int> OrganizationDatabase::FindRows(const std::set<std::string>& ids) const {
+  std::unordered_map<std::int32_t, std::string> wanted;
+  for (const std::string& id : ids) {
+    std::int32_t number = 0;
+    const auto read = std::from_chars(id.data(), id.data() + id.size(), number);
+    // Only as the list writes its numbers, and never a heading's.
+    if (read.ec == std::errc() && std::to_string(number) == id && number != 0) wanted[number] = id;
+  }
+  return FindFirst(list_.get(), wanted, [this](int row) { return list_->Id(row); });
+}
+
+std::map<std::string, int> OrganizationDatabase::FindNames(
+    const std::set<std::string>& names) const {
+  std::unordered_map<std::string_view, std::string> wanted;
+  for (const std::string& name : names) wanted.emplace(name, name);
+  wanted.erase("");
+  return FindFirst(list_.get(), wanted,
+                   [this](int row) { return list_->View(row, column::kOrganization); });
+}
+
+}  // namespace benevix

@@ -1,0 +1,168 @@
+#include "database/organization_list.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+#include <limits>
+
+#include "base/line_scan.h"
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+#include "platform/files.h"
+
+namespace benevix {
+namespace {
+
+constexpr std::size_t kIdLength = 8;
+constexpr std::size_t kNameBegin = 9;
+// Each piece is scanned while it is still in the processor's cache.
+constexpr std::size_t kPiece = std::size_t{256} << 10;
+// Few lines are shorter; memory that is not touched costs nothing.
+constexpr std::size_t kShortLine = 32;
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
+
+std::string_view WithoutReturn(std::string_view line) {
+  if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+  return line;
+}
+
+// Whether eight characters are digits: such a number needs no look for its range.
+bool IsPlainId(const char* digits) {
+  std::uint64_t eight = 0;
+  std::memcpy(&eight, digits, kIdLength);
+  constexpr std::uint64_t ones = 0x0101010101010101;
+  // Digits are 0x30 to 0x39: the high half is 3, and adding 6 to the low half does not carry.
+  const std::uint64_t high = eight & (ones * 0xF0);
+  const std::uint64_t carried = (eight + ones * 6) & (ones * 0xF0);
+  return high == ones * 0x30 && carried == ones * 0x30;
+}
+
+std::int32_t OrganizationId(std::string_view line) {
+  return ToInt32(std::trunc(Val(line.substr(0, kIdLength))));
+}
+
+bool IsBlank(std::string_view line) {
+  return line.find_first_not_of(' ') == std::string_view::npos;
+}
+
+}  // namespace
+
+std::optional<float> HeaderVersion(std::string_view line) {
+  if (!line.starts_with(kListHeader)) return std::nullopt;
+  return ToSingle(Val(line.substr(kListHeader.size())));
+}
+
+OrganizationList::OrganizationList(const std::string& path) {
+  std::error_code failure;
+  const auto size = std::filesystem::file_size(PathOf(path), failure);
+  const OpenFile file(failure ? nullptr : std::fopen(path.c_str(), "rb"));
+  if (!file) throw RuntimeError(path + ": " + std::strerror(failure ? failure.value() : errno));
+  if (size > std::numeric_limits<std::uint32_t>::max()) throw RuntimeError(path + ": too large");
+  std::setbuf(file.get(), nullptr);
+
+  bytes_.resize(size);
+  begins_.reserve(size / kShortLine);
+  LineScan scan;
+  const auto onLine = [this](std::size_t begin, std::size_t end, std::size_t comma) {
+    if (!IsPlainOrganization(begin, comma)) return AddLine(begin, end, comma);
+    begins_.push_back(static_cast<std::uint32_t>(begin));
+    return true;
+  };
+  bool whole = true;
+  std::size_t have = 0;
+  while (whole && have < size) {
+    const std::size_t wanted = std::min(kPiece, size - have);
+    const std::size_t got = std::fread(bytes_.data() + have, 1, wanted, file.get());
+    if (got == 0) break;
+    have += got;
+    whole = scan.Advance(bytes_.data(), have, onLine);
+  }
+  if (std::ferror(file.get()) != 0) throw RuntimeError(path + ": cannot be read");
+  bytes_.resize(have);
+  if (whole && scan.LineBegin() < have) AddLine(scan.LineBegin(), have, scan.LastComma());
+}
+
+bool OrganizationList::IsPlainOrganization(std::size_t begin, std::size_t lastComma) const {
+  return lastComma != LineScan::kNone && lastComma >= begin + kNameBegin &&
+         IsPlainId(bytes_.data() + begin);
+}
+
+bool OrganizationList::AddLine(std::size_t begin, std::size_t end, std::size_t lastComma) {
+  const std::string_view line = WithoutReturn({bytes_.data() + begin, end - begin});
+  if (line.empty()) return true;
+  if (line[0] == ';') {
+    try {
+      if (const auto version = HeaderVersion(line)) version_ = version;
+    } catch (const RuntimeError& error) {
+      damage_ = error.what();
+    }
+    return damage_.empty();
+  }
+  if (line[0] == '[') {
+    headings_.push_back(Count() + 1);
+  } else {
+    const bool comma = lastComma != LineScan::kNone && lastComma >= begin;
+    if (!TakeOrganization(line, comma ? lastComma - begin : LineScan::kNone)) return false;
+  }
+  begins_.push_back(static_cast<std::uint32_t>(begin));
+  return true;
+}
+
+bool OrganizationList::TakeOrganization(std::string_view line, std::size_t comma) {
+  const bool hasComma =
+      comma != LineScan::kNone && (comma >= kNameBegin || line.size() <= kNameBegin);
+  if (!hasComma && !IsBlank(line)) {
+    damage_ = "an organization without a comma behind its name";
+    return false;
+  }
+  try {
+    OrganizationId(line);
+  } catch (const RuntimeError&) {
+    damage_ = "an organization's number is too large";
+    return false;
+  }
+  return true;
+}
+
+std::string_view OrganizationList::Line(int row) const {
+  const std::size_t begin = begins_[static_cast<std::size_t>(row - 1)];
+  const char* const text = bytes_.data() + begin;
+  const void* const end = std::memchr(text, '\n', bytes_.size() - begin);
+  const std::size_t length = end == nullptr
+                                 ? bytes_.size() - begin
+                                 : static_cast<std::size_t>(static_cast<const char*>(end) - text);
+  return WithoutReturn({text, length});
+}
+
+std::string OrganizationList::Text(int row, int column) const {
+  if (row < 1 || row > Count()) return {};
+  if (column != column::kId) return std::string(View(row, column));
+  return Line(row)[0] == '[' ? std::string() : std::to_string(Id(row));
+}
+
+std::int32_t OrganizationList::Id(int row) const {
+  const std::string_view line = Line(row);
+  return line[0] == '[' ? 0 : OrganizationId(line);
+}
+
+std::string_view OrganizationList::View(int row, int column) const {
+  const std::string_view line = Line(row);
+  if (line[0] == '[') {
+    if (column != column::kCountry || line.size() < 2) return {};
+    return line.substr(1, line.size() - 2);
+  }
+  if (column != column::kOrganization && column != column::kType) return {};
+  const std::string_view rest = line.size() > kNameBegin ? line.substr(kNameBegin) : "";
+  const auto comma = rest.find(',');
+  if (comma == std::string_view::npos) return {};
+  if (column == column::kOrganization) return rest.substr(0, comma);
+  return comma + 2 < rest.size() ? rest.substr(comma + 2) : std::string_view();
+}
+
+}  // namespace benevix

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+#include "controls/controls.h"
+#include "platform/files.h"
+
+namespace benevix {
+
+// The names of other donors that the user has typed, one a line, in the order of typing.
+class OtherNames {
+ public:
+  OtherNames(Files& files, std::string file) : files_(files), file_(std::move(file)) {}
+
+  // Adds every line as an entry; a missing or unreadable file adds none.
+  void LoadOtherNames(ComboBox& names) const;
+
+  // A name that cannot be written is not reported.
+  void AppendOtherName(const std::string& name);
+
+ private:
+  Files& files_;
+  std::string file_;
+};
+
+}  // namespace benevix

@@ -1,0 +1,18 @@
+#include "online/info_viewer.h"
+
+namespace benevix {
+
+void InfoViewer::Form_Load() {
+  info_.VScroll1.max = info_.Label1.height;
+  info_.topmost = true;
+}
+
+void InfoViewer::VScroll1_Scroll() { info_.Label1.top = -info_.VScroll1.value; }
+
+void InfoViewer::Form_Unload() {
+  info_.wb1.visible = false;
+  main_.Line2.visible = false;
+  main_.Line2.visible = true;
+}
+
+}  // namespace benevix

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "controls/controls.h"
+
+namespace benevix {
+
+// The information viewer: a text panel or a page.
+struct frmInfo : Window {
+  frmInfo() {
+    caption = "Information";
+    topmost = true;
+    width = 10800;
+    height = 8400;
+    wb1.visible = false;
+    Label3.visible = false;
+    Label1.holder = "Picture1";
+    VScroll1.holder = "Picture1";
+  }
+
+  // Shows a page in place of the text panel.
+  void ShowPage(const std::string& address) {
+    Picture1.visible = false;
+    wb1.visible = true;
+    wb1.Navigate2(address);
+  }
+
+  PictureBox Picture1;
+  Label Label1;  // the page text
+  ScrollBar VScroll1;
+  Label Label2{"Retrieving Information. Please wait..."};
+  Label Label3{"TRANSLATE"};
+  PageViewer wb1;
+};
+
+template <class F>
+void visit(frmInfo& window, F&& f) {
+  f("Picture1", window.Picture1);
+  f("Label1", window.Label1);
+  f("VScroll1", window.VScroll1);
+  f("Label2", window.Label2);
+  f("Label3", window.Label3);
+  f("wb1", window.wb1);
+}
+
+}  // namespace benevix

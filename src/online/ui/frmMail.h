@@ -1,0 +1,34 @@
+#pragma once
+
+#include "controls/controls.h"
+
+namespace benevix {
+
+// The messenger: a message to an organization.
+struct frmMail : Window {
+  frmMail() {
+    caption = " BVX Messenger";
+    width = 7800;
+    height = 6600;
+    Text1[1].multiLine = true;
+    Command1[2].enabled = false;
+  }
+
+  // 3 the sender's e-mail, 4 the organization's name; the others name the fields.
+  Label Label1[5] = {Label("From:"), Label("Subject:"), Label("Message")};
+  TextBox Text1[2] = {TextBox("What the message is about"), TextBox("The message")};
+  Button Command1[3] = {Button("&Send", "Deliver the message"),
+                        Button("&Close", "Close this screen"),
+                        Button("&Print", "Print a copy of this message")};
+  PictureBox Image1;
+};
+
+template <class F>
+void visit(frmMail& window, F&& f) {
+  f("Label1", window.Label1);
+  f("Text1", window.Text1);
+  f("Command1", window.Command1);
+  f("Image1", window.Image1);
+}
+
+}  // namespace benevix

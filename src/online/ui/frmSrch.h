@@ -1,0 +1,33 @@
+#pragma once
+
+#include "controls/controls.h"
+
+namespace benevix {
+
+// Finds a row of the organization list by a word.
+struct frmSrch : Window {
+  frmSrch() {
+    caption = " Find";
+    width = 4800;
+    height = 2400;
+    Option1[0].value = true;
+  }
+
+  Label Label1{"Word"};
+  TextBox Text1;
+  Frame Frame1{"Search in"};
+  OptionButton Option1[2] = {OptionButton("Country", {}, "Frame1"),
+                             OptionButton("Organization Name", {}, "Frame1")};
+  Button Command1{"&Find"};
+};
+
+template <class F>
+void visit(frmSrch& window, F&& f) {
+  f("Label1", window.Label1);
+  f("Text1", window.Text1);
+  f("Frame1", window.Frame1);
+  f("Option1", window.Option1);
+  f("Command1", window.Command1);
+}
+
+}  // namespace benevix

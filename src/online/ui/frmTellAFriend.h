@@ -1,0 +1,35 @@
+#pragma once
+
+#include "controls/controls.h"
+
+namespace benevix {
+
+namespace friend_field {
+inline constexpr int kFriendName = 0;
+inline constexpr int kFriendMail = 1;
+inline constexpr int kOwnName = 2;
+inline constexpr int kOwnMail = 3;
+}  // namespace friend_field
+
+// Sends a friend a recommendation of the program.
+struct frmTellAFriend : Window {
+  frmTellAFriend() {
+    caption = " Tell a friend about Benevix";
+    width = 6000;
+    height = 4200;
+  }
+
+  Label Label1[4] = {Label("Your Friend's Name"), Label("Friend's E-mail"), Label("Your Name"),
+                     Label("Your E-mail")};
+  TextBox Text1[4];
+  Button Command1[2] = {Button("&Send"), Button("&Cancel")};
+};
+
+template <class F>
+void visit(frmTellAFriend& window, F&& f) {
+  f("Label1", window.Label1);
+  f("Text1", window.Text1);
+  f("Command1", window.Command1);
+}
+
+}  // namespace benevix

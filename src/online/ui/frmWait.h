@@ -1,0 +1,25 @@
+#pragma once
+
+#include "controls/controls.h"
+
+namespace benevix {
+
+// Stands while a long request runs; its timer takes it away at the latest.
+struct frmWait : Window {
+  frmWait() {
+    caption = " Contacting Remote Server";
+    width = 5400;
+    height = 1800;
+  }
+
+  Label Label2{"Retrieving Information. Please wait..."};
+  Timer Timer1{1000, true};
+};
+
+template <class F>
+void visit(frmWait& window, F&& f) {
+  f("Label2", window.Label2);
+  f("Timer1", window.Timer1);
+}
+
+}  // namespace benevix

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "controls/controls.h"
+
+namespace benevix {
+
+// Asks a first-time user for the two modes, page by page.
+struct frmWizard : Window {
+  frmWizard() {
+    width = 6600;
+    height = 4200;
+  }
+
+  PictureBox Image1;
+  Label Label1;  // the page text
+  OptionButton Option1[2];
+  Button Command1{"&Continue"};
+  Button Command2{"&Help"};
+};
+
+template <class F>
+void visit(frmWizard& window, F&& f) {
+  f("Image1", window.Image1);
+  f("Label1", window.Label1);
+  f("Option1", window.Option1);
+  f("Command1", window.Command1);
+  f("Command2", window.Command2);
+}
+
+}  // namespace benevix

@@ -1,0 +1,162 @@
+#include "platform/linux/linux_files.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <filesystem>
+#include <string_view>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+#include "base/runtime_error.h"
+
+namespace benevix {
+namespace {
+
+constexpr std::size_t kChunk = std::size_t{1} << 20;
+constexpr mode_t kNewFile = 0666;  // less what the user's mask takes away
+
+[[noreturn]] void Fail(const std::string& path, int reason = errno) {
+  throw RuntimeError(path + ": " + std::generic_category().message(reason));
+}
+
+class OpenFile {
+ public:
+  OpenFile(std::string path, int flags)
+      : path_(std::move(path)), descriptor_(open(path_.c_str(), flags | O_CLOEXEC, kNewFile)) {
+    if (descriptor_ < 0) Fail(path_);
+  }
+  ~OpenFile() { close(descriptor_); }
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+
+  [[nodiscard]] int Descriptor() const { return descriptor_; }
+
+  [[nodiscard]] struct stat Status() const {
+    struct stat status {};
+    Check(fstat(descriptor_, &status));
+    return status;
+  }
+
+  // Reads on to `most` bytes or the file's end.
+  [[nodiscard]] std::string Read(std::size_t most) const {
+    std::string bytes(most, '\0');
+    std::size_t count = 0;
+    while (count < most) {
+      const ssize_t got = read(descriptor_, bytes.data() + count, most - count);
+      if (got == 0) break;
+      if (got < 0 && errno == EINTR) continue;
+      if (got < 0) Fail(path_);
+      count += static_cast<std::size_t>(got);
+    }
+    bytes.resize(count);
+    return bytes;
+  }
+
+  void Write(std::string_view bytes) const {
+    while (!bytes.empty()) {
+      const ssize_t put = write(descriptor_, bytes.data(), bytes.size());
+      if (put < 0 && errno == EINTR) continue;
+      if (put < 0) Fail(path_);
+      bytes.remove_prefix(static_cast<std::size_t>(put));
+    }
+  }
+
+  // What cannot be flushed (EINVAL: a device, the folders of some file systems) counts as flushed.
+  void Flush() const { Check(fsync(descriptor_) != 0 && errno != EINVAL ? -1 : 0); }
+
+  void Check(int result) const {
+    if (result != 0) Fail(path_);
+  }
+
+ private:
+  std::string path_;
+  int descriptor_;
+};
+
+// Makes a file's new name in its folder last.
+void SyncFolderOf(const std::string& path) {
+  const std::string folder = std::filesystem::path(path).parent_path().string();
+  OpenFile(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY).Flush();
+}
+
+std::string WithLinksFollowed(const std::string& path) {
+  std::error_code notThere;
+  const auto followed = std::filesystem::canonical(path, notThere);
+  return notThere ? path : followed.string();
+}
+
+}  // namespace
+
+bool LinuxFiles::Exists(const std::string& path) const {
+  return access(path.c_str(), F_OK) == 0;
+}
+
+std::string LinuxFiles::ReadAll(const std::string& path) const {
+  const OpenFile file(path, O_RDONLY);
+  const auto size = static_cast<std::size_t>(file.Status().st_size);
+  std::string bytes = file.Read(size + 1);  // one more than its size shows the end in one go
+  while (bytes.size() > size) {
+    const std::string more = file.Read(kChunk);
+    if (more.empty()) break;
+    bytes += more;
+  }
+  return bytes;
+}
+
+void LinuxFiles::Replace(const std::string& path, const std::string& bytes) {
+  const std::string target = WithLinksFollowed(path);
+  const std::string beside = target + "." + std::to_string(getpid()) + ".new";
+  const OpenFile file(beside, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW);
+  try {
+    struct stat old {};
+    if (stat(target.c_str(), &old) == 0) file.Check(fchmod(file.Descriptor(), old.st_mode & 07777));
+    file.Write(bytes);
+    file.Flush();
+    if (std::rename(beside.c_str(), target.c_str()) != 0) Fail(target);
+  } catch (const RuntimeError&) {
+    unlink(beside.c_str());
+    throw;
+  }
+  SyncFolderOf(target);
+}
+
+void LinuxFiles::Append(const std::string& path, const std::string& bytes) {
+  const bool isNew = !Exists(path);
+  const OpenFile file(path, O_WRONLY | O_APPEND | O_CREAT);
+  while (flock(file.Descriptor(), LOCK_EX) != 0 && errno == EINTR) {
+  }
+  const off_t length = file.Status().st_size;
+  try {
+    if (isNew) SyncFolderOf(path);
+    file.Write(bytes);
+    file.Check(fdatasync(file.Descriptor()));
+  } catch (const RuntimeError&) {
+    if (isNew && length == 0) {
+      unlink(path.c_str());
+    } else if (ftruncate(file.Descriptor(), length) == 0) {
+      fdatasync(file.Descriptor());
+    }
+    throw;
+  }
+}
+
+void LinuxFiles::Remove(const std::string& path) {
+  if (unlink(path.c_str()) != 0 && errno != ENOENT) Fail(path);
+}
+
+void LinuxFiles::Copy(const std::string& from, const std::string& to) {
+  const OpenFile source(from, O_RDONLY);
+  std::error_code notThere;
+  if (std::filesystem::equivalent(from, to, notThere)) {
+    throw RuntimeError(to + ": is the file to be copied");
+  }
+  std::string part = source.Read(kChunk);
+  const OpenFile target(to, O_WRONLY | O_CREAT | O_TRUNC);
+  for (; !part.empty(); part = source.Read(kChunk)) target.Write(part);
+  target.Flush();
+}
+
+}  // namespace benevix

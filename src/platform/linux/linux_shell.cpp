@@ -1,0 +1,77 @@
+#include "platform/linux/linux_shell.h"
+
+#include <filesystem>
+#include <fstream>
+#include <spawn.h>
+#include <string_view>
+#include <system_error>
+#include <unistd.h>
+
+#include "base/runtime_error.h"
+#include "platform/linux/user_folders.h"
+
+namespace benevix {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The value of a line NAME="value": quoted, backslashes escape, only $HOME in front may be a
+// variable (https://www.freedesktop.org/wiki/Software/xdg-user-dirs/). Empty when there is none or
+// it is no absolute path.
+std::string UserFolder(std::string_view name) {
+  const std::string before = std::string(name) + "=\"";
+  constexpr std::string_view home = "$HOME";
+  std::string path;
+  std::ifstream file(ConfigFolder() + "/user-dirs.dirs");
+  for (std::string line; std::getline(file, line);) {
+    line.erase(0, line.find_first_not_of(" \t"));
+    if (!line.starts_with(before)) continue;
+    std::size_t i = before.size();
+    path.clear();
+    if (std::string_view(line).substr(i).starts_with(home)) {
+      path = HomeFolder();
+      i += home.size();
+    }
+    for (; i < line.size() && line[i] != '"'; ++i) {
+      if (line[i] == '\\' && i + 1 < line.size()) ++i;
+      path += line[i];
+    }
+  }
+  while (path.size() > 1 && path.back() == '/') path.pop_back();
+  return path.starts_with('/') ? path : "";
+}
+
+}  // namespace
+
+std::string LinuxShell::SpecialFolder(int folderId) const {
+  if (folderId == kProgramsFolder) return DataFolder() + "/applications";
+  if (folderId != kDesktopFolder) return "";
+  const std::string desktop = UserFolder("XDG_DESKTOP_DIR");
+  return desktop.empty() ? HomeFolder() + "/Desktop" : desktop;
+}
+
+void LinuxShell::CopyIntoFolder(const std::string& file, const std::string& folder) {
+  std::error_code ignored;
+  const fs::path from(file);
+  fs::copy_file(from, folder / from.filename(), fs::copy_options::overwrite_existing, ignored);
+}
+
+void LinuxShell::StartProgram(const std::string& file) {
+  std::error_code error;
+  constexpr auto executable =
+      fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
+  fs::permissions(file, executable, fs::perm_options::add, error);
+  if (error) throw RuntimeError(file + ": " + error.message());
+
+  posix_spawnattr_t attributes;
+  posix_spawnattr_init(&attributes);
+  posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
+  std::string name = file;
+  char* const arguments[] = {name.data(), nullptr};
+  pid_t process = 0;
+  const int code = posix_spawn(&process, file.c_str(), nullptr, &attributes, arguments, environ);
+  posix_spawnattr_destroy(&attributes);
+  if (code != 0) throw RuntimeError(file + ": " + std::generic_category().message(code));
+}
+
+}  // namespace benevix

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/shell.h"
+
+namespace benevix {
+
+// Desktop shell by the freedesktop.org conventions: start menu entries in the user's
+// "applications" folder, the desktop folder as the user-dirs file names it.
+class LinuxShell : public Shell {
+ public:
+  [[nodiscard]] std::string SpecialFolder(int folderId) const override;
+  [[nodiscard]] std::string ShortcutExtension() const override { return ".desktop"; }
+  void CopyIntoFolder(const std::string& file, const std::string& folder) override;
+  // Makes the file executable first; the program started outlives this one.
+  void StartProgram(const std::string& file) override;
+};
+
+}  // namespace benevix

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/clock.h"
+
+namespace benevix {
+
+// The computer's clock in the local time zone.
+class SystemClock : public Clock {
+ public:
+  [[nodiscard]] DateTime Now() const override;
+};
+
+}  // namespace benevix

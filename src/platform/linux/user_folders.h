@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+namespace benevix {
+
+// The user's base folders, from the XDG Base Directory Specification
+// (https://specifications.freedesktop.org/basedir-spec/): the variable when it holds an absolute
+// path, otherwise its default. No slash at the end.
+
+std::string HomeFolder();
+std::string DataFolder();    // $XDG_DATA_HOME, ~/.local/share
+std::string ConfigFolder();  // $XDG_CONFIG_HOME, ~/.config
+
+}  // namespace benevix

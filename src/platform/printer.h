@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace benevix {
+
+// The system's default printer, line by line.
+class Printer {
+ public:
+  virtual ~Printer() = default;
+  // Prints a line that begins at a tab column, counted from 1. Raises RuntimeError without a printer.
+  virtual void PrintLine(int column, const std::string& line) = 0;
+  // Ends the document and sends it.
+  virtual void EndDoc() = 0;
+};
+
+}  // namespace benevix

@@ -1,0 +1,156 @@
+#pragma once
+
+#include "controls/desk.h"
+#include "controls/input.h"
+#include "core/messages.h"
+#include "core/run_values.h"
+#include "core/settings_store.h"
+#include "core/start_up.h"
+#include "database/codec.h"
+#include "database/list_update.h"
+#include "database/organization_database.h"
+#include "database/other_names.h"
+#include "online/contact_information.h"
+#include "online/donors_ranking.h"
+#include "online/help.h"
+#include "online/info_viewer.h"
+#include "online/list_update_command.h"
+#include "online/messenger.h"
+#include "online/news.h"
+#include "online/organization_contacts.h"
+#include "online/organization_information.h"
+#include "online/search.h"
+#include "online/server_files.h"
+#include "online/tell_a_friend.h"
+#include "online/translation.h"
+#include "online/ui/frmWait.h"
+#include "online/wizard.h"
+#include "platform/surroundings.h"
+#include "records/finalization.h"
+#include "records/history.h"
+#include "records/last_session.h"
+#include "records/payment_options.h"
+#include "records/printing.h"
+#include "records/year_to_date.h"
+#include "session/budget_entry.h"
+#include "session/distribution.h"
+#include "session/donation_entry.h"
+#include "session/donor_name.h"
+#include "session/edit_commands.h"
+#include "session/favorites.h"
+#include "session/list_view_events.h"
+#include "session/main_window.h"
+
+namespace benevix {
+
+// All windows of the program.
+struct Windows {
+  frmBVX main;
+  frmSplash splash;
+  frmPayOpt payment;
+  frmInfo info;
+  frmPersInfo contact;
+  frmDonRankg ranking;
+  frmWait wait;
+  frmWizard wizard;
+  frmYtdTag ytd;
+  frmMail mail;
+  frmTellAFriend tellAFriend;
+  frmPrefsTranslate translate;
+  frmSrch search;
+};
+
+// Builds every room once and hands each exactly what it touches. One run of the program, from Main
+// to its end.
+class Program {
+ public:
+  explicit Program(Surroundings surroundings);
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+  ~Program() = default;
+
+  // The entry routine; the splash stands when it returns.
+  void Main();
+  // New Session: the list is reloaded, the session starts empty.
+  void NewSession();
+  // What the program still has to write when it has ended.
+  void Finish();
+
+  [[nodiscard]] Desk& TheDesk() { return desk_; }
+  [[nodiscard]] Input& TheInput() { return input_; }
+  [[nodiscard]] Windows& TheWindows() { return windows_; }
+
+  // For whoever asks for the values and the routines by name.
+  [[nodiscard]] const SessionValues& Values() const { return values_; }
+  [[nodiscard]] const FeeRates& Rates() const { return rates_; }
+  [[nodiscard]] const RunValues& Run() const { return run_; }
+  [[nodiscard]] const TextCodec& Codec() const { return codec_; }
+  [[nodiscard]] Messages& TheMessages() { return messages_; }
+  [[nodiscard]] OrganizationContacts& Contacts() { return contacts_; }
+  [[nodiscard]] const Surroundings& TheSurroundings() const { return surroundings_; }
+
+ private:
+  [[nodiscard]] StartUp::Steps StartUpSteps();
+  [[nodiscard]] ServerFetch Fetch();
+  void ContactSaved(ContactCaller caller);
+  void UpdateListSilently();
+  void DownloadUpdater();
+
+  // The one table that says which event goes to which handler, by window.
+  void ConnectEvents();
+  void ConnectSplash();
+  void ConnectMainWindow();
+  void ConnectSessionMenus();
+  void ConnectOtherMenus();
+  void ConnectPayment();
+  void ConnectViewer();
+  void ConnectContact();
+  void ConnectSmallWindows();
+
+  Surroundings surroundings_;
+  EventTable events_;
+  Windows windows_;
+  Desk desk_;
+  Input input_;
+  RunValues run_;
+  SessionValues values_;
+  FeeRates rates_;
+
+  SettingsStore settings_;
+  Messages messages_;
+  TextCodec codec_;
+  ServerFiles server_;
+  OrganizationDatabase database_;
+  OtherNames otherNames_;
+  ListUpdate listUpdate_;
+  BudgetEntry budgetEntry_;
+  DonationEntry donationEntry_;
+  MainWindow mainWindow_;
+  ListViewEvents listView_;
+  DonorName donorName_;
+  Favorites favorites_;
+  EditCommands editCommands_;
+  Distribution distribution_;
+  PaymentOptions paymentOptions_;
+  History history_;
+  Finalization finalization_;
+  YearToDate yearToDate_;
+  LastSession lastSession_;
+  Printing printing_;
+  Help help_;
+  News news_;
+  InfoViewer infoViewer_;
+  ContactInformation contact_;
+  DonorsRanking ranking_;
+  OrganizationContacts contacts_;
+  OrganizationInformation information_;
+  Messenger messenger_;
+  TellAFriend tellAFriend_;
+  Translation translation_;
+  Wizard wizard_;
+  Search search_;
+  ListUpdateCommand listUpdateCommand_;
+  StartUp startUp_;
+};
+
+}  // namespace benevix

@@ -1,0 +1,108 @@
+#include "records/printing.h"
+
+#include <cstdio>
+#include <string_view>
+
+#include "base/lines.h"
+#include "base/runtime_error.h"
+#include "records/session_record.h"
+
+namespace benevix {
+
+void Printing::mnuPrntSession_Click() {
+  try {
+    PrintWaitNotice();
+    PrintSession(finalization_.LastHeading());
+  } catch (const RuntimeError&) {
+    // The printout ends there.
+  }
+}
+
+void Printing::mnuPrtHistory_Click() {
+  try {
+    PrintWaitNotice();
+    PrintPageHeading();
+    PrintHistory();
+    PrintDocumentEnd();
+  } catch (const RuntimeError&) {
+    surroundings_.printer.EndDoc();
+  }
+}
+
+void Printing::PrintMessage(const std::string& from, const std::string& to,
+                            const std::string& subject, const std::string& message) {
+  try {
+    PrintPageHeading();
+    PrintLine("From: " + from);
+    PrintLine("To: " + to);
+    PrintLine("Subject: " + subject);
+    PrintLine("");
+    for (const std::string_view line : Lines(message)) PrintLine(std::string(line));
+    PrintDocumentEnd();
+  } catch (const RuntimeError&) {
+    // The printout ends there.
+  }
+}
+
+void Printing::PrintLine(const std::string& line, int column) {
+  surroundings_.printer.PrintLine(column, line);
+}
+
+void Printing::PrintWaitNotice() {
+  desk_.Load(wait_);
+  wait_.caption = surroundings_.info.deployment.product + " - Printing...";
+  wait_.Label2.caption = "Sending data to the default Printer. Please wait...";
+  wait_.Timer1.enabled = true;
+  desk_.Show(wait_);
+  surroundings_.waits.DoEvents();
+}
+
+void Printing::PrintPageHeading() {
+  constexpr int column = 40;
+  const Deployment& deployment = surroundings_.info.deployment;
+  PrintLine(" -- " + deployment.product + "  " + deployment.copyright + " -- ", column);
+  PrintLine("");
+  PrintLine("");
+}
+
+void Printing::PrintTitle(const std::string& title) {
+  constexpr int column = 50;
+  PrintLine(surroundings_.info.deployment.product + title, column);
+  PrintLine("");
+  PrintLine("");
+}
+
+void Printing::PrintDocumentEnd() {
+  const DateTime now = surroundings_.clock.Now();
+  char seconds[8];
+  std::snprintf(seconds, sizeof seconds, ":%02d", static_cast<int>(now.second));
+  PrintLine("");
+  PrintLine(" ------------------------- End Doc ------ " + DateText(now) + " @ " + TimeText(now) +
+            seconds + " ------------- " + surroundings_.info.deployment.serverBase +
+            " ------------- ");
+  surroundings_.printer.EndDoc();
+}
+
+void Printing::PrintSession(const std::string& heading) {
+  PrintPageHeading();
+  PrintTitle(" - Current Session");
+  SessionRecord record = finalization_.LastRecord();
+  std::string_view rest = heading;
+  record.transactionId = CutField(rest, ',');
+  record.amountText = CutField(rest, ',');
+  PrintLine("-- " + std::string(rest));
+  PrintLine(TransactionLine(record));
+  for (const std::string& line : OrganizationLines(main_.ListView1)) PrintLine(line);
+  PrintLine(PaymentLine(record));
+  PrintDocumentEnd();
+}
+
+void Printing::PrintHistory() {
+  constexpr int column = 7;
+  PrintTitle(" - Sessions History");
+  const std::string history =
+      surroundings_.files.ReadAll(surroundings_.info.Resource("history.dat"));
+  for (const std::string_view line : Lines(history)) PrintLine(std::string(line), column);
+}
+
+}  // namespace benevix

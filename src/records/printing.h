@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+
+#include "controls/desk.h"
+#include "online/ui/frmWait.h"
+#include "platform/surroundings.h"
+#include "records/finalization.h"
+#include "session/ui/frmBVX.h"
+
+namespace benevix {
+
+// Prints the session just finalized, the whole history, or a message, on the default printer. A
+// missing history or a printer error ends the printout.
+class Printing {
+ public:
+  Printing(Surroundings& surroundings, frmWait& wait, Desk& desk, const frmBVX& main,
+           const Finalization& finalization)
+      : surroundings_(surroundings),
+        wait_(wait),
+        desk_(desk),
+        main_(main),
+        finalization_(finalization) {}
+
+  void mnuPrntSession_Click();
+  void mnuPrtHistory_Click();
+  // From, To, Subject, an empty line and the message's lines.
+  void PrintMessage(const std::string& from, const std::string& to, const std::string& subject,
+                    const std::string& message);
+
+ private:
+  void PrintWaitNotice();
+  void PrintPageHeading();
+  void PrintDocumentEnd();
+  // `heading` is "ID,amount,date @ time".
+  void PrintSession(const std::string& heading);
+  void PrintHistory();
+  void PrintTitle(const std::string& title);
+  void PrintLine(const std::string& line, int column = 1);
+
+  Surroundings& surroundings_;
+  frmWait& wait_;
+  Desk& desk_;
+  const frmBVX& main_;
+  const Finalization& finalization_;
+};
+
+}  // namespace benevix

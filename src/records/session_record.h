@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/currency.h"
+#include "controls/list_view.h"
+#include "platform/clock.h"
+
+namespace benevix {
+
+// A finalized session as the history and the printout tell it.
+struct SessionRecord {
+  std::string transactionId;
+  std::string amountText;  // the payment amount as sent
+  Currency budget;
+  Currency charged;  // Budget plus the fees that the user pays
+};
+
+// The lines of a record, without line ends.
+std::string TransactionLine(const SessionRecord& record);
+std::vector<std::string> OrganizationLines(const ListView& list);
+// Raises RuntimeError when the amount is beyond a currency.
+std::string PaymentLine(const SessionRecord& record);
+
+// Month-day-year, "03-05-2003", and hours and minutes, "12:34".
+std::string DateText(const DateTime& time);
+std::string TimeText(const DateTime& time);
+
+}  // namespace benevix

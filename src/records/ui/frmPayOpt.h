@@ -1,0 +1,44 @@
+#pragma once
+
+#include "controls/controls.h"
+
+namespace benevix {
+
+namespace payment {
+inline constexpr int kCreditCard = 0;
+inline constexpr int kFundsTransfer = 1;
+inline constexpr int kECheck = 2;
+}  // namespace payment
+
+// Asks for the session's form of payment.
+struct frmPayOpt : Window {
+  frmPayOpt() {
+    caption = " Payment Options";
+    topmost = true;
+    width = 6600;
+    height = 3600;
+    Command1[0].enabled = false;
+  }
+
+  Label Label1{
+      "What form of payment would you like to use for this session?              For more "
+      "information press the Help button."};
+  OptionButton Option1[3] = {
+      OptionButton("Credit Card",
+                   "Debited from Credit Card - Fees Apply - - Press Help for more info"),
+      OptionButton("Funds Transfer",
+                   "Founds Transfer from available funds on your account - Press Help for more "
+                   "info"),
+      OptionButton("e-check",
+                   "Transfer from your Bank account - Fees apply - Press Help for more info")};
+  Button Command1[2] = {Button("&Continue"), Button("&Help")};
+};
+
+template <class F>
+void visit(frmPayOpt& window, F&& f) {
+  f("Label1", window.Label1);
+  f("Option1", window.Option1);
+  f("Command1", window.Command1);
+}
+
+}  // namespace benevix

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "controls/controls.h"
+
+namespace benevix {
+
+// What the selected organization has received.
+struct frmYtdTag : Window {
+  frmYtdTag() {
+    caption = " Status";
+    width = 3600;
+    height = 2400;
+  }
+
+  Label Label1[4] = {Label("Today"), Label("This Month"), Label("This Year"),
+                     Label("Total Ever")};
+  Label Label2[4];  // the amounts
+};
+
+template <class F>
+void visit(frmYtdTag& window, F&& f) {
+  f("Label1", window.Label1);
+  f("Label2", window.Label2);
+}
+
+}  // namespace benevix

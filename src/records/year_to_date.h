@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "controls/desk.h"
+#include "core/run_values.h"
+#include "platform/surroundings.h"
+#include "records/ui/frmYtdTag.h"
+#include "session/ui/frmBVX.h"
+
+namespace benevix {
+
+// The table of what each organization has received this year. It is the server's; the program keeps
+// a copy for the time of a run.
+class YearToDate {
+ public:
+  YearToDate(Surroundings& surroundings, ServerFetch fetch, RunValues& run, frmBVX& main,
+             frmYtdTag& window, Desk& desk)
+      : surroundings_(surroundings),
+        fetch_(std::move(fetch)),
+        run_(run),
+        main_(main),
+        window_(window),
+        desk_(desk) {}
+
+  // Replaces the copy; an empty answer or an error page leaves an older one.
+  void DownloadYtd();
+
+  // Shows the selected row's amounts and sets the colour mark. A record without "," is told by
+  // YtdState 2; a table that cannot be read changes nothing.
+  void ShowYtd();
+
+  // Opens the window of the amounts, or closes it.
+  void iLbl_Click();
+
+  // Takes the copy of this run away; errors are ignored.
+  void RemoveYtd();
+
+ private:
+  enum class Mark { Found, NoData };
+  void SetMark(Mark mark);
+  // The selected row's record behind its key; empty when there is none.
+  [[nodiscard]] bool FindRecord(std::string_view text, std::string& amounts);
+  void ShowAmounts(std::string_view amounts);
+  [[nodiscard]] std::string File() const { return surroundings_.info.Resource("ytd.dat"); }
+
+  Surroundings& surroundings_;
+  ServerFetch fetch_;
+  RunValues& run_;
+  frmBVX& main_;
+  frmYtdTag& window_;
+  Desk& desk_;
+};
+
+}  // namespace benevix

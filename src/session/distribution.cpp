@@ -1,0 +1,35 @@
+#include "session/distribution.h"
+
+#include <algorithm>
+
+#include "database/organization_list.h"
+
+namespace benevix {
+
+// The largest amount that fits with its fees into an equal part of the Balance.
+Currency Distribution::Share(std::size_t stillToCome) const {
+  return donation_.LargestWithin(Currency::FromUnits(
+      values_.Balance.Units() / static_cast<std::int64_t>(stillToCome)));
+}
+
+void Distribution::mnuDistribFavs_Click() {
+  ListView& list = main_.ListView1;
+  std::vector<int> rows = favorites_.Rows();
+  std::erase_if(rows,
+                [&](int row) { return !list.SubItem(row, column::kRecord).empty(); });
+  if (!donation_.KnowsDonor()) return;
+  if (rows.empty() || Share(rows.size()) == Currency()) {
+    messages_.Show("The Balance is too small to distribute");
+    return;
+  }
+  const int selected = list.selected;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const Currency share = Share(rows.size() - i);
+    if (share == Currency()) continue;
+    list.selected = rows[i];
+    donation_.Give(share);
+  }
+  list.selected = selected;
+}
+
+}  // namespace benevix

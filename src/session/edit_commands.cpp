@@ -1,0 +1,23 @@
+#include "session/edit_commands.h"
+
+#include "database/organization_list.h"
+
+namespace benevix {
+
+bool EditCommands::RowCarriesDonation() const {
+  const ListView& list = main_.ListView1;
+  return list.selected != 0 && !list.SubItem(list.selected, column::kRecord).empty();
+}
+
+void EditCommands::mnuCls_Click() {
+  if (RowCarriesDonation()) donation_.Give(Currency());
+  main_.Text1[2].Write("");
+}
+
+void EditCommands::mnuCorrect_Click() {
+  if (!RowCarriesDonation()) return;
+  const ListView& list = main_.ListView1;
+  donation_.Give(Currency::FromText(list.SubItem(list.selected, column::kAmount)));
+}
+
+}  // namespace benevix

@@ -1,0 +1,144 @@
+#include "session/favorites.h"
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+
+namespace benevix {
+namespace {
+
+// Where a search for favorites behind a damaged count ends.
+constexpr int kMostGap = 100;
+
+std::string Id(const std::string& favorite) { return favorite.substr(0, favorite.find(',')); }
+
+bool IsReadable(const std::string& favorite) {
+  return favorite.find(',') != std::string::npos && IsNumeric(Id(favorite));
+}
+
+}  // namespace
+
+std::string Favorites::Stored(const std::string& name) {
+  return settings_.GetString(Root::CurrentUser, kFavoritesPath, name);
+}
+
+void Favorites::Save(const std::string& name, const std::string& value) {
+  settings_.SaveString(Root::CurrentUser, kFavoritesPath, name, value);
+}
+
+void Favorites::LoadFavoritesMenu() {
+  auto favorites = Read();
+  if (!favorites) {
+    Repair();
+    favorites = Read();
+  }
+  favorites_ = favorites.value_or(std::vector<Favorite>());
+  std::set<std::string> ids;
+  for (const Favorite& favorite : favorites_) ids.insert(favorite.id);
+  const auto rows = database_.FindRows(ids);
+  for (Favorite& favorite : favorites_) {
+    const auto found = rows.find(favorite.id);
+    favorite.row = found == rows.end() ? 0 : found->second;
+  }
+  BuildMenu();
+}
+
+std::optional<std::vector<Favorites::Favorite>> Favorites::Read() {
+  const std::string text = Stored("");
+  std::vector<Favorite> favorites;
+  if (text.empty()) return favorites;
+  const auto count = ParseNumber(text);
+  if (!count) return std::nullopt;
+  for (double i = 1; i <= std::trunc(*count); ++i) {
+    const std::string favorite = Stored(DoubleToText(i));
+    if (!IsReadable(favorite)) return std::nullopt;
+    favorites.push_back({Id(favorite), favorite.substr(favorite.find(',') + 1)});
+  }
+  return favorites;
+}
+
+void Favorites::Repair() {
+  std::vector<std::string> readable;
+  for (int i = 1, gap = 0; gap < kMostGap; ++i) {
+    const std::string favorite = Stored(std::to_string(i));
+    gap = favorite.empty() ? gap + 1 : 0;
+    if (IsReadable(favorite)) readable.push_back(favorite);
+  }
+  for (std::size_t i = 0; i < readable.size(); ++i) Save(std::to_string(i + 1), readable[i]);
+  Save("", std::to_string(readable.size()));
+}
+
+void Favorites::BuildMenu() {
+  auto& items = main_.mnuFavs.items;
+  items.clear();
+  int index = 0;
+  for (const Favorite& favorite : favorites_) {
+    MenuItem& item = items[index++];
+    item.caption = favorite.row != 0 ? favorite.name : favorite.name + " (not in the list)";
+    item.enabled = favorite.row != 0 || removing_;
+  }
+  main_.mnuFavsRemove.enabled = !favorites_.empty() && !removing_;
+  main_.mnuCancelRemove.enabled = removing_;
+}
+
+void Favorites::Add() {
+  const ListView& list = main_.ListView1;
+  const std::string id = list.SubItem(list.selected, column::kId);
+  if (list.selected == 0 || !list.Text(list.selected).empty() || id.empty()) return;
+  const bool isThere = std::any_of(favorites_.begin(), favorites_.end(),
+                                   [&](const Favorite& favorite) { return favorite.id == id; });
+  if (isThere) return;
+  const std::string name = list.SubItem(list.selected, column::kOrganization);
+  favorites_.push_back({id, name, list.selected});
+  // The value before the count: a crash between the two leaves the old set.
+  Save(std::to_string(favorites_.size()), id + "," + name);
+  Save("", std::to_string(favorites_.size()));
+  BuildMenu();
+}
+
+void Favorites::mnuFavs_Click(int index) {
+  const auto i = static_cast<std::size_t>(index);
+  if (removing_) return Remove(i);
+  if (favorites_[i].row != 0) listView_.Select(favorites_[i].row, false);
+}
+
+void Favorites::mnuFavsRemove_Click() {
+  if (!removing_) hintBefore_ = main_.Label6.caption;
+  removing_ = true;
+  main_.Label6.caption = "Choose from the Favorites menu the favorite to remove, or Cancel Remove.";
+  BuildMenu();
+}
+
+void Favorites::mnuCancelRemove_Click() { EndRemoving(); }
+
+void Favorites::EndRemoving() {
+  removing_ = false;
+  main_.Label6.caption = hintBefore_;
+  BuildMenu();
+}
+
+void Favorites::Remove(std::size_t index) {
+  favorites_.erase(favorites_.begin() + static_cast<std::ptrdiff_t>(index));
+  Store();
+  EndRemoving();
+}
+
+void Favorites::Store() {
+  for (std::size_t i = 0; i < favorites_.size(); ++i) {
+    Save(std::to_string(i + 1), favorites_[i].id + "," + favorites_[i].name);
+  }
+  Save("", std::to_string(favorites_.size()));
+  settings_.DeleteValue(Root::CurrentUser, kFavoritesPath, std::to_string(favorites_.size() + 1));
+}
+
+std::vector<int> Favorites::Rows() const {
+  std::set<int> rows;
+  for (const Favorite& favorite : favorites_) rows.insert(favorite.row);
+  rows.erase(0);
+  return {rows.begin(), rows.end()};
+}
+
+}  // namespace benevix

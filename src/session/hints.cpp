@@ -1,0 +1,44 @@
+#include "session/hints.h"
+
+namespace benevix {
+
+void ShowHint(frmBVX& main, int step) {
+  const std::string enterDonation = "enter the donation as " + main.Label3.caption +
+                                    " in the Donation box and press <Enter> ";
+  std::string& sentence = main.Label6.caption;
+  switch (step) {
+    case hint::kPreferences:
+      sentence = "Choose your preferences: Send Method, Donor Name, Request Certificate, etc";
+      break;
+    case hint::kAnonymous:
+      sentence = enterDonation;
+      break;
+    case hint::kMyName:
+      sentence = "Verify your name shows correctly, then " + enterDonation;
+      break;
+    case hint::kOtherName:
+      sentence = "Enter a name for this donor, then " + enterDonation;
+      break;
+    case hint::kSelectFirst:
+      sentence = "Select from the list an organization to donate to.";
+      break;
+    case hint::kContinue:
+      sentence = "Press the Continue button to finalize this session.";
+      break;
+    case hint::kSelectAnother:
+      sentence = "Select from the list another organization to donate to.";
+      break;
+    case hint::kFinalized:
+      sentence =
+          "To start over select New Session from the File menu or press Continue to repeat this "
+          "session";
+      break;
+    case hint::kTypeBudget:
+      sentence = "Type a Dollar amount for your Budget (US$) on the Budget box + <Enter>";
+      break;
+    default:
+      break;
+  }
+}
+
+}  // namespace benevix

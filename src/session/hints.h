@@ -1,0 +1,22 @@
+#pragma once
+
+#include "session/ui/frmBVX.h"
+
+namespace benevix {
+
+namespace hint {
+inline constexpr int kPreferences = 1;
+inline constexpr int kAnonymous = 2;
+inline constexpr int kMyName = 3;
+inline constexpr int kOtherName = 4;
+inline constexpr int kSelectFirst = 5;
+inline constexpr int kContinue = 6;
+inline constexpr int kSelectAnother = 7;
+inline constexpr int kFinalized = 8;
+inline constexpr int kTypeBudget = 9;
+}  // namespace hint
+
+// Puts the sentence of a step into the guidance line; a step without one leaves it.
+void ShowHint(frmBVX& main, int step);
+
+}  // namespace benevix

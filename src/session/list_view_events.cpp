@@ -1,0 +1,63 @@
+#include "session/list_view_events.h"
+
+#include "session/hints.h"
+
+namespace benevix {
+
+void ListViewEvents::ListView1_ItemClick(const EventArgs& args) {
+  const ListView& list = main_.ListView1;
+  const bool organization = list.Text(list.selected).empty();
+  EnableOrganizationCommands(organization);
+  if (args.button == MouseButton::Left) {
+    LeftClick(organization, args.byKeyboard);
+  } else {
+    ++main_.TMMenu.popUps;
+  }
+  if (run_.YtdState != 0) showYtd_();
+}
+
+void ListViewEvents::EnableOrganizationCommands(bool enabled) {
+  for (MenuItem* item : {&main_.mnuMoreInfo, &main_.mnuContactThem, &main_.mnuGotheirWeb,
+                         &main_.MMTellMe, &main_.MMContactThem, &main_.MMGoWeb, &main_.mnuFavAddTop,
+                         &main_.mnuFavAdd}) {
+    item->enabled = enabled;
+  }
+}
+
+void ListViewEvents::LeftClick(bool organization, bool byKeyboard) {
+  if (main_.Text1[0].text.empty()) {
+    if (!byKeyboard) desk_.SetFocus(main_.Text1[0]);
+    return;
+  }
+  main_.Text1[2].enabled = organization;
+  main_.mnuDistribFavs.enabled = organization;
+  if (organization) {
+    for (OptionButton& option : main_.Option1) option.enabled = true;
+    for (OptionButton& option : main_.Option2) option.enabled = true;
+    main_.Combo1.enabled = true;
+  }
+  ShowHint(main_, hint::kPreferences);
+}
+
+void ListViewEvents::Select(int row, bool byKeyboard) {
+  ListView& list = main_.ListView1;
+  list.EnsureVisible(row);
+  list.selected = row;
+  EventArgs args;
+  args.byKeyboard = byKeyboard;
+  ListView1_ItemClick(args);
+}
+
+void ListViewEvents::lclist_Click(int index) {
+  const ListView& list = main_.ListView1;
+  const std::string country = main_.lclist.items[index].caption;
+  for (const auto& [element, item] : main_.lclist.items) {
+    // The menu's elements stand at their rows, so the first equal caption is the first equal row.
+    if (element >= list.Count() || item.caption != country || list.Text(element + 1) != country) {
+      continue;
+    }
+    return Select(element + 1, true);
+  }
+}
+
+}  // namespace benevix

@@ -1,0 +1,46 @@
+#include "session/main_window.h"
+
+#include <algorithm>
+
+#include "base/number_text.h"
+
+namespace benevix {
+
+void MainWindow::Text1_KeyPress(EventArgs& args) {
+  const bool digit = args.key >= '0' && args.key <= '9';
+  if (!digit && args.key != '.' && args.key != keys::kBackspace) args.key = 0;
+}
+
+void MainWindow::Text1_KeyUp(int index, const EventArgs& args) {
+  if (args.key != keys::kEnter && args.key != keys::kTab) return;
+  if (index == 0) budget_.Enter();
+  if (index == 2) donation_.Enter();
+}
+
+void MainWindow::Text1_Change(int index) {
+  if (index == 2) donation_.Text1_Change();
+}
+
+void MainWindow::Text1_GotFocus(int index) { ++main_.Text1[index].selections; }
+
+void MainWindow::Timer1_Tick() {
+  constexpr int step = 20;
+  constexpr int ticksToThanks = 200;
+  if (main_.Label4.left > kLabel4Rest) {
+    main_.Label4.left = std::max(main_.Label4.left - step, kLabel4Rest);
+    return;
+  }
+  const int ticks = ToInt32(Val(main_.Timer1.tag)) + 1;
+  main_.Timer1.tag = std::to_string(ticks);
+  if (ticks < ticksToThanks) return;
+  main_.Timer1.enabled = false;
+  main_.Label4.caption = " Thank you!";
+}
+
+void MainWindow::Timer2_Tick() {
+  Shape& indicator = main_.Shape5;
+  indicator.fillColor =
+      indicator.fillColor == colors::kLight3D ? colors::kButtonShadow : colors::kLight3D;
+}
+
+}  // namespace benevix

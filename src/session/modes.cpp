@@ -1,0 +1,25 @@
+#include "session/modes.h"
+
+namespace benevix {
+
+void SetFeeMode(frmBVX& main, FeeMode mode) {
+  const bool deduct = mode == FeeMode::Deduct;
+  main.mnuAddFees.checked = !deduct;
+  main.mnuDeductFees.checked = deduct;
+  Choose(main.Option3, deduct ? 1 : 0);
+}
+
+void EnableFeeMode(frmBVX& main, bool enabled) {
+  main.mnuAddFees.enabled = enabled;
+  main.mnuDeductFees.enabled = enabled;
+  for (OptionButton& option : main.Option3) option.enabled = enabled;
+}
+
+void SetDonationMode(frmBVX& main, DonationMode mode) {
+  const bool percentage = mode == DonationMode::Percentage;
+  main.mnuDirectCurr.checked = !percentage;
+  main.mnuPercentBal.checked = percentage;
+  main.Label3.caption = percentage ? "%" : "$";
+}
+
+}  // namespace benevix

@@ -1,0 +1,249 @@
+#pragma once
+
+#include "controls/controls.h"
+
+namespace benevix {
+
+// The main window.
+struct frmBVX : Window {
+  frmBVX() {
+    caption = "BENEVIX";
+    width = 15360;
+    height = 10800;
+    ListView1.columns = {"Country", "Organization", "Type", "Amount", "D.Pool",
+                         "From",    "ID",           "",     "Fee",    "CC Fee"};
+    Text1[2].enabled = false;
+    Option1[0].value = true;
+    Option2[0].value = true;
+    Option3[0].value = true;
+    for (OptionButton& option : Option1) option.enabled = false;
+    for (OptionButton& option : Option2) option.enabled = false;
+    Combo1.enabled = false;
+    Check1.enabled = false;
+    Command1.enabled = false;
+    for (MenuItem* item : {&mnuDistribFavs, &mnuFavsRemove, &mnuCancelRemove, &mnuPrntSession,
+                           &mnuMoreInfo, &mnuContactThem, &mnuGotheirWeb, &MMTellMe,
+                           &MMContactThem, &MMGoWeb, &mnuFavAddTop, &mnuFavAdd}) {
+      item->enabled = false;
+    }
+    mnuAddFees.checked = true;
+    mnuDirectCurr.checked = true;
+    TMMenu.visible = false;
+    mnuWhatis.visible = false;
+    lclist.items[0];
+    qhelp1.items[0];
+  }
+
+  Label Label1[4] = {Label("Budget"), Label("Balance"), Label("Donation"), Label("Funds")};
+  TextBox Text1[3] = {TextBox("The maximum amount to donate"), TextBox("how much is left"),
+                      TextBox("The amount you give")};
+  Label Label3{"$"};  // the unit of the Donation box
+  Label Label9{"Estimated Bal", "Estimated Balance"};
+  Label Label8;  // the small balance label
+  Label Label6{"Type a Dollar amount in the Budget box and press <Enter>"};  // the guidance line
+  Label Label12{"System Message", "Click to receive"};                      // the news line
+  Label Label10{"Fees"};
+  Label Label11[2] = {Label("Update List"), Label("&Help")};
+  Label Label4{"Benevix helps you give."};  // the credit line, later the payment method
+  Label iLbl{"YTD Status", {}, "Frame9"};
+
+  Frame Frame2{"Fees"};
+  OptionButton Option3[2] = {OptionButton("Add to Budget", {}, "Frame2"),
+                             OptionButton("Deduct from Budget", {}, "Frame2")};
+  Frame Frame1{"Donation shall appear as sent by"};
+  OptionButton Option1[3] = {
+      OptionButton("My Name", "Your name", "Frame1"),
+      OptionButton("Other Name", "Somebody else name. Type the name on the field", "Frame1"),
+      OptionButton("Anonymous", "Somebody with no name", "Frame1")};
+  ComboBox Combo1{true, "Who the donor is", "Frame1"};
+  Frame Frame3{"Deliver as"};
+  OptionButton Option2[2] = {
+      OptionButton("Donors Pool", "Donation goes out with donations sent by other BVX users",
+                   "Frame3"),
+      OptionButton("Stand-alone", "This donation is sent alone", "Frame3")};
+  Frame Frame4{"Mailing Status"};
+  CheckBox Check1{"Send Proof of Mailing", "Click to receive notice when donation is sent out",
+                  "Frame4"};
+  Frame Frame7{"Tax Certificate"};
+  CheckBox Check2{"Request Certificate",
+                  "Tells charity you want a notification for tax purposes", "Frame7"};
+  Frame Frame9{"YTD Status"};
+
+  ListView ListView1;
+  Button Command1{"&Continue", "Send the donation(s)"};  // index 1, the only element of its array
+
+  HttpControl Inet1, Inet2;
+  Timer Timer1{20, false};   // scrolls the credit line in
+  Timer Timer2{500, false};  // makes the news indicator blink
+  PictureBox Image1, Image2, Image3, Image4, Image5, Picture2;
+  Shape Shape1;
+  Shape Shape2;           // the year-to-date mark
+  Shape Shape3, Shape4;   // the two frames around the list
+  Shape Shape5;           // the news indicator
+  Shape Shape6;
+  Shape Shape7;           // the ring around the news indicator
+  Line Line1, Line2, Line3;
+
+  MenuItem TFile{"&File"};
+  MenuItem mnuNew{"&New Session", "TFile"};
+  MenuItem mnuPrntSession{"Print this session", "TFile", true};
+  MenuItem mnuHistory{"History", "TFile"};
+  MenuItem mnuPrtHistory{"Print History", "TFile"};
+  MenuItem mnuUpdateList{"Update List", "TFile", true};
+  MenuItem mnuExit{"E&xit", "TFile", true};
+
+  MenuItem TEdit{"&Edit"};
+  MenuItem mnuCls{"Clear", "TEdit"};
+  MenuItem mnuCorrect{"Correct", "TEdit"};
+
+  MenuItem TFavs{"&Favorites"};
+  MenuItem mnuDistribFavs{"Distribute", "TFavs"};
+  MenuItem mnuFavAddTop{"Add to Favorites", "TFavs", true};
+  MenuItem mnuCancelRemove{"Cancel Remove", "TFavs"};
+  MenuItem mnuFavsRemove{"Remove from Favorites", "TFavs"};
+  MenuArray mnuFavs{"TFavs", true};
+
+  MenuItem Tprefs{"&Preferences"};
+  MenuItem mnuChgPayMethod{"Change Payment Method", "Tprefs"};
+  MenuItem mnuRound{"Round Totals", "Tprefs", true};
+  MenuItem mnuTyped{"Donation field is", "Tprefs"};
+  MenuItem mnuDirectCurr{"Currency", "mnuTyped"};
+  MenuItem mnuPercentBal{"Percentage of Balance", "mnuTyped"};
+  MenuItem mnuFees{"Fees", "Tprefs"};
+  MenuItem mnuAddFees{"Add to my Budget", "mnuFees"};
+  MenuItem mnuDeductFees{"Deduct from my Budget", "mnuFees"};
+  MenuItem mnuSettings{"Contact Info", "Tprefs", true};
+  MenuItem mnuWiz{"Start with the Wizard", "Tprefs"};
+
+  MenuItem TResources{"&Resources"};
+  MenuItem mnuSearch{"Search", "TResources"};
+  MenuItem mnuLocate{"List Countries", "TResources"};
+  MenuArray lclist{"mnuLocate"};  // element i - 1 is the country heading of row i
+  MenuItem mnuShowWiz{"Show Wizard", "TResources"};
+  MenuItem mnuMoreInfo{"Tell me about this organization", "TResources", true};
+  MenuItem mnuContactThem{"Contact this organization", "TResources"};
+  MenuItem mnuGotheirWeb{"Go to their web site", "TResources"};
+  MenuItem mnuRecallSession{"Recall Last Session", "TResources", true};
+  MenuItem mnuSendCopy{"Send a copy of Benevix to a Friend", "TResources"};
+
+  MenuItem THelp{"&Help"};
+  MenuItem mnuAbout{"&About", "THelp"};
+  MenuItem gotoBVXweb{"Go to BVX on the web", "THelp"};
+  MenuItem mnuHelp{"&Help", "THelp"};
+  MenuItem mnuQhelp{"Quick Help", "THelp"};
+  MenuArray qhelp1{"mnuQhelp"};
+  MenuItem mnuSubmitList{"Submit to List", "THelp", true};
+
+  MenuItem TMMenu{"MouseMenu"};  // pop-up of the list
+  MenuItem MMTellMe{"Tell me about this organization", "TMMenu"};
+  MenuItem MMContactThem{"Contact this Organization", "TMMenu"};
+  MenuItem MMGoWeb{"Go to their Website", "TMMenu"};
+  MenuItem mnuFavAdd{"Add to Favorites", "TMMenu", true};
+  MenuItem MMHelp{"Help", "TMMenu", true};
+
+  MenuItem mnuWhatis{"What is it pop"};  // pop-up of the buttons
+  MenuItem whatisBtn1{"What is this button?", "mnuWhatis"};
+};
+
+template <class F>
+void visit(frmBVX& window, F&& f) {
+  f("Label1", window.Label1);
+  f("Text1", window.Text1);
+  f("Label3", window.Label3);
+  f("Label9", window.Label9);
+  f("Label8", window.Label8);
+  f("Frame2", window.Frame2);
+  f("Label10", window.Label10);
+  f("Option3", window.Option3);
+  f("Frame1", window.Frame1);
+  f("Option1", window.Option1);
+  f("Combo1", window.Combo1);
+  f("Frame3", window.Frame3);
+  f("Option2", window.Option2);
+  f("Frame4", window.Frame4);
+  f("Check1", window.Check1);
+  f("Frame7", window.Frame7);
+  f("Check2", window.Check2);
+  f("Frame9", window.Frame9);
+  f("iLbl", window.iLbl);
+  f("ListView1", window.ListView1);
+  f("Command1(1)", window.Command1);
+  f("Label6", window.Label6);
+  f("Label12", window.Label12);
+  f("Label11", window.Label11);
+  f("Label4", window.Label4);
+  f("Inet1", window.Inet1);
+  f("Inet2", window.Inet2);
+  f("Timer1", window.Timer1);
+  f("Timer2", window.Timer2);
+  f("Image1", window.Image1);
+  f("Image2", window.Image2);
+  f("Image3", window.Image3);
+  f("Image4", window.Image4);
+  f("Image5", window.Image5);
+  f("Picture2", window.Picture2);
+  f("Shape1", window.Shape1);
+  f("Shape2", window.Shape2);
+  f("Shape3", window.Shape3);
+  f("Shape4", window.Shape4);
+  f("Shape5", window.Shape5);
+  f("Shape6", window.Shape6);
+  f("Shape7", window.Shape7);
+  f("Line1", window.Line1);
+  f("Line2", window.Line2);
+  f("Line3", window.Line3);
+  f("TFile", window.TFile);
+  f("mnuNew", window.mnuNew);
+  f("mnuPrntSession", window.mnuPrntSession);
+  f("mnuHistory", window.mnuHistory);
+  f("mnuPrtHistory", window.mnuPrtHistory);
+  f("mnuUpdateList", window.mnuUpdateList);
+  f("mnuExit", window.mnuExit);
+  f("TEdit", window.TEdit);
+  f("mnuCls", window.mnuCls);
+  f("mnuCorrect", window.mnuCorrect);
+  f("TFavs", window.TFavs);
+  f("mnuDistribFavs", window.mnuDistribFavs);
+  f("mnuFavAddTop", window.mnuFavAddTop);
+  f("mnuCancelRemove", window.mnuCancelRemove);
+  f("mnuFavsRemove", window.mnuFavsRemove);
+  f("mnuFavs", window.mnuFavs);
+  f("Tprefs", window.Tprefs);
+  f("mnuChgPayMethod", window.mnuChgPayMethod);
+  f("mnuRound", window.mnuRound);
+  f("mnuTyped", window.mnuTyped);
+  f("mnuDirectCurr", window.mnuDirectCurr);
+  f("mnuPercentBal", window.mnuPercentBal);
+  f("mnuFees", window.mnuFees);
+  f("mnuAddFees", window.mnuAddFees);
+  f("mnuDeductFees", window.mnuDeductFees);
+  f("mnuSettings", window.mnuSettings);
+  f("mnuWiz", window.mnuWiz);
+  f("TResources", window.TResources);
+  f("mnuSearch", window.mnuSearch);
+  f("mnuLocate", window.mnuLocate);
+  f("lclist", window.lclist);
+  f("mnuShowWiz", window.mnuShowWiz);
+  f("mnuMoreInfo", window.mnuMoreInfo);
+  f("mnuContactThem", window.mnuContactThem);
+  f("mnuGotheirWeb", window.mnuGotheirWeb);
+  f("mnuRecallSession", window.mnuRecallSession);
+  f("mnuSendCopy", window.mnuSendCopy);
+  f("THelp", window.THelp);
+  f("mnuAbout", window.mnuAbout);
+  f("gotoBVXweb", window.gotoBVXweb);
+  f("mnuHelp", window.mnuHelp);
+  f("mnuQhelp", window.mnuQhelp);
+  f("qhelp1", window.qhelp1);
+  f("mnuSubmitList", window.mnuSubmitList);
+  f("TMMenu", window.TMMenu);
+  f("MMTellMe", window.MMTellMe);
+  f("MMContactThem", window.MMContactThem);
+  f("MMGoWeb", window.MMGoWeb);
+  f("mnuFavAdd", window.mnuFavAdd);
+  f("MMHelp", window.MMHelp);
+  f("mnuWhatis", window.mnuWhatis);
+  f("whatisBtn1", window.whatisBtn1);
+}
+
+}  // namespace benevix

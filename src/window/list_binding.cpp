@@ -1,0 +1,95 @@
+#include "window/list_binding.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QTableView>
+
+#include "database/organization_list.h"
+#include "window/list_model.h"
+
+namespace benevix {
+namespace {
+
+class ListBinding : public QObject, public Binding {
+ public:
+  ListBinding(ListView& list, QTableView& view, BindingContext& context)
+      : list_(list), view_(view), context_(context), model_(list, nullptr), scrolls_(list.scrolls) {
+    view.setModel(&model_);
+    view.viewport()->installEventFilter(this);
+    LayOutColumns();
+    QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+                     [this](const QModelIndex& current) {
+                       // The mouse is followed to its release instead.
+                       if (context_.applying || pressed_ || !current.isValid()) return;
+                       context_.input.SelectRow(list_, current.row() + 1, MouseButton::Left, true);
+                     });
+  }
+
+  void Apply() override {
+    if (view_.isEnabledTo(view_.parentWidget()) != list_.enabled) view_.setEnabled(list_.enabled);
+    model_.Refresh();
+    if (view_.currentIndex().row() + 1 != list_.selected) {
+      if (list_.selected == 0) {
+        view_.selectionModel()->clear();
+      } else {
+        view_.selectionModel()->setCurrentIndex(
+            model_.index(list_.selected - 1, column::kOrganization),
+            QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+      }
+    }
+    if (scrolls_ != list_.scrolls) {
+      scrolls_ = list_.scrolls;
+      view_.scrollTo(model_.index(list_.top - 1, 0), QAbstractItemView::PositionAtTop);
+    }
+  }
+
+  [[nodiscard]] QWidget* Widget() const override { return &view_; }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::MouseButtonPress) pressed_ = true;
+    if (event->type() == QEvent::MouseButtonRelease && pressed_) {
+      pressed_ = false;
+      const auto& mouse = static_cast<const QMouseEvent&>(*event);
+      const int row = view_.indexAt(mouse.position().toPoint()).row() + 1;
+      const bool right = mouse.button() == Qt::RightButton;
+      if (row > 0) {
+        context_.input.SelectRow(list_, row, right ? MouseButton::Right : MouseButton::Left);
+      } else {
+        Apply();
+      }
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  void LayOutColumns() {
+    QHeaderView& header = *view_.horizontalHeader();
+    for (const int served : {column::kId, column::kRecord, column::kFee, column::kCardFee}) {
+      view_.setColumnHidden(served, true);
+    }
+    const int unit = view_.fontMetrics().averageCharWidth();
+    const int widths[] = {18, 46, 18, 12, 14, 22};  // characters
+    for (int i = 0; i < 6; ++i) header.resizeSection(i, widths[i] * unit);
+    header.setSectionResizeMode(column::kOrganization, QHeaderView::Stretch);
+    view_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    view_.verticalHeader()->setDefaultSectionSize(view_.fontMetrics().height() + 10);
+  }
+
+  ListView& list_;
+  QTableView& view_;
+  BindingContext& context_;
+  ListModel model_;
+  int scrolls_;
+  bool pressed_ = false;
+};
+
+}  // namespace
+
+std::unique_ptr<Binding> MakeListBinding(ListView& list, QWidget& widget, BindingContext& context) {
+  auto* const view = qobject_cast<QTableView*>(&widget);
+  if (view == nullptr) return nullptr;
+  return std::make_unique<ListBinding>(list, *view, context);
+}
+
+}  // namespace benevix

@@ -1,0 +1,65 @@
+#include "window/list_model.h"
+
+#include <QFont>
+
+#include "database/organization_list.h"
+#include "window/texts.h"
+
+namespace benevix {
+
+void ListModel::Refresh() {
+  if (list_.rows.get() != rows_) {
+    beginResetModel();
+    rows_ = list_.rows.get();
+    count_ = list_.Count();
+    changes_ = list_.changes;
+    endResetModel();
+  } else if (list_.changes != changes_ && count_ > 0) {
+    changes_ = list_.changes;
+    Q_EMIT dataChanged(index(0, 0), index(count_ - 1, ListView::kColumns - 1));
+  }
+}
+
+int ListModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count_; }
+
+int ListModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : ListView::kColumns;
+}
+
+QVariant ListModel::data(const QModelIndex& index, int role) const {
+  const int row = index.row() + 1;
+  switch (role) {
+    case Qt::DisplayRole:
+      return ToQString(list_.SubItem(row, index.column()));
+    case Qt::TextAlignmentRole: {
+      const int column = index.column();
+      const bool number = column == column::kAmount || column >= column::kFee;
+      return QVariant::fromValue(Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) |
+                                               Qt::AlignVCenter));
+    }
+    case Qt::FontRole: {
+      const bool given = list_.cells.count(row) != 0;
+      if (!given && list_.Text(row).empty()) return {};
+      QFont font;
+      font.setBold(true);
+      return font;
+    }
+    default:
+      return {};
+  }
+}
+
+QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::DisplayRole) {
+    return ToQString(list_.columns[static_cast<std::size_t>(section)]);
+  }
+  if (role == Qt::TextAlignmentRole) {
+    const bool number = section == column::kAmount || section >= column::kFee;
+    return QVariant::fromValue(Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) |
+                                             Qt::AlignVCenter));
+  }
+  return {};
+}
+
+}  // namespace benevix

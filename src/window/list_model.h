@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include "controls/list_view.h"
+
+namespace benevix {
+
+// The rows of a ListView for a table view. It holds no text: each cell is asked from the struct
+// when it is painted.
+class ListModel : public QAbstractTableModel {
+ public:
+  ListModel(const ListView& list, QObject* parent)
+      : QAbstractTableModel(parent), list_(list) {}
+
+  // Brings the view into line when texts or rows have changed since the last time.
+  void Refresh();
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+ private:
+  const ListView& list_;
+  const RowSource* rows_ = nullptr;
+  int count_ = 0;
+  int changes_ = 0;
+};
+
+}  // namespace benevix

@@ -1,0 +1,127 @@
+#include "window/menu_binding.h"
+
+#include <QCursor>
+#include <algorithm>
+#include <memory>
+
+#include "window/texts.h"
+
+namespace benevix {
+namespace {
+
+void ApplyItem(const MenuItem& item, bool enabled, QAction& action) {
+  const QString text = ToQString(item.caption);
+  if (action.text() != text) action.setText(text);
+  if (action.isEnabled() != enabled) action.setEnabled(enabled);
+  if (action.isCheckable() != item.checked) action.setCheckable(item.checked);
+  if (action.isChecked() != item.checked) action.setChecked(item.checked);
+}
+
+}  // namespace
+
+MenuBinding::MenuBinding(const Desk::Entry& entry, QMenuBar& bar, BindingContext& context)
+    : bar_(bar), context_(context) {
+  for (const NamedControl& control : entry.controls) {
+    if (control.As<MenuItem>() != nullptr) {
+      const bool holds =
+          std::any_of(entry.controls.begin(), entry.controls.end(), [&](const NamedControl& other) {
+            return other.Base().holder == control.name;
+          });
+      AddItem(control, holds);
+    } else if (MenuArray* const array = control.As<MenuArray>()) {
+      AddArray(*array);
+    }
+  }
+}
+
+QMenu* MenuBinding::MenuNamed(const std::string& name) const {
+  const auto found = menus_.find(name);
+  return found == menus_.end() ? nullptr : found->second;
+}
+
+void MenuBinding::AddItem(const NamedControl& control, bool holds) {
+  MenuItem& item = *control.As<MenuItem>();
+  QMenu* const holder = MenuNamed(item.holder);
+  const QString text = ToQString(item.caption);
+  if (holder != nullptr && item.separated) holder->addSeparator();
+  QMenu* menu = nullptr;
+  QAction* action = nullptr;
+  if (holds) {
+    if (holder != nullptr) {
+      menu = holder->addMenu(text);
+    } else if (item.visible) {
+      menu = bar_.addMenu(text);
+    } else {
+      menu = std::make_unique<QMenu>(text, &bar_).release();  // a pop-up; the bar owns it
+    }
+    menus_[control.name] = menu;
+    action = menu->menuAction();
+  } else {
+    action = holder->addAction(text);
+    QObject::connect(action, &QAction::triggered, &bar_,
+                     [this, &item] { context_.input.ChooseMenu(item); });
+  }
+  action->setObjectName(QString::fromStdString(control.name));
+  items_.push_back({&item, action, menu, item.popUps});
+}
+
+void MenuBinding::AddArray(MenuArray& array) {
+  QMenu* const menu = MenuNamed(array.holder);
+  if (array.separated) menu->addSeparator();
+  QAction* const end = menu->addAction(QString());
+  end->setVisible(false);
+  arrays_.push_back({&array, menu, end, {}});
+}
+
+void MenuBinding::Apply() {
+  for (Item& bound : items_) {
+    ApplyItem(*bound.item, bound.item->enabled, *bound.action);
+    if (bound.popUps == bound.item->popUps) continue;
+    bound.popUps = bound.item->popUps;
+    bound.menu->popup(QCursor::pos());
+  }
+  for (Array& array : arrays_) ApplyArray(array);
+}
+
+void MenuBinding::ApplyArray(Array& array) {
+  for (auto it = array.elements.begin(); it != array.elements.end();) {
+    if (array.array->items.count(it->first) == 0) {
+      it->second->deleteLater();
+      array.menu->removeAction(it->second);
+      it = array.elements.erase(it);
+    } else {
+      ++it;
+    }
+  }
+  for (const auto& [index, item] : array.array->items) {
+    QAction*& action = array.elements[index];
+    if (action == nullptr) {
+      // In the order of the indexes, whatever the order in which they were made.
+      const auto next = std::next(array.elements.find(index));
+      QAction* const before = next == array.elements.end() ? array.end : next->second;
+      action = std::make_unique<QAction>(array.menu).release();
+      array.menu->insertAction(before, action);
+      QObject::connect(action, &QAction::triggered, &bar_,
+                       [this, menuArray = array.array, element = index] {
+                         context_.input.ChooseMenu(*menuArray, element);
+                       });
+    }
+    ApplyItem(item, item.enabled && array.array->enabled, *action);
+    const bool shown = item.visible && !item.caption.empty();
+    if (action->isVisible() != shown) action->setVisible(shown);
+  }
+}
+
+QAction* MenuBinding::Action(const NamedControl& control, int element) const {
+  for (const Item& bound : items_) {
+    if (bound.item == control.As<MenuItem>()) return bound.action;
+  }
+  for (const Array& bound : arrays_) {
+    if (bound.array != control.As<MenuArray>()) continue;
+    const auto found = bound.elements.find(element);
+    return found == bound.elements.end() ? nullptr : found->second;
+  }
+  return nullptr;
+}
+
+}  // namespace benevix

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QUrl>
+#include <QtPlugin>
+#include <functional>
+#include <memory>
+
+class QWidget;
+
+namespace benevix {
+
+// What a page view tells, always from the event loop and never after its end.
+struct PageViewEvents {
+  std::function<void(const QUrl&)> shown;  // the address that is shown from now on
+  std::function<void()> stopped;           // the page broke down; the view is of no more use
+};
+
+// One embedded page. All that it keeps (cookies, where it has been) goes when the view goes.
+class PageView {
+ public:
+  virtual ~PageView() = default;
+  [[nodiscard]] virtual QWidget* Widget() = 0;  // the view's own
+};
+
+// The root object of the plug-in.
+class PageViewFactory {
+ public:
+  virtual ~PageViewFactory() = default;
+  // Shows a page (http, https or file). The first one brings the engine up.
+  virtual std::unique_ptr<PageView> Show(const QUrl& address, QWidget* parent,
+                                         PageViewEvents events) = 0;
+};
+
+}  // namespace benevix
+
+Q_DECLARE_INTERFACE(benevix::PageViewFactory, "benevix.PageViewFactory/1")

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QUrl>
+#include <QWebEngineUrlSchemeHandler>
+
+namespace benevix {
+
+// Gives a local text file to the engine as what it is, plain text in the program's code page. Left
+// alone, the engine guesses both from the bytes, and a file that it takes for data is no page.
+class TextFileScheme : public QWebEngineUrlSchemeHandler {
+ public:
+  static constexpr const char* kName = "benevix-text";
+
+  // To be called once, before the engine comes up.
+  static void Register();
+
+  // The address under which the engine loads a page: an address of this scheme for any local file
+  // that is no HTML page, otherwise the address itself.
+  static QUrl PageAddress(const QUrl& address);
+  // The other way round.
+  static QUrl FileAddress(const QUrl& address);
+
+  // Only `file` can be loaded.
+  explicit TextFileScheme(const QUrl& file) : page_(PageAddress(file)) {}
+
+  void requestStarted(QWebEngineUrlRequestJob* job) override;
+
+ private:
+  QUrl page_;
+};
+
+}  // namespace benevix

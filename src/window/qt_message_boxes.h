@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/message_boxes.h"
+#include "platform/waits.h"
+
+class QMessageBox;
+
+namespace benevix {
+
+// Real message boxes, modal over all windows.
+class QtMessageBoxes : public MessageBoxes {
+ public:
+  explicit QtMessageBoxes(Waits& waits) : waits_(waits) {}
+
+  BoxAnswer Show(const std::string& title, const std::string& text, BoxIcon icon,
+                 BoxButtons buttons) override;
+
+  // Called once the box stands.
+  std::function<void(QMessageBox&)> onShown;
+
+ private:
+  Waits& waits_;
+};
+
+}  // namespace benevix

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+namespace benevix {
+
+// A rounded rectangle; a small square one is a disc.
+class ShapeWidget : public QWidget {
+ public:
+  explicit ShapeWidget(QWidget* parent = nullptr);
+
+  // An invalid fill colour leaves the inside transparent.
+  void SetFill(const QColor& color);
+  void SetBorder(const QColor& color, int width);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor fill_;
+  QColor border_;
+  int borderWidth_ = 1;
+};
+
+}  // namespace benevix

@@ -1,0 +1,16 @@
+#include "window/texts.h"
+
+#include "base/text.h"
+
+namespace benevix {
+
+QString ToQString(const std::string& text) { return QString::fromStdString(ToUtf8(text)); }
+
+std::string FromQString(const QString& text) { return FromUtf8(text.toStdString()); }
+
+QString WithoutMnemonic(const QString& text) {
+  QString plain = text;
+  return plain.remove(QLatin1Char('&'));
+}
+
+}  // namespace benevix

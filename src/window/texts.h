@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <string>
+
+namespace benevix {
+
+// Between the program's 8-bit code page and the toolkit's Unicode. Characters that the code page
+// lacks are left out on the way back.
+QString ToQString(const std::string& text);
+std::string FromQString(const QString& text);
+
+// Without the marks of mnemonics.
+QString WithoutMnemonic(const QString& text);
+
+// Twips are twentieths of a point: fifteen to a pixel at the 96 dots an inch that the toolkit's
+// coordinates count in.
+inline constexpr int kTwipsPerPixel = 15;
+
+}  // namespace benevix

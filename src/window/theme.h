@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QColor>
+
+#include "controls/controls.h"
+
+class QApplication;
+
+namespace benevix {
+
+enum class Scheme { Light, Dark };
+
+// The scheme that the desktop asks for. Reads the application's palette, so it must be called
+// before ApplyTheme. The environment variable BENEVIX_SCHEME (light or dark) overrides it.
+[[nodiscard]] Scheme DesktopScheme();
+
+// Style, palette and style sheet of all windows. Font sizes follow the application's font.
+void ApplyTheme(QApplication& app, Scheme scheme);
+
+// What a colour of the structs looks like in the scheme.
+[[nodiscard]] QColor RoleColor(Color role, Scheme scheme);
+
+}  // namespace benevix

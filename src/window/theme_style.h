@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace benevix {
+
+// Fusion with boxes and marks that stand out on dark grounds too. They are drawn from the widget's
+// own palette, which a style sheet would not look at.
+class ThemeStyle : public QProxyStyle {
+ public:
+  ThemeStyle();
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override;
+  [[nodiscard]] QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                     SubControl part, const QWidget* widget) const override;
+  [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option,
+                                       const QSize& contents, const QWidget* widget) const override;
+  [[nodiscard]] QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                   const QWidget* widget) const override;
+  [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                                const QWidget* widget) const override;
+};
+
+}  // namespace benevix

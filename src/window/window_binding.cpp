@@ -1,0 +1,226 @@
+#include "window/window_binding.h"
+
+#include <QCloseEvent>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QMouseEvent>
+#include <QWindow>
+
+#include "window/drawings.h"
+#include "window/texts.h"
+
+namespace benevix {
+namespace {
+
+// Key codes as KeyUp gives them; letters and digits are those of their capitals.
+int KeyCode(int key) {
+  switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return keys::kEnter;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+      return keys::kTab;
+    case Qt::Key_Escape:
+      return keys::kEscape;
+    case Qt::Key_Backspace:
+      return keys::kBackspace;
+    default:
+      return key < 128 ? key : 0;
+  }
+}
+
+// By itself: buttons and boxes tell their clicks themselves.
+bool IsClickable(const NamedControl& control) {
+  return control.As<Label>() != nullptr || control.As<PictureBox>() != nullptr;
+}
+
+bool IsUsersFocus(Qt::FocusReason reason) {
+  return reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
+         reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+}
+
+}  // namespace
+
+WindowBinding::WindowBinding(Desk& desk, const Desk::Entry& entry, BindingContext& context)
+    : desk_(desk),
+      context_(context),
+      window_(entry.window),
+      loads_(entry.loads),
+      widget_(MakeDrawing(entry.name)) {
+  widget_->installEventFilter(this);
+  bool hasMenus = false;
+  for (const NamedControl& control : entry.controls) {
+    hasMenus = hasMenus || IsMenu(control);
+    auto binding = IsMenu(control) ? nullptr : MakeBinding(control, *widget_, context_);
+    if (!binding) continue;
+    if (QWidget* const widget = binding->Widget()) {
+      widget->installEventFilter(this);
+      widget->setMouseTracking(true);
+    }
+    bound_.push_back({&control, std::move(binding)});
+  }
+  auto* const mainWindow = qobject_cast<QMainWindow*>(widget_.get());
+  if (hasMenus && mainWindow != nullptr) {
+    menus_ = std::make_unique<MenuBinding>(entry, *mainWindow->menuBar(), context_);
+  }
+}
+
+WindowBinding::~WindowBinding() {
+  // What the widgets still tell while they go is nobody's business.
+  widget_->removeEventFilter(this);
+  for (const Bound& bound : bound_) {
+    if (QWidget* const widget = bound.binding->Widget()) widget->removeEventFilter(this);
+  }
+}
+
+QWidget* WindowBinding::WidgetOf(const Control& control) const {
+  for (const Bound& bound : bound_) {
+    if (&bound.control->Base() == &control) return bound.binding->Widget();
+  }
+  return nullptr;
+}
+
+QAction* WindowBinding::ActionOf(const NamedControl& control, int element) const {
+  return menus_ ? menus_->Action(control, element) : nullptr;
+}
+
+const WindowBinding::Bound* WindowBinding::BoundTo(const QObject* widget) const {
+  for (const Bound& bound : bound_) {
+    if (widget != nullptr && bound.binding->Widget() == widget) return &bound;
+  }
+  return nullptr;
+}
+
+void WindowBinding::Apply(QWidget* transientParent) {
+  for (const Bound& bound : bound_) bound.binding->Apply();
+  if (menus_) menus_->Apply();
+  ApplyWindow();
+  const bool shown = desk_.IsShown(*window_);
+  if (shown && widget_->isHidden()) ShowWindow(transientParent);
+  if (!shown && !widget_->isHidden()) widget_->hide();
+}
+
+void WindowBinding::ApplyWindow() {
+  const QString title = ToQString(window_->caption);
+  if (widget_->windowTitle() != title) widget_->setWindowTitle(title);
+  const bool enabled = desk_.IsEnabled(*window_);
+  if (widget_->isEnabled() != enabled) widget_->setEnabled(enabled);
+  const bool busy = window_->mousePointer == MousePointer::Hourglass;
+  if (busy != (widget_->cursor().shape() == Qt::WaitCursor)) {
+    if (busy) {
+      widget_->setCursor(Qt::WaitCursor);
+    } else {
+      widget_->unsetCursor();
+    }
+  }
+}
+
+void WindowBinding::ShowWindow(QWidget* transientParent) {
+  const Desk::Entry& entry = desk_.Find(*window_);
+  widget_->setWindowFlag(Qt::WindowStaysOnTopHint, window_->topmost);
+  widget_->setWindowModality(entry.modal ? Qt::ApplicationModal : Qt::NonModal);
+  if (window_->left != 0 || window_->top != 0) {
+    widget_->move(window_->left / kTwipsPerPixel, window_->top / kTwipsPerPixel);
+  }
+  if (transientParent != nullptr) {
+    // Above its parent, and not held up by a parent that is modal.
+    widget_->winId();
+    widget_->windowHandle()->setTransientParent(transientParent->windowHandle());
+  }
+  widget_->show();
+  widget_->raise();
+  widget_->activateWindow();
+  for (const Bound& bound : bound_) bound.binding->Apply();  // what depends on the final size
+}
+
+void WindowBinding::ApplyFocus() {
+  const Control* const focus = desk_.FocusOf(*window_);
+  QWidget* const wanted = focus != nullptr ? WidgetOf(*focus) : nullptr;
+  QWidget* const now = widget_->focusWidget();
+  if (wanted != nullptr && (now != wanted || !wanted->hasFocus())) {
+    wanted->setFocus(Qt::OtherFocusReason);
+  } else if (wanted == nullptr && now != nullptr && BoundTo(now) != nullptr) {
+    now->clearFocus();
+  }
+}
+
+bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == widget_.get()) {
+    if (event->type() == QEvent::Close) {
+      event->ignore();
+      context_.input.Close(*window_);
+      return true;
+    }
+    if (event->type() == QEvent::Resize && !context_.applying) {
+      context_.applying = true;
+      for (const Bound& bound : bound_) bound.binding->Apply();
+      context_.applying = false;
+    }
+    return false;
+  }
+  const Bound* const bound = BoundTo(watched);
+  if (bound == nullptr) return false;
+  switch (event->type()) {
+    case QEvent::FocusIn:
+      if (!context_.applying && IsUsersFocus(static_cast<QFocusEvent*>(event)->reason())) {
+        context_.input.Focus(bound->control->Base());
+      }
+      return false;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+      return FilterKey(*bound, *event);
+    case QEvent::MouseButtonPress:
+      // A press that a label leaves to its panel stays the label's.
+      if (IsClickable(*bound->control)) mousePressedIn_ = watched;
+      return false;
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+      FilterMouse(*bound, *event);
+      return false;
+    default:
+      return false;
+  }
+}
+
+bool WindowBinding::FilterKey(const Bound& bound, QEvent& event) {
+  const auto& key = static_cast<QKeyEvent&>(event);
+  const bool tab = key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
+  if (event.type() == QEvent::KeyPress) {
+    if (tab && (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0) {
+      context_.input.Tab(bound.control->Base(), key.key() == Qt::Key_Tab);
+      return true;
+    }
+    pressedIn_ = bound.binding->Widget();
+    pressedKey_ = key.key();
+    return false;
+  }
+  const bool answers =
+      !key.isAutoRepeat() && pressedIn_ == bound.binding->Widget() && pressedKey_ == key.key();
+  if (answers && !tab) {
+    pressedKey_ = 0;
+    context_.input.Key(bound.control->Base(), KeyCode(key.key()));
+  }
+  return false;
+}
+
+// Labels and pictures take clicks, pictures tell that the mouse moves over them.
+void WindowBinding::FilterMouse(const Bound& bound, QEvent& event) {
+  if (!IsClickable(*bound.control)) return;
+  PictureBox* const picture = bound.control->As<PictureBox>();
+  if (event.type() == QEvent::MouseMove) {
+    if (picture != nullptr) context_.input.Hover(*picture);
+    return;
+  }
+  const auto& mouse = static_cast<QMouseEvent&>(event);
+  const QWidget* const widget = bound.binding->Widget();
+  const bool pressedHere = mousePressedIn_ == widget;
+  mousePressedIn_ = nullptr;
+  if (!pressedHere || mouse.button() != Qt::LeftButton) return;
+  if (!widget->rect().contains(mouse.position().toPoint())) return;
+  if (Label* const label = bound.control->As<Label>()) context_.input.Click(*label);
+  if (picture != nullptr) context_.input.Click(*picture);
+}
+
+}  // namespace benevix

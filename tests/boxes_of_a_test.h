@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/message_boxes.h"
+
+namespace benevix {
+
+// Takes down each box as "title|text" with its icon and buttons, and gives the answer that is set.
+class BoxesOfATest : public MessageBoxes {
+ public:
+  struct Box {
+    std::string text;
+    BoxIcon icon;
+    BoxButtons buttons;
+  };
+
+  BoxAnswer Show(const std::string& title, const std::string& text, BoxIcon icon,
+                 BoxButtons buttons) override {
+    shown.push_back({title + "|" + text, icon, buttons});
+    return buttons == BoxButtons::OK ? BoxAnswer::OK : answer;
+  }
+
+  std::vector<Box> shown;
+  BoxAnswer answer = BoxAnswer::No;
+};
+
+}  // namespace benevix

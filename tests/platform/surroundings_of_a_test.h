@@ -1,0 +1,48 @@
+#pragma once
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <sys/resource.h>
+
+namespace benevix {
+
+// A folder of its own for a test, gone when the test ends.
+class TempFolder {
+ public:
+  TempFolder() : path_((std::filesystem::temp_directory_path() / "benevix.XXXXXX").string()) {
+    if (mkdtemp(path_.data()) == nullptr) std::abort();
+    std::filesystem::permissions(path_, std::filesystem::perms(0755));
+  }
+  ~TempFolder() { std::filesystem::remove_all(path_); }
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+  [[nodiscard]] std::string operator/(const std::string& name) const { return path_ + "/" + name; }
+
+ private:
+  std::string path_;
+};
+
+// Writing beyond `bytes` of any file fails from now on, as on a full disk.
+inline void FillDisk(rlim_t bytes) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit limit{bytes, RLIM_INFINITY};
+  setrlimit(RLIMIT_FSIZE, &limit);
+}
+inline void EmptyDisk() {
+  FillDisk(RLIM_INFINITY);
+}
+
+inline void Put(const std::string& path, const std::string& bytes) {
+  std::ofstream(path, std::ios::binary) << bytes;
+}
+
+inline std::string Got(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+}  // namespace benevix

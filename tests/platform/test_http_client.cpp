@@ -1,0 +1,171 @@
+#include <gtest/gtest.h>
+#include <httplib.h>
+#include <thread>
+#include <unistd.h>
+
+#include "base/runtime_error.h"
+#include "platform/qt/qt_http_client.h"
+
+namespace benevix {
+namespace {
+
+using namespace std::string_literals;
+
+const std::string kOK = "HTTP/1.1 200 OK\r\n";
+
+// A loopback server that notes what arrives and gives out what `respond` writes, byte for byte.
+class WireServer : public httplib::Server {
+ public:
+  WireServer() : port_(bind_to_any_port("127.0.0.1")), thread_([this] { listen_after_bind(); }) {
+    while (!is_running()) std::this_thread::yield();
+  }
+  ~WireServer() override {
+    stop();
+    thread_.join();
+  }
+  [[nodiscard]] std::string Host() const { return "127.0.0.1:" + std::to_string(port_); }
+  void Answer(const std::string& bytes) {
+    respond = [bytes](httplib::Stream& stream) { stream.write(bytes); };
+  }
+
+  std::function<void(httplib::Stream&)> respond;
+  std::vector<std::string> targets;
+
+ private:
+  bool process_and_close_socket(socket_t socket) override {
+    httplib::detail::process_client_socket(socket, 5, 0, 5, 0, [this](httplib::Stream& stream) {
+      std::string head;
+      for (char c = 0; !head.ends_with("\r\n\r\n") && stream.read(&c, 1) == 1;) head += c;
+      const auto end = head.find(" HTTP/1.1\r\n");
+      targets.push_back(end == std::string::npos ? head : head.substr(4, end - 4));
+      respond(stream);
+      return true;
+    });
+    httplib::detail::close_socket(socket);
+    return true;
+  }
+
+  int port_;
+  std::thread thread_;
+};
+
+struct CountedWaits : Waits {
+  void Begin() override { ++open; }
+  void End() override { --open; }
+  void DoEvents() override {}
+  int open = 0;
+};
+
+class HttpClientTest : public testing::Test {
+ protected:
+  HttpClientTest() { server_.Answer(kOK + "Content-Length: 9\r\n\r\nserver ok"); }
+  ~HttpClientTest() override { EXPECT_EQ(waits_.open, 0); }
+  std::string Open(const std::string& path = "") { return client_.OpenURL(base_ + path, options_); }
+  std::string Fault(const std::string& address) {
+    try {
+      return "no fault: " + client_.OpenURL(address, options_).substr(0, 100);
+    } catch (const RuntimeError& error) {
+      return error.what();
+    }
+  }
+
+  WireServer server_;
+  std::string base_ = "http://" + server_.Host() + "/";
+  CountedWaits waits_;
+  QtHttpClient client_{waits_};
+  HttpOptions options_;
+};
+
+TEST_F(HttpClientTest, AddressesArriveWhole) {
+  const std::string addresses[][2] = {
+      {"a?email=a b@c,d&=1;2+3/4:5?6", "a?email=a%20b@c,d&=1;2+3/4:5?6"},
+      {"m?&=x\r\nA: b\r\n\r\nGET /x", "m?&=x%0D%0AA:%20b%0D%0A%0D%0AGET%20/x"},
+      {"m?&=\0\t\x7F\x80\xFC\xFF#b#c"s, "m?&=%00%09%7F%80%FC%FF%23b%23c"},
+      {"m?100% %zz %2 %2C%20%25%FC%2541%", "m?100%25%20%25zz%20%252%20%2C%20%25%FC%2541%25"},
+      {"\"<>\\^`{|}'!*()~[]$-_.", "%22%3C%3E%5C%5E%60%7B%7C%7D'!*()~[]$-_."},
+      {std::string(500'000, 'p'), std::string(500'000, 'p')},
+  };
+  for (const auto& [path, target] : addresses) {
+    EXPECT_EQ(Open(path), "server ok");
+    EXPECT_EQ(server_.targets.back(), "/" + target);
+  }
+  for (const auto* bad : {"", "file:///etc/passwd", "http://", "http://a b/", "http://\xFC.de/"}) {
+    EXPECT_NE(Fault(bad).find("is no web address"), std::string::npos) << Fault(bad);
+  }
+}
+
+TEST_F(HttpClientTest, AnyStatusIsAnAnswer) {
+  for (const std::string status : {"200", "302", "400", "401", "404", "407", "418", "500", "599"}) {
+    server_.Answer("HTTP/1.1 " + status + " X\r\nWWW-Authenticate: Basic\r\n\r\n<b>\0\xFF"s);
+    EXPECT_EQ(Open(), "<b>\0\xFF"s) << status;
+  }
+}
+
+TEST_F(HttpClientTest, NoWholeAnswerIsAFaultAndNothingIsSentTwice) {
+  const std::string answers[] = {"", "server ok\r\n\r\nserver ok", kOK + "Conte",
+                                 kOK + "Content-Length: 100\r\n\r\nserver ok",
+                                 kOK + "Transfer-Encoding: chunked\r\n\r\n9\r\nserver ok\r\n"};
+  for (int i = 0; i < 20; ++i) {  // how a closing shows is a matter of chance
+    server_.targets.clear();
+    for (const std::string& answer : answers) {
+      server_.Answer(answer);
+      EXPECT_TRUE(Fault(base_).starts_with("127.0.0.1: ")) << answer;
+    }
+    EXPECT_EQ(server_.targets.size(), std::size(answers));
+  }
+  EXPECT_TRUE(Fault("http://127.0.0.1:1/").starts_with("127.0.0.1: "));
+}
+
+TEST_F(HttpClientTest, TimeOutCountsFromTheLastByte) {
+  options_.timeout = 1;
+  server_.respond = [](httplib::Stream& stream) {
+    stream.write(kOK + "\r\n");
+    for (int i = 0; i < 6 && stream.write("x") > 0; ++i) usleep(250'000);
+  };
+  EXPECT_EQ(Open(), "xxxxxx");
+  server_.respond = [](httplib::Stream& stream) {
+    char untilTheClientCloses = 0;
+    stream.read(&untilTheClientCloses, 1);
+  };
+  EXPECT_EQ(Fault(base_), "127.0.0.1: nothing received for 1 seconds");
+}
+
+TEST_F(HttpClientTest, RedirectsStayOnTheWebAndEnd) {
+  const auto redirectTo = [&](const std::string& place) {
+    server_.Answer("HTTP/1.1 302 Found\r\nLocation: " + place + "\r\n\r\nno");
+  };
+  redirectTo("file:///etc/passwd");
+  EXPECT_EQ(Fault(base_), "\"file:///etc/passwd\" is no web address");
+  redirectTo("next?a=b%20c#d");
+  EXPECT_EQ(Fault(base_ + "f/x"), "127.0.0.1: too many redirects");
+  EXPECT_EQ(server_.targets.size(), 12U);
+  EXPECT_EQ(server_.targets.back(), "/f/next?a=b%20c");
+}
+
+TEST_F(HttpClientTest, LimitCutsOff) {
+  const std::string body(5'000'000, 'b');
+  std::size_t last = 0;
+  options_.progress = [&](std::size_t received, std::size_t) { last = received; };
+  server_.Answer(kOK + "\r\n" + body);
+  options_.limit = body.size();
+  EXPECT_EQ(Open(), body);
+  EXPECT_EQ(last, body.size());
+  server_.respond = [&](httplib::Stream& stream) {
+    for (stream.write(kOK + "\r\n"); stream.write(body) > 0;) continue;
+  };
+  EXPECT_EQ(Open(), "");
+  EXPECT_LE(last, options_.limit);
+}
+
+TEST_F(HttpClientTest, AsksTheProxyGiven) {
+  options_.proxy = server_.Host();
+  EXPECT_EQ(client_.OpenURL("http://nowhere.invalid/a#b", options_), "server ok");
+  EXPECT_EQ(server_.targets.back(), "http://nowhere.invalid/a%23b");
+  for (const auto* proxy : {"host", ":80", "host:0", "host:99999", "127.0.0.1:1", "a b:80"}) {
+    options_.proxy = proxy;
+    EXPECT_FALSE(Fault(base_).starts_with("no fault")) << proxy;
+  }
+}
+
+}  // namespace
+}  // namespace benevix

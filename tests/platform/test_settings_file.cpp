@@ -1,0 +1,122 @@
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "platform/qt/settings_file.h"
+#include "surroundings_of_a_test.h"
+
+namespace benevix {
+namespace {
+
+using namespace std::string_literals;
+
+const std::string kKey = "Software\\Quorl\\Benevix";
+const std::string kFavorites = kKey + "\\Favorites";
+
+class SettingsFileTest : public testing::Test {
+ protected:
+  ResultCode Write(const std::string& name, const std::string& bytes,
+                   std::uint32_t type = value_type::kText) {
+    const auto key = settings_.CreateKey(Root::CurrentUser, kKey);
+    return key ? key->Write(name, type, bytes) : kFailed;
+  }
+  // Type and bytes as "1:abc", through an object of its own; "-" when there is no value.
+  [[nodiscard]] std::string Read(const std::string& name, const std::string& path = kKey) const {
+    SettingsFile settings(file_, file_);
+    const auto key = settings.OpenKey(Root::LocalMachine, path, Access::Query);
+    std::uint32_t type = 0;
+    std::string bytes;
+    if (!key || key->Read(name, type, bytes) != 0) return "-";
+    return std::to_string(type) + ":" + bytes;
+  }
+
+  TempFolder folder_;
+  std::string file_ = folder_ / "benevix/benevix.conf";
+  SettingsFile settings_{file_, file_, false};
+};
+
+TEST_F(SettingsFileTest, KeepsEveryText) {
+  const std::string names[] = {"", "(default)", "a b/c\\d", "x=y", "[k]", "; note", "100%41"};
+  const std::string texts[] = {"",
+                               "abc",
+                               " lead and trail ",
+                               "a,b;c=\"q\"\\n",
+                               "@x%41 100%",
+                               "l1\r\nl2\t",
+                               "n\0ul"s,
+                               "\x80\x81\xFC\xFF",
+                               "text:hex:",
+                               "[k]",
+                               std::string(1'000'000, 'm')};
+  for (const auto& text : texts) {
+    for (const auto& name : names) ASSERT_EQ(Write(name, text + '\0'), 0);
+    for (const auto& name : names) EXPECT_EQ(Read(name), "1:" + text + '\0') << name;
+  }
+  EXPECT_EQ(Read("never"), "-");
+}
+
+TEST_F(SettingsFileTest, KeepsTypesAndTheWorkOfOthers) {
+  std::filesystem::create_directory(folder_ / "benevix");
+  Put(file_,
+      "# mine\r\n[software\\quorl\\BENEVIX]\r\nproxy = a:80, b;c \r\nbroken line\r\n"
+      "Bad=dword:xyz\r\n\r\n[Other]\r\nBytes=hex:00ff\r\n");
+  EXPECT_EQ(Read("Proxy"), "1:a:80, b;c\0"s);
+  EXPECT_EQ(Read("Bad"), "-");
+  EXPECT_EQ(Read("Bytes", "Other"), "3:\0\xFF"s);
+  EXPECT_EQ(Write("Number", "\x2A\0\0\x80"s, value_type::kNumber), 0);
+  EXPECT_EQ(Write("Number", "\1", value_type::kNumber), kFailed);
+  EXPECT_EQ(Read("Number"), "4:\x2A\0\0\x80"s);
+  EXPECT_EQ(Write("PROXY", "p:1\0"s), 0);
+  EXPECT_EQ(Got(file_),
+            "# mine\r\n[software\\quorl\\BENEVIX]\r\nPROXY=text:p:1\nbroken line\r\n"
+            "Bad=dword:xyz\r\nNumber=dword:8000002a\n\r\n[Other]\r\nBytes=hex:00ff\r\n");
+}
+
+TEST_F(SettingsFileTest, KeysComeAndGo) {
+  const auto isThere = [&](const std::string& path) {
+    return settings_.OpenKey(Root::CurrentUser, path, Access::Full) != nullptr;
+  };
+  EXPECT_FALSE(isThere(kKey));
+  EXPECT_NE(settings_.CreateKey(Root::CurrentUser, kFavorites), nullptr);
+  EXPECT_TRUE(isThere(kFavorites) && isThere(kKey) && !isThere("Soft"));
+  ASSERT_EQ(Write("kept", "k\0"s), 0);
+  EXPECT_EQ(settings_.DeleteKey(Root::CurrentUser, kFavorites), 0);
+  EXPECT_FALSE(isThere(kFavorites));
+  EXPECT_EQ(Read("kept"), "1:k\0"s);
+}
+
+TEST_F(SettingsFileTest, WhatCannotBeWrittenIsNotThereLater) {
+  ASSERT_EQ(Write("Language", "old\0"s), 0);
+  FillDisk(500);
+  for (const std::size_t length : {1'000, 1'000'000}) {
+    EXPECT_NE(Write("Language", std::string(length, 'n')), 0);
+    EXPECT_EQ(Read("Language"), "1:old\0"s);
+  }
+  FillDisk(RLIM_INFINITY);
+  EXPECT_EQ(Read("Language"), "1:old\0"s);
+  EXPECT_EQ(settings_.CreateKey(Root::LocalMachine, kKey), nullptr);
+  EXPECT_EQ(settings_.OpenKey(Root::LocalMachine, kKey, Access::Full), nullptr);
+}
+
+// The values that change all have one length, so that neither the file's size nor its time, which
+// the file system counts in coarse ticks, tells of every change.
+TEST_F(SettingsFileTest, TwoProgramsLoseNothing) {
+  constexpr int count = 200;
+  for (const std::string program : {"a", "b"}) {
+    if (fork() != 0) continue;
+    int lost = 0;
+    for (int i = 0; i < count; ++i) {
+      const std::string last = std::to_string(i % 10) + '\0';
+      lost += Write(program + std::to_string(i), "x\0"s) != 0 ? 1 : 0;
+      lost += Write(program, last) != 0 || Read(program) != "1:" + last ? 1 : 0;
+    }
+    _exit(lost == 0 ? 0 : 1);
+  }
+  for (int status = 0; wait(&status) > 0;) EXPECT_EQ(status, 0);
+  for (int i = 0; i < count; ++i) {
+    EXPECT_EQ(Read("a" + std::to_string(i)) + Read("b" + std::to_string(i)), "1:x\0001:x\0"s);
+  }
+}
+
+}  // namespace
+}  // namespace benevix
