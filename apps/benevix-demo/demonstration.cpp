@@ -97,7 +97,6 @@ void Demonstration::Enter() {
     Must(face_.Close(program_.TheDesk().Find(program_.TheWindows().wizard)), "the wizard closes");
   }
   Tell("Entered; the list has " + Shown(kList + ".Count") + " rows");
-  TellMore("news: " + Shown("frmBVX.Label12.Caption"));
 }
 
 void Demonstration::TypeBudget() {

@@ -19,7 +19,7 @@ TEST(Fees, ReadsTheRatesFile) {
   } cases[] = {{"4,5,3.1,0.4,6,A,B", "4 5 3.1 0.4 6 A B", "  Fee: $4"},
                {"2.5,3.5,,x,1e1,A,B,C", "2 4 0 0 10 A B,C", "  Fee: $2"},
                {"7", "7 0 0 0 0  ", "  Fee: $7"},
-               {"-1, 2 , 1.00005", "-1 2 1 0 0  ", "  Fee: $-1"},
+               {"-1, 2 , 1.00005", "-1 2 1.0001 0 0  ", "  Fee: $-1"},
                {"", "2 3 2.9 0.3 5 six seven", ""},
                {"1,2,3,4,5,A,<B", "2 3 2.9 0.3 5 six seven", ""},
                // Beyond their type: what was read so far stands.

@@ -4,8 +4,8 @@
 
 namespace benevix {
 
-// The user's base folders, from the XDG Base Directory Specification
-// (https://specifications.freedesktop.org/basedir-spec/): the variable when it holds an absolute
+// The user's base folders, from the XDG base directories
+// of freedesktop.org: the variable when it holds an absolute
 // path, otherwise its default. No slash at the end.
 
 std::string HomeFolder();

@@ -38,7 +38,8 @@ void Confine(QWebEngineSettings& settings) {
   };
   for (const auto attribute : off) settings.setAttribute(attribute, false);
   settings.setAttribute(Settings::WebRTCPublicInterfacesOnly, true);
-  settings.setUnknownUrlSchemePolicy(Settings::DisallowUnknownUrlSchemes);
+  // Asked for by the user, they come to acceptNavigationRequest, which lets none pass.
+  settings.setUnknownUrlSchemePolicy(Settings::AllowUnknownUrlSchemesFromUserInteraction);
   settings.setDefaultTextEncoding("windows-1252");
 }
 
@@ -80,11 +81,11 @@ GuardedPage::GuardedPage(QWebEngineProfile* profile, QObject* parent)
 
 bool GuardedPage::acceptNavigationRequest(const QUrl& to, NavigationType type, bool isMainFrame) {
   if (IsWeb(to)) return true;
+  const QString scheme = to.scheme();
+  if (scheme == "mailto" && type == NavigationTypeLinkClicked) QDesktopServices::openUrl(to);
+  if (!isMainFrame) return scheme == "about" || scheme == "data" || scheme == "blob";
   const QUrl file = TextFileScheme::FileAddress(to);
-  if (!isMainFrame) return !file.isLocalFile();
-  if (file.isLocalFile()) return MayShowFile(file, type);
-  if (to.scheme() == "mailto" && type == NavigationTypeLinkClicked) QDesktopServices::openUrl(to);
-  return false;
+  return file.isLocalFile() && MayShowFile(file, type);
 }
 
 // The program's own asking comes as typed; its pages may lead on to their neighbours.

@@ -35,7 +35,8 @@ QUrl PageAddress(const std::string& address) {
   if (!QDir::isAbsolutePath(file)) {
     throw RuntimeError("\"" + ToUtf8(address).substr(0, 200) + "\" is no address of a page");
   }
-  if (!info.isFile() || !info.isReadable()) throw RuntimeError(path + " cannot be read");
+  if (!info.isFile() || !info.isReadable())
+    throw RuntimeError("The file " + path + " cannot be read");
   QUrl url = QUrl::fromLocalFile(file);
   if (!anchor.empty()) url.setFragment(QString::fromStdString(ToUtf8(anchor)), QUrl::DecodedMode);
   return url;

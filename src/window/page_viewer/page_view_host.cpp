@@ -46,6 +46,7 @@ PageViewHost::~PageViewHost() {
 // page before it has left.
 void PageViewHost::Navigate(const std::string& address) {
   Clear();
+  if (address.empty()) return;
   try {
     ShowPage(PageAddress(address));
   } catch (const RuntimeError& error) {

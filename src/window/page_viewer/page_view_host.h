@@ -22,7 +22,8 @@ class PageViewHost {
   PageViewHost(const PageViewHost&) = delete;
   PageViewHost& operator=(const PageViewHost&) = delete;
 
-  // Shows a page: see PageAddress. An address that cannot be shown ends in a notice.
+  // Shows a page: see PageAddress. An address that cannot be shown ends in a notice, an empty one
+  // just ends the page before it.
   void Navigate(const std::string& address);
 
   // Ends the page; nothing that it kept is left.

@@ -1,0 +1,19 @@
+set(run ${BUILD}/tests/demo/run)
+file(REMOVE_RECURSE ${run})
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${run} OUTPUT_QUIET
+                COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=DISPLAY --unset=WAYLAND_DISPLAY
+                        ${run}/benevix-demo
+                OUTPUT_VARIABLE story COMMAND_ECHO STDOUT RESULT_VARIABLE result)
+message("${story}")
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "the demonstration ended with ${result}")
+endif()
+foreach(told "Transaction ID: " "Payment: \\$209.70 - BVX Fee: \\$ 4. - CC Fee: \\$5.7" "6-history.png")
+  if(NOT story MATCHES "${told}")
+    message(FATAL_ERROR "the story does not tell: ${told}")
+  endif()
+endforeach()
+if(NOT EXISTS ${run}/pictures/6-history.png)
+  message(FATAL_ERROR "a picture is missing")
+endif()
