@@ -128,6 +128,9 @@ void WindowBinding::ShowWindow(QWidget* transientParent) {
     // Above its parent, and not held up by a parent that is modal.
     widget_->winId();
     widget_->windowHandle()->setTransientParent(transientParent->windowHandle());
+    QRect place(QPoint(), widget_->size());
+    place.moveCenter(transientParent->geometry().center());
+    widget_->move(place.topLeft());
   }
   widget_->show();
   widget_->raise();

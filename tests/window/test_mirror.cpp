@@ -1,0 +1,153 @@
+// The mirror between structs and real widgets, off the screen.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include "controls/desk.h"
+#include "controls/input.h"
+#include "records/ui/frmPayOpt.h"
+#include "session/ui/frmBVX.h"
+#include "window/mirror.h"
+#include "window/theme.h"
+
+namespace benevix {
+namespace {
+
+class MirrorTest : public testing::Test {
+ protected:
+  MirrorTest() {
+    desk.Add("frmBVX", main);
+    desk.Add("frmPayOpt", payment);
+    events.On(main.Text1, Event::KeyPress, [](int, EventArgs& args) {
+      if ((args.key < '0' || args.key > '9') && args.key != '.') args.key = 0;
+    });
+    events.On(main.Text1, Event::GotFocus,
+              [this](int index, EventArgs&) { ++main.Text1[index].selections; });
+    events.On(main.Text1, Event::KeyUp, [this](int, EventArgs& args) { keys += static_cast<char>(args.key); });
+    events.On(main.Command1, Event::Click, [this](EventArgs&) { ++clicks; });
+    main.Command1.enabled = true;
+    main.Text1[2].enabled = true;
+    mirror.Attach(desk, input);
+    input.Enter([this] { desk.Show(main); });
+    QTest::qWait(0);
+  }
+  ~MirrorTest() override { mirror.Detach(); }
+
+  template <class W>
+  W& Widget(const Control& control) {
+    return *qobject_cast<W*>(mirror.BindingOf(main)->WidgetOf(control));
+  }
+  void ClickOn(QWidget& widget) {
+    QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      widget.mapTo(widget.window(), widget.rect().center()));
+    QTest::qWait(0);
+  }
+
+  EventTable events;
+  frmBVX main;
+  frmPayOpt payment;
+  Desk desk{events};
+  Input input{desk, events};
+  Mirror mirror{Scheme::Light, Mirror::Timers::Hold};
+  int clicks = 0;
+  std::string keys;
+};
+
+TEST_F(MirrorTest, PastedTextPassesTheKeyFilterCharacterByCharacter) {
+  QLineEdit& edit = Widget<QLineEdit>(main.Text1[2]);
+  ClickOn(edit);
+  QGuiApplication::clipboard()->setText(QStringLiteral("-1a2,3.4 \u0416"));
+  edit.paste();
+  EXPECT_EQ(main.Text1[2].text, "123.4");
+  EXPECT_EQ(edit.text(), QStringLiteral("123.4"));
+  EXPECT_TRUE(main.Text1[2].typed);
+  // Into the middle of what stands there, and over a selection.
+  edit.setCursorPosition(1);
+  edit.insert(QStringLiteral("x9"));
+  EXPECT_EQ(main.Text1[2].text, "1923.4");
+  edit.selectAll();
+  edit.insert(QStringLiteral("abc"));
+  EXPECT_EQ(main.Text1[2].text, "");
+}
+
+TEST_F(MirrorTest, WhatTheProgramWritesPassesWholeAndIsReplacedByTyping) {
+  QLineEdit& edit = Widget<QLineEdit>(main.Text1[2]);
+  input.Enter([this] { main.Text1[2].Write("1,000.00"); });
+  EXPECT_EQ(edit.text(), QStringLiteral("1,000.00"));
+  ClickOn(edit);
+  EXPECT_EQ(edit.selectedText(), QStringLiteral("1,000.00"));
+  QTest::keyClick(edit.window()->windowHandle(), Qt::Key_7);
+  EXPECT_EQ(main.Text1[2].text, "7");
+}
+
+TEST_F(MirrorTest, KeyUpNeedsItsPressInTheSameControlAndNoWaitBetween) {
+  QLineEdit& edit = Widget<QLineEdit>(main.Text1[2]);
+  ClickOn(edit);
+  QWindow* const window = edit.window()->windowHandle();
+  QTest::keyPress(window, Qt::Key_Return);
+  ClickOn(Widget<QLineEdit>(main.Text1[0]));
+  QTest::keyRelease(window, Qt::Key_Return);
+  QTest::keyPress(window, Qt::Key_Return);
+  mirror.Begin();
+  mirror.End();
+  QTest::keyRelease(window, Qt::Key_Return);
+  EXPECT_EQ(keys, "");
+  QTest::keyClick(window, Qt::Key_Return);
+  EXPECT_EQ(keys, std::string(1, '\r'));
+}
+
+TEST_F(MirrorTest, InputDuringAWaitIsThrownAway) {
+  QPushButton& button = Widget<QPushButton>(main.Command1);
+  mirror.Begin();
+  ClickOn(button);
+  button.window()->close();
+  mirror.End();
+  QTest::qWait(0);
+  EXPECT_EQ(clicks, 0);
+  EXPECT_TRUE(desk.IsShown(main));
+  ClickOn(button);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(MirrorTest, MainWindowWaitsForAWindowThatKeepsTheAttention) {
+  input.Enter(
+      [this] { desk.Show(payment, Modality::Modeless, Attention::KeepsMainDisabled); });
+  QWidget& window = mirror.BindingOf(main)->Widget();
+  ClickOn(Widget<QPushButton>(main.Command1));
+  window.close();
+  EXPECT_EQ(clicks, 0);
+  EXPECT_FALSE(window.isEnabled());
+  EXPECT_TRUE(window.isVisible());
+  mirror.BindingOf(payment)->Widget().close();
+  QTest::qWait(0);
+  EXPECT_FALSE(desk.IsShown(payment));
+  EXPECT_TRUE(window.isEnabled());
+  ClickOn(Widget<QPushButton>(main.Command1));
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(MirrorTest, OptionsShowWhatTheStructsSayAlsoWhenNoneIsChosen) {
+  input.Enter([this] { desk.Show(payment); });
+  auto* const card =
+      qobject_cast<QAbstractButton*>(mirror.BindingOf(payment)->WidgetOf(payment.Option1[0]));
+  EXPECT_FALSE(card->isChecked());
+  input.Enter([this] { Choose(payment.Option1, 0); });
+  EXPECT_TRUE(card->isChecked());
+  input.Enter([this] { payment.Option1[0].value = false; });
+  EXPECT_FALSE(card->isChecked());
+}
+
+}  // namespace
+}  // namespace benevix
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  const QApplication app(argc, argv);
+  benevix::ApplyTheme(*qApp, benevix::Scheme::Light);
+  return RUN_ALL_TESTS();
+}
