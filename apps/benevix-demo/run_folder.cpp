@@ -1,5 +1,6 @@
 #include "run_folder.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -19,6 +20,13 @@ RunFolder::RunFolder(const QString& path) : path_(path) {
   qputenv("XDG_CONFIG_DIRS", settings + "/machine");
   qputenv("XDG_DATA_HOME", settings + "/data");
   qputenv("XDG_CACHE_HOME", settings + "/cache");
+  // The first run puts a shortcut on the desktop: on one of the folder's own.
+  QDir().mkpath(path + "/settings/user");
+  QDir().mkpath(path + "/settings/desktop");
+  QFile folders(path + "/settings/user/user-dirs.dirs");
+  if (folders.open(QIODevice::WriteOnly)) {
+    folders.write("XDG_DESKTOP_DIR=\"" + settings + "/desktop\"\n");
+  }
 }
 
 void RunFolder::UseSite(const QString& address) const {

@@ -37,7 +37,9 @@ Text Caption(const QString& shown, const Text& designed) {
 }
 
 Text ReadAction(const QAction& action, const std::string& property, const Text& fromStruct) {
-  if (property == "Caption") return Caption(action.text(), fromStruct);
+  if (property == "Caption") {
+    return Caption(action.text().replace(QLatin1String("&&"), QLatin1String("&")), fromStruct);
+  }
   if (property == "Checked") return Flag(action.isChecked());
   if (property == "Enabled") return Flag(action.isEnabled());
   return fromStruct;

@@ -32,9 +32,7 @@ class RecordingPrinter : public Printer {
     if (off) throw RuntimeError("There is no printer");
     lines.Add(std::string(static_cast<std::size_t>(column > 1 ? column - 1 : 0), ' ') + line);
   }
-  void EndDoc() override {
-    if (off) throw RuntimeError("There is no printer");
-  }
+  void EndDoc() override {}
 
   bool off = false;
   Recorded<std::string> lines;

@@ -97,7 +97,7 @@ void Send(const SiteAnswer& answer, httplib::Response& response) {
   response.set_content(answer.body, answer.contentType);
 }
 
-void Connect(LoopbackServer& server, const Site& site) {
+void Connect(LoopbackServer& server, Site& site) {
   using HandlerResponse = httplib::Server::HandlerResponse;
   server.set_default_headers({{"Cache-Control", "no-store"}});
   server.set_logger(LogRequest);
@@ -132,7 +132,7 @@ int Run(const Options& options) {
     std::cerr << "benevix-site: port " << options.port << " cannot be used\n";
     return exitFailure;
   }
-  const Site site(options.folder, server.Address());
+  Site site(options.folder, server.Address());
   Connect(server, site);
   std::signal(SIGINT, RequestStop);
   std::signal(SIGTERM, RequestStop);

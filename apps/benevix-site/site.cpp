@@ -4,10 +4,13 @@
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <sstream>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include "pages.h"
+#include "parley.h"
 #include "request_fields.h"
 
 namespace benevix {
@@ -18,6 +21,8 @@ namespace fs = std::filesystem;
 constexpr std::string_view mailScript = "/cgi-bin/mail?";
 constexpr std::string_view paymentPrefix = "/xclick/";
 constexpr std::string_view paymentStart = "/xclick/business=";
+constexpr std::string_view translationStart = "/parley?";
+constexpr const char* newsFile = "53rv3r/news.txt";
 constexpr std::string_view addressMark = "{site}";
 
 constexpr const char* bytesType = "application/octet-stream";
@@ -70,14 +75,40 @@ SiteAnswer AnswerMail(std::string_view query) {
 Site::Site(const fs::path& folder, std::string address)
     : folder_(fs::canonical(folder)), address_(std::move(address)) {}
 
-SiteAnswer Site::Answer(std::string_view target) const {
+SiteAnswer Site::Answer(std::string_view target) {
   if (target.starts_with(mailScript)) return AnswerMail(target.substr(mailScript.size()));
   if (target.starts_with(paymentStart)) {
     return {200, madePageType, PaymentPage(SplitFields(target.substr(paymentPrefix.size())))};
   }
+  if (target.starts_with(translationStart)) {
+    return AnswerTranslation(target.substr(translationStart.size()));
+  }
   const std::string_view path = target.substr(0, target.find_first_of("?#"));
-  const auto file = FindFile(PercentDecode(path.substr(std::min<size_t>(1, path.size()))));
+  const std::string relative = PercentDecode(path.substr(std::min<size_t>(1, path.size())));
+  if (relative == newsFile) return AnswerNews();
+  const auto file = FindFile(relative);
   return file ? AnswerFile(*file) : ErrorAnswer(404);
+}
+
+SiteAnswer Site::AnswerNews() {
+  const auto file = FindFile(newsFile);
+  if (!file) return ErrorAnswer(404);
+  SiteAnswer answer = AnswerFile(*file);
+  std::vector<std::string> kinds;
+  std::istringstream lines(answer.body);
+  for (std::string line; std::getline(lines, line);) kinds.push_back(line);
+  if (!kinds.empty()) answer.body = kinds[newsAsked_++ % kinds.size()];
+  return answer;
+}
+
+SiteAnswer Site::AnswerTranslation(std::string_view query) const {
+  const std::vector<RequestField> fields = SplitFields(query);
+  const std::string page = FieldValue(fields, "url");
+  if (!page.starts_with(address_)) return ErrorAnswer(404);
+  const auto file = FindFile(page.substr(address_.size()));
+  if (!file) return ErrorAnswer(404);
+  const SiteAnswer original = AnswerFile(*file);
+  return {200, madePageType, Interpret(FieldValue(fields, "language"), original.body)};
 }
 
 std::optional<fs::path> Site::FindFile(const std::string& relative) const {

@@ -18,7 +18,7 @@ using namespace benevix;
 int RunOn(Machine& machine, Mirror& mirror) {
   Program program(machine.TheSurroundings());
   mirror.Attach(program.TheDesk(), program.TheInput());
-  mirror.onEnded = [] { QCoreApplication::quit(); };
+  mirror.onEnded = [] { QCoreApplication::exit(); };
   program.Main();
   const int result = program.TheDesk().Ended() ? 0 : QApplication::exec();
   program.Finish();

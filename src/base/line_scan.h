@@ -22,11 +22,11 @@ inline Marks MarksOf64(const char* bytes) {
 #if defined(__SSE2__) || defined(_M_X64)
   const __m128i lineFeed = _mm_set1_epi8('\n');
   const __m128i comma = _mm_set1_epi8(',');
-  for (int part = 0; part < 4; ++part) {
-    const __m128i sixteen = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + 16 * part));
+  for (std::size_t at = 0; at < 64; at += 16) {
+    const __m128i sixteen = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + at));
     const auto mask = [&](__m128i wanted) {
       const int bits = _mm_movemask_epi8(_mm_cmpeq_epi8(sixteen, wanted));
-      return static_cast<std::uint64_t>(static_cast<unsigned>(bits)) << (16 * part);
+      return static_cast<std::uint64_t>(static_cast<unsigned>(bits)) << at;
     };
     marks.lineFeeds |= mask(lineFeed);
     marks.commas |= mask(comma);

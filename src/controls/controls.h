@@ -189,6 +189,12 @@ struct ScrollBar : Control {
   int value = 0;
 };
 
+// How far a request is; with a max of 0 it only shows that something is under way.
+struct ProgressBar : Control {
+  int max = 0;
+  int value = 0;
+};
+
 struct PageViewer : Control {
   std::string address;
   int navigations = 0;
@@ -216,7 +222,7 @@ struct Window {
 
 using AnyControl =
     std::variant<TextBox*, Label*, Button*, OptionButton*, CheckBox*, ComboBox*, MenuItem*,
-                 MenuArray*, Frame*, PictureBox*, Shape*, Line*, Timer*, ScrollBar*, PageViewer*,
-                 HttpControl*, ListView*>;
+                 MenuArray*, Frame*, PictureBox*, Shape*, Line*, Timer*, ScrollBar*, ProgressBar*,
+                 PageViewer*, HttpControl*, ListView*>;
 
 }  // namespace benevix

@@ -56,7 +56,7 @@ class EventTable {
 
   // For every element of an array; the handler also takes the element's index.
   template <class C, std::size_t N>
-  void On(C (&array)[N], Event event, std::function<void(int, EventArgs&)> handler) {
+  void On(C (&array)[N], Event event, const std::function<void(int, EventArgs&)>& handler) {
     for (std::size_t i = 0; i < N; ++i) {
       On(array[i], event,
          [handler, index = static_cast<int>(i)](EventArgs& args) { handler(index, args); });

@@ -3,6 +3,7 @@
 #include "base/lines.h"
 #include "base/number_text.h"
 #include "base/runtime_error.h"
+#include "core/wait_notice.h"
 #include "database/organization_list.h"
 
 namespace benevix {
@@ -14,11 +15,18 @@ bool IsUsable(const std::string& answer) {
 
 }  // namespace
 
+std::string ListUpdate::Download(const std::string& path, HttpOptions options) {
+  WaitNotice notice(wait_, desk_, surroundings_.waits);
+  options.limit = kDownloadLimit;
+  options.progress = notice.Progress();
+  return fetch_(path, options);
+}
+
 void ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
   try {
     std::string reply;
     try {
-      reply = fetch_("53rv3r/dbcurrver.dat", kAnswerLimit);
+      reply = fetch_("53rv3r/dbcurrver.dat", {});
     } catch (const RuntimeError&) {
       // No answer counts as an empty one.
     }
@@ -37,7 +45,7 @@ void ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
 
     const std::string temporary = surroundings_.info.Resource("$shrdb.dat");
     surroundings_.files.Replace(temporary, "");
-    const std::string list = fetch_("downloads/db" + reply, kDownloadLimit);
+    const std::string list = Download("downloads/db" + reply);
     if (!IsUsable(list)) return noServer();
     surroundings_.files.Replace(temporary, list);
     if (silent) {
@@ -66,7 +74,9 @@ bool ListUpdate::InstallList() {
 bool ListUpdate::DownloadUpdater() {
   std::string program;
   try {
-    program = fetch_("downloads/updater.exe", kDownloadLimit);
+    HttpOptions options;
+    options.needsOk = true;
+    program = Download("downloads/updater.exe", options);
   } catch (const RuntimeError&) {
     // Told below, like an empty answer.
   }

@@ -105,7 +105,7 @@ bool OrganizationList::AddLine(std::size_t begin, std::size_t end, std::size_t l
     return damage_.empty();
   }
   if (line[0] == '[') {
-    headings_.push_back(Count() + 1);
+    headings_.push_back(static_cast<int>(begins_.size()) + 1);
   } else {
     const bool comma = lastComma != LineScan::kNone && lastComma >= begin;
     if (!TakeOrganization(line, comma ? lastComma - begin : LineScan::kNone)) return false;

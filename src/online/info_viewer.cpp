@@ -3,11 +3,14 @@
 namespace benevix {
 
 void InfoViewer::Form_Load() {
-  info_.VScroll1.max = info_.Label1.height;
+  info_.MeasureText();
   info_.topmost = true;
 }
 
-void InfoViewer::VScroll1_Scroll() { info_.Label1.top = -info_.VScroll1.value; }
+void InfoViewer::VScroll1_Scroll() {
+  info_.MeasureText();  // the window may have been made narrower since
+  info_.Label1.top = -info_.VScroll1.value;
+}
 
 void InfoViewer::Form_Unload() {
   info_.wb1.visible = false;

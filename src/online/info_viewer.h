@@ -13,7 +13,6 @@ class InfoViewer {
  public:
   InfoViewer(frmInfo& info, frmBVX& main) : info_(info), main_(main) {}
 
-  // The scroll bar reaches over the whole text.
   void Form_Load();
   void VScroll1_Scroll();
   // The main window repaints.

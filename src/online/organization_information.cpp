@@ -1,12 +1,15 @@
 #include "online/organization_information.h"
 
 #include "base/runtime_error.h"
+#include "core/wait_notice.h"
 #include "database/organization_list.h"
 
 namespace benevix {
 namespace {
 
-bool IsWebAddress(const std::string& address) { return address.compare(0, 4, "http") == 0; }
+bool IsWebAddress(const std::string& address) {
+  return address.compare(0, 4, "http") == 0;
+}
 
 }  // namespace
 
@@ -31,16 +34,21 @@ void OrganizationInformation::MoreInfo() {
   desk_.Show(viewer, Modality::Modeless, Attention::KeepsMainDisabled);
   const std::string page = InformationPage(id);
   viewer.caption = "About " + Selected(column::kOrganization);
-  viewer.Label1.caption = page;
+  viewer.PutText(page);
   viewer.Picture1.visible = true;
+  waits_.DoEvents();  // the text is measured as it is drawn
+  viewer.MeasureText();
 }
 
 std::string OrganizationInformation::InformationPage(const std::string& id) {
   constexpr int attempts = 4;
+  WaitNotice notice(windows_.wait, desk_, waits_);
+  HttpOptions options;
+  options.progress = notice.Progress();
   for (int i = 0; i < attempts; ++i) {
     waits_.DoEvents();
     try {
-      const std::string page = server_.FetchServerText("infoDB/" + id + ".dat");
+      const std::string page = server_.FetchServerText("infoDB/" + id + ".dat", options);
       if (!page.empty() && page.find("404") == std::string::npos) return page;
     } catch (const RuntimeError&) {
       // The next attempt may get through.
@@ -50,16 +58,12 @@ std::string OrganizationInformation::InformationPage(const std::string& id) {
 }
 
 void OrganizationInformation::Contact() {
-  frmWait& wait = windows_.wait;
-  const std::string id = Selected(column::kId);
-  desk_.Load(wait);
-  wait.caption = "Contacting Remote Server";
-  wait.Label2.caption = "Retrieving Information. Please wait...";
-  desk_.Show(wait);
   std::string contact;
   std::string web;
-  const auto result = contacts_.LookupContacts(id, contact, web);
-  desk_.Unload(wait);
+  const auto result = [&] {
+    const WaitNotice notice(windows_.wait, desk_, waits_);
+    return contacts_.LookupContacts(Selected(column::kId), contact, web);
+  }();
   if (result == OrganizationContacts::Result::NotFound) {
     messages_.ShowMessage(message::kServiceUnavailable, message_kind::kFailedToConnect);
   }

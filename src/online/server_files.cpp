@@ -5,16 +5,14 @@
 
 namespace benevix {
 
-std::string ServerFiles::OpenURL(const std::string& address, std::size_t limit) {
-  HttpOptions options;
+std::string ServerFiles::OpenURL(const std::string& address, HttpOptions options) {
   options.proxy = main_.Inet1.proxy;
   options.timeout = main_.Inet1.requestTimeout;
-  options.limit = limit;
   return surroundings_.http.OpenURL(address, options);
 }
 
-std::string ServerFiles::FetchServerText(const std::string& path, std::size_t limit) {
-  return OpenURL(surroundings_.info.deployment.serverBase + path, limit);
+std::string ServerFiles::FetchServerText(const std::string& path, HttpOptions options) {
+  return OpenURL(surroundings_.info.deployment.serverBase + path, std::move(options));
 }
 
 std::string ServerFiles::FetchUsable(const std::string& path) {

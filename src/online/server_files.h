@@ -17,10 +17,10 @@ class ServerFiles {
       : surroundings_(surroundings), main_(main), run_(run) {}
 
   // The answer of the server base address followed by `path`; RuntimeError when none comes.
-  std::string FetchServerText(const std::string& path, std::size_t limit = kAnswerLimit);
+  std::string FetchServerText(const std::string& path, HttpOptions options = {});
 
   // An address that is built already, through the same control.
-  std::string OpenURL(const std::string& address, std::size_t limit = kAnswerLimit);
+  std::string OpenURL(const std::string& address, HttpOptions options = {});
 
   // Empty when no usable answer comes: none at all, or an error page.
   std::string FetchUsable(const std::string& path);

@@ -13,6 +13,7 @@ struct HttpOptions {
   std::string proxy;  // host:port, empty for none
   int timeout = 5;    // seconds without a byte received; below 1 counts as 5
   std::size_t limit = kAnswerLimit;
+  bool needsOk = false;  // an answer of another status than 200 comes back empty
   // Called while the answer comes in; total is 0 while it is not known.
   std::function<void(std::size_t received, std::size_t total)> progress;
 };
@@ -29,8 +30,8 @@ class HttpClient {
   virtual std::string OpenURL(const std::string& address, const HttpOptions& options) = 0;
 };
 
-// Fetches a file of the server: a path relative to the server base address and the bytes it may
-// have in, the answer out.
-using ServerFetch = std::function<std::string(const std::string& path, std::size_t limit)>;
+// Fetches a file of the server: a path relative to the server base address in, the answer out.
+// Proxy and time-out are the connection's, whatever the options say.
+using ServerFetch = std::function<std::string(const std::string& path, const HttpOptions& options)>;
 
 }  // namespace benevix

@@ -17,7 +17,7 @@ Program::Program(Surroundings surroundings)
       server_(surroundings_, windows_.main, run_),
       database_(windows_.main, run_, settings_, surroundings_.info.Resource("sharedb.dat")),
       otherNames_(surroundings_.files, surroundings_.info.Resource("othernames.dat")),
-      listUpdate_(surroundings_, Fetch(), messages_, run_),
+      listUpdate_(surroundings_, Fetch(), messages_, run_, windows_.wait, desk_),
       budgetEntry_(windows_.main, values_, desk_, messages_, [this] { paymentOptions_.AskOnce(); }),
       donationEntry_(windows_.main, values_, rates_, desk_, messages_,
                      {windows_.contact, windows_.payment,
@@ -98,8 +98,8 @@ void Program::Main() {
 void Program::Finish() { history_.WritePending(); }
 
 ServerFetch Program::Fetch() {
-  return [this](const std::string& path, std::size_t limit) {
-    return server_.FetchServerText(path, limit);
+  return [this](const std::string& path, const HttpOptions& options) {
+    return server_.FetchServerText(path, options);
   };
 }
 

@@ -86,6 +86,7 @@ void LastSession::ReplaceByFile(std::vector<Record>& records) const {
   std::set<std::string_view> wanted;
   const std::vector<Record> asStored = records;
   for (const Record& record : asStored) wanted.insert(record.organization);
+  if (wanted.empty()) return;
   const std::string file = info_.Resource("sharedb.dat");
   std::ifstream in(PathOf(file), std::ios::binary);
   if (!in) throw RuntimeError(file + ": cannot be read");

@@ -10,28 +10,24 @@
 namespace benevix {
 
 void Printing::mnuPrntSession_Click() {
-  try {
+  PrintDocument([this] {
     PrintWaitNotice();
     PrintSession(finalization_.LastHeading());
-  } catch (const RuntimeError&) {
-    // The printout ends there.
-  }
+  });
 }
 
 void Printing::mnuPrtHistory_Click() {
-  try {
+  PrintDocument([this] {
     PrintWaitNotice();
     PrintPageHeading();
     PrintHistory();
     PrintDocumentEnd();
-  } catch (const RuntimeError&) {
-    surroundings_.printer.EndDoc();
-  }
+  });
 }
 
 void Printing::PrintMessage(const std::string& from, const std::string& to,
                             const std::string& subject, const std::string& message) {
-  try {
+  PrintDocument([&] {
     PrintPageHeading();
     PrintLine("From: " + from);
     PrintLine("To: " + to);
@@ -39,9 +35,16 @@ void Printing::PrintMessage(const std::string& from, const std::string& to,
     PrintLine("");
     for (const std::string_view line : Lines(message)) PrintLine(std::string(line));
     PrintDocumentEnd();
+  });
+}
+
+void Printing::PrintDocument(const std::function<void()>& body) {
+  try {
+    body();
   } catch (const RuntimeError&) {
-    // The printout ends there.
+    // What was printed so far is sent; a later document must not run on from it.
   }
+  surroundings_.printer.EndDoc();
 }
 
 void Printing::PrintLine(const std::string& line, int column) {
@@ -80,7 +83,6 @@ void Printing::PrintDocumentEnd() {
   PrintLine(" ------------------------- End Doc ------ " + DateText(now) + " @ " + TimeText(now) +
             seconds + " ------------- " + surroundings_.info.deployment.serverBase +
             " ------------- ");
-  surroundings_.printer.EndDoc();
 }
 
 void Printing::PrintSession(const std::string& heading) {

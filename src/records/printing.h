@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "controls/desk.h"
@@ -29,8 +30,11 @@ class Printing {
                     const std::string& message);
 
  private:
+  // Runs the body and ends the document; a missing file or a printer error ends it where it stands.
+  void PrintDocument(const std::function<void()>& body);
   void PrintWaitNotice();
   void PrintPageHeading();
+  // The document's last lines.
   void PrintDocumentEnd();
   // `heading` is "ID,amount,date @ time".
   void PrintSession(const std::string& heading);

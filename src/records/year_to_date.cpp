@@ -9,7 +9,7 @@ namespace benevix {
 void YearToDate::DownloadYtd() {
   run_.YtdState = 0;
   try {
-    const std::string table = fetch_("53rv3r/ytdt.dat", kAnswerLimit);
+    const std::string table = fetch_("53rv3r/ytdt.dat", {});
     if (table.empty() || table[0] == '<') return;
     surroundings_.files.Replace(File(), table + "\r\n");
     run_.YtdState = 1;
@@ -30,31 +30,32 @@ void YearToDate::ShowYtd() {
   while (!rest.empty()) {
     const auto end = rest.find("\r\n");
     std::string amounts;
-    if (FindRecord(rest.substr(0, end), amounts)) {
+    const Lookup lookup = FindRecord(rest.substr(0, end), amounts);
+    if (lookup == Lookup::Found) {
       ShowAmounts(amounts);
       return SetMark(Mark::Found);
     }
-    if (run_.YtdState == 2) break;
+    if (lookup == Lookup::Broken) {
+      run_.YtdState = 2;
+      break;
+    }
     rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 2);
   }
   SetMark(Mark::NoData);
 }
 
-bool YearToDate::FindRecord(std::string_view text, std::string& amounts) {
+YearToDate::Lookup YearToDate::FindRecord(std::string_view text, std::string& amounts) const {
   constexpr std::size_t shortest = 13;
   const std::string id = main_.ListView1.SubItem(main_.ListView1.selected, column::kId);
   while (text.size() >= shortest) {
     const std::string_view record = CutField(text, '\n');
     const auto comma = record.find(',');
-    if (comma == std::string_view::npos) {
-      run_.YtdState = 2;
-      return false;
-    }
+    if (comma == std::string_view::npos) return Lookup::Broken;
     if (record.substr(0, comma) != id) continue;
     amounts = record.substr(comma + 1);
-    return true;
+    return Lookup::Found;
   }
-  return false;
+  return Lookup::NotFound;
 }
 
 void YearToDate::ShowAmounts(std::string_view amounts) {

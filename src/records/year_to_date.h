@@ -39,9 +39,11 @@ class YearToDate {
 
  private:
   enum class Mark { Found, NoData };
+  enum class Lookup { Found, NotFound, Broken };  // broken: a record without ","
   void SetMark(Mark mark);
-  // The selected row's record behind its key; empty when there is none.
-  [[nodiscard]] bool FindRecord(std::string_view text, std::string& amounts);
+  // Looks in one line of the file for the selected row's record; `amounts` is what is behind its
+  // key.
+  [[nodiscard]] Lookup FindRecord(std::string_view text, std::string& amounts) const;
   void ShowAmounts(std::string_view amounts);
   [[nodiscard]] std::string File() const { return surroundings_.info.Resource("ytd.dat"); }
 

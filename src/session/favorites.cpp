@@ -13,6 +13,9 @@ namespace {
 // Where a search for favorites behind a damaged count ends.
 constexpr int kMostGap = 100;
 
+const std::string kRemoveHint =
+    "Choose from the Favorites menu the favorite to remove, or Cancel Remove.";
+
 std::string Id(const std::string& favorite) { return favorite.substr(0, favorite.find(',')); }
 
 bool IsReadable(const std::string& favorite) {
@@ -36,6 +39,7 @@ void Favorites::LoadFavoritesMenu() {
     favorites = Read();
   }
   favorites_ = favorites.value_or(std::vector<Favorite>());
+  removing_ = false;
   std::set<std::string> ids;
   for (const Favorite& favorite : favorites_) ids.insert(favorite.id);
   const auto rows = database_.FindRows(ids);
@@ -108,7 +112,7 @@ void Favorites::mnuFavs_Click(int index) {
 void Favorites::mnuFavsRemove_Click() {
   if (!removing_) hintBefore_ = main_.Label6.caption;
   removing_ = true;
-  main_.Label6.caption = "Choose from the Favorites menu the favorite to remove, or Cancel Remove.";
+  main_.Label6.caption = kRemoveHint;
   BuildMenu();
 }
 
@@ -116,7 +120,8 @@ void Favorites::mnuCancelRemove_Click() { EndRemoving(); }
 
 void Favorites::EndRemoving() {
   removing_ = false;
-  main_.Label6.caption = hintBefore_;
+  // What has been said since stands.
+  if (main_.Label6.caption == kRemoveHint) main_.Label6.caption = hintBefore_;
   BuildMenu();
 }
 

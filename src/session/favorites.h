@@ -23,7 +23,7 @@ class Favorites {
       : main_(main), settings_(settings), database_(database), listView_(listView) {}
 
   // Makes a menu element of each stored favorite; a damaged store is repaired first. One that is
-  // not in the list is marked so, and disabled except while one is being removed.
+  // not in the list is marked so, and disabled except while one is being removed, which this ends.
   void LoadFavoritesMenu();
 
   // Adds the selected organization, once.

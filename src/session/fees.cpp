@@ -38,7 +38,7 @@ Currency ComputeCardFee(const SessionValues& values, FeeRates& rates, bool forei
   return CardFeeOf(values.Donation, values.BvxFee, rates);
 }
 
-void ReadFeeRates(std::string text, FeeRates& rates, frmBVX& main) {
+void ReadFeeRates(const std::string& text, FeeRates& rates, frmBVX& main) {
   if (text.empty() || text.find('<') != std::string::npos) {
     FeeRates defaults;
     defaults.RatesField6 = rates.RatesField6;
@@ -55,7 +55,7 @@ void ReadFeeRates(std::string text, FeeRates& rates, frmBVX& main) {
   rates.CardFixed = Currency::FromText(CutField(rest, ','));
   rates.SessionFee = Currency::FromText(CutField(rest, ','));
   rates.RatesField6 = CutField(rest, ',');
-  rates.RatesField7 = rest;
+  rates.RatesField7 = rest.substr(0, rest.find_first_of("\r\n"));  // the file is one line
 }
 
 }  // namespace benevix

@@ -25,6 +25,6 @@ Currency ComputeCardFee(const SessionValues& values, FeeRates& rates, bool forei
 // Reads the rates from the text of the server's file, or sets the defaults when it is empty or an
 // error page; labels the two delivery options with their fees, once. Raises RuntimeError for numbers
 // beyond their type, with the values read so far.
-void ReadFeeRates(std::string text, FeeRates& rates, frmBVX& main);
+void ReadFeeRates(const std::string& text, FeeRates& rates, frmBVX& main);
 
 }  // namespace benevix

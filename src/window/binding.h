@@ -11,7 +11,7 @@ namespace benevix {
 // What the bindings of all windows share.
 struct BindingContext {
   Input& input;
-  Scheme scheme;
+  Scheme scheme = Scheme::Light;
   bool applying = false;   // the program writes into widgets; what they signal is not the user's
   bool runTimers = true;
 };

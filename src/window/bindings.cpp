@@ -4,9 +4,11 @@
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -33,8 +35,8 @@ void ApplyBase(const Control& control, QWidget& widget) {
   if (widget.toolTip() != tip) widget.setToolTip(tip);
 }
 
-// A colour of the struct over the theme's; the design colour leaves the theme's. Disabled texts keep
-// the theme's look.
+// A colour of the struct over the theme's; the design colour leaves the theme's. Disabled texts
+// keep the theme's look.
 void SetText(QPalette& palette, QPalette::ColorRole role, Color color, Color design,
              Scheme scheme) {
   if (color == design) return;
@@ -167,8 +169,7 @@ class LabelBinding : public Bound<Label, QLabel> {
       if (IsFree()) widget_.adjustSize();
     }
     QPalette palette = theme_;
-    SetText(palette, QPalette::WindowText, control_.foreColor, Label().foreColor,
-            context_.scheme);
+    SetText(palette, QPalette::WindowText, control_.foreColor, Label().foreColor, context_.scheme);
     ApplyPalette(widget_, palette);
     if (IsFree()) Place();
   }
@@ -185,12 +186,15 @@ class LabelBinding : public Bound<Label, QLabel> {
   void Place() {
     const QWidget& track = *widget_.parentWidget();
     if (widget_.wordWrap()) {
-      widget_.setFixedWidth(track.width());
-      widget_.adjustSize();
+      if (QLayout* const layout = widget_.window()->layout()) layout->activate();
+      widget_.resize(track.width(),
+                     std::max(track.height(), widget_.heightForWidth(track.width())));
       control_.height = widget_.height() * kTwipsPerPixel;
     }
-    widget_.move(control_.left / kTwipsPerPixel, control_.top / kTwipsPerPixel +
-                 (widget_.wordWrap() ? 0 : std::max(0, (track.height() - widget_.height()) / 2)));
+    widget_.move(
+        control_.left / kTwipsPerPixel,
+        control_.top / kTwipsPerPixel +
+            (widget_.wordWrap() ? 0 : std::max(0, (track.height() - widget_.height()) / 2)));
   }
 };
 
@@ -271,10 +275,9 @@ class ComboBinding : public Bound<ComboBox, QComboBox> {
                             [](QChar c) { return CodePageByte(c.unicode()) >= ' '; },
                             [&context] { return context.applying; })
                             .release());
-    QObject::connect(widget.lineEdit(), &QLineEdit::textEdited, &widget,
-                     [this](const QString& text) {
-                       context_.input.Type(control_, FromQString(text));
-                     });
+    QObject::connect(
+        widget.lineEdit(), &QLineEdit::textEdited, &widget,
+        [this](const QString& text) { context_.input.Type(control_, FromQString(text)); });
   }
 
   void Apply() override {
@@ -330,6 +333,16 @@ class ScrollBarBinding : public Bound<ScrollBar, QScrollBar> {
       if (!context_.applying) context_.input.Scroll(control_, value);
     });
   }
+  void Apply() override {
+    ApplyBase(control_, widget_);
+    if (widget_.maximum() != control_.max) widget_.setMaximum(control_.max);
+    if (widget_.value() != control_.value) widget_.setValue(control_.value);
+  }
+};
+
+class ProgressBarBinding : public Bound<ProgressBar, QProgressBar> {
+ public:
+  using Bound::Bound;
   void Apply() override {
     ApplyBase(control_, widget_);
     if (widget_.maximum() != control_.max) widget_.setMaximum(control_.max);
@@ -436,6 +449,9 @@ std::unique_ptr<Binding> MakeBinding(const NamedControl& control, QWidget& windo
   }
   if (auto* const c = control.As<ScrollBar>()) {
     return Bind<ScrollBarBinding, QScrollBar>(*c, widget, context);
+  }
+  if (auto* const c = control.As<ProgressBar>()) {
+    return Bind<ProgressBarBinding, QProgressBar>(*c, widget, context);
   }
   if (auto* const c = control.As<PageViewer>()) {
     return std::make_unique<PageViewerBinding>(*c, *widget, context);

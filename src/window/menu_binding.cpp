@@ -9,8 +9,7 @@
 namespace benevix {
 namespace {
 
-void ApplyItem(const MenuItem& item, bool enabled, QAction& action) {
-  const QString text = ToQString(item.caption);
+void ApplyItem(const MenuItem& item, const QString& text, bool enabled, QAction& action) {
   if (action.text() != text) action.setText(text);
   if (action.isEnabled() != enabled) action.setEnabled(enabled);
   if (action.isCheckable() != item.checked) action.setCheckable(item.checked);
@@ -75,7 +74,7 @@ void MenuBinding::AddArray(MenuArray& array) {
 
 void MenuBinding::Apply() {
   for (Item& bound : items_) {
-    ApplyItem(*bound.item, bound.item->enabled, *bound.action);
+    ApplyItem(*bound.item, ToQString(bound.item->caption), bound.item->enabled, *bound.action);
     if (bound.popUps == bound.item->popUps) continue;
     bound.popUps = bound.item->popUps;
     bound.menu->popup(QCursor::pos());
@@ -106,7 +105,9 @@ void MenuBinding::ApplyArray(Array& array) {
                          context_.input.ChooseMenu(*menuArray, element);
                        });
     }
-    ApplyItem(item, item.enabled && array.array->enabled, *action);
+    // Names from files and settings: an ampersand in them is no mnemonic.
+    const QString text = ToQString(item.caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+    ApplyItem(item, text, item.enabled && array.array->enabled, *action);
     const bool shown = item.visible && !item.caption.empty();
     if (action->isVisible() != shown) action->setVisible(shown);
   }

@@ -28,13 +28,15 @@ QMessageBox::Icon Icon(BoxIcon icon) {
 BoxAnswer QtMessageBoxes::Show(const std::string& title, const std::string& text, BoxIcon icon,
                                BoxButtons buttons) {
   const bool asks = buttons == BoxButtons::YesNo;
+  // First the windows come into line: one that goes must not take the box with it.
+  const WaitScope wait(waits_);
+  QWidget* const active = QApplication::activeWindow();
   QMessageBox box(Icon(icon), ToQString(title), ToQString(text),
                   asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
-                  QApplication::activeWindow());
+                  active != nullptr && active->isVisible() ? active : nullptr);
   box.setTextFormat(Qt::PlainText);
   if (asks) box.setEscapeButton(QMessageBox::No);
   if (onShown) QTimer::singleShot(0, &box, [&] { onShown(box); });
-  const WaitScope wait(waits_);
   const int answer = box.exec();
   if (!asks) return BoxAnswer::OK;
   return answer == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;

@@ -4,13 +4,16 @@
 
 namespace benevix {
 
-QString ToQString(const std::string& text) { return QString::fromStdString(ToUtf8(text)); }
+QString ToQString(const std::string& text) {
+  return QString::fromStdString(ToUtf8(text));
+}
 
-std::string FromQString(const QString& text) { return FromUtf8(text.toStdString()); }
+std::string FromQString(const QString& text) {
+  return FromUtf8(text.toStdString());
+}
 
 QString WithoutMnemonic(const QString& text) {
-  QString plain = text;
-  return plain.remove(QLatin1Char('&'));
+  return text.startsWith(QLatin1Char('&')) ? text.mid(1) : text;
 }
 
 }  // namespace benevix

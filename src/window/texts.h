@@ -10,7 +10,8 @@ namespace benevix {
 QString ToQString(const std::string& text);
 std::string FromQString(const QString& text);
 
-// Without the marks of mnemonics.
+// A label's text without the mark of its mnemonic, which stands before the first letter; any other
+// "&" is text.
 QString WithoutMnemonic(const QString& text);
 
 // Twips are twentieths of a point: fifteen to a pixel at the 96 dots an inch that the toolkit's

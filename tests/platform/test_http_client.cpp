@@ -98,6 +98,9 @@ TEST_F(HttpClientTest, AnyStatusIsAnAnswer) {
   for (const std::string status : {"200", "302", "400", "401", "404", "407", "418", "500", "599"}) {
     server_.Answer("HTTP/1.1 " + status + " X\r\nWWW-Authenticate: Basic\r\n\r\n<b>\0\xFF"s);
     EXPECT_EQ(Open(), "<b>\0\xFF"s) << status;
+    options_.needsOk = true;
+    EXPECT_EQ(Open().empty(), status != "200") << status;
+    options_.needsOk = false;
   }
 }
 

@@ -76,6 +76,7 @@ TEST(ProgramFolder, IsSeededOnceWhereTheInstalledOneIsReadOnly) {
   fs::create_directory(folder / "data");
   fs::permissions(folder / "data", fs::perms::all);
   Put(folder / "opt/Resources/sharedb.dat", "list");
+  fs::create_symlink("sharedb.dat", folder / "opt/Resources/shareddb.dat");
   EXPECT_EQ(ProgramFolder(folder / "opt/benevix"), folder / "opt");
   fs::permissions(folder / "opt", fs::perms(0555));
   setenv("XDG_DATA_HOME", (folder / "data").c_str(), 1);
@@ -88,6 +89,7 @@ TEST(ProgramFolder, IsSeededOnceWhereTheInstalledOneIsReadOnly) {
     wait(&status);
     EXPECT_EQ(status, 0);
     EXPECT_EQ(Got(list), isFirstStart ? "list" : "");
+    EXPECT_EQ(fs::read_symlink(user + "/Resources/shareddb.dat"), "sharedb.dat");
     fs::remove(list);  // by the program, for good
   }
 }

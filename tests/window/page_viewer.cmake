@@ -17,6 +17,5 @@ target_link_libraries(test_page_viewer PRIVATE
   Qt6::Test
 )
 gtest_discover_tests(test_page_viewer
-  PROPERTIES LABELS page-viewer
-             ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QTWEBENGINE_DISABLE_SANDBOX=1"
+  PROPERTIES LABELS page-viewer ENVIRONMENT QTWEBENGINE_DISABLE_SANDBOX=1
 )

@@ -1,12 +1,11 @@
 // The mirror between structs and real widgets, off the screen.
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <gtest/gtest.h>
 
 #include "controls/desk.h"
 #include "controls/input.h"
@@ -28,7 +27,8 @@ class MirrorTest : public testing::Test {
     });
     events.On(main.Text1, Event::GotFocus,
               [this](int index, EventArgs&) { ++main.Text1[index].selections; });
-    events.On(main.Text1, Event::KeyUp, [this](int, EventArgs& args) { keys += static_cast<char>(args.key); });
+    events.On(main.Text1, Event::KeyUp,
+              [this](int, EventArgs& args) { keys += static_cast<char>(args.key); });
     events.On(main.Command1, Event::Click, [this](EventArgs&) { ++clicks; });
     main.Command1.enabled = true;
     main.Text1[2].enabled = true;
@@ -115,8 +115,7 @@ TEST_F(MirrorTest, InputDuringAWaitIsThrownAway) {
 }
 
 TEST_F(MirrorTest, MainWindowWaitsForAWindowThatKeepsTheAttention) {
-  input.Enter(
-      [this] { desk.Show(payment, Modality::Modeless, Attention::KeepsMainDisabled); });
+  input.Enter([this] { desk.Show(payment, Modality::Modeless, Attention::KeepsMainDisabled); });
   QWidget& window = mirror.BindingOf(main)->Widget();
   ClickOn(Widget<QPushButton>(main.Command1));
   window.close();
@@ -147,6 +146,8 @@ TEST_F(MirrorTest, OptionsShowWhatTheStructsSayAlsoWhenNoneIsChosen) {
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
+  // Also where the build asks for the names of the tests.
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication app(argc, argv);
   benevix::ApplyTheme(*qApp, benevix::Scheme::Light);
   return RUN_ALL_TESTS();

@@ -101,12 +101,15 @@ class PageViewerTest : public testing::Test {
   }
   void Show(const std::string& address) {
     host_.Navigate(address);
-    EXPECT_TRUE(QSignalSpy(Engine("QWebEngineView"), SIGNAL(loadFinished(bool))).wait(20000));
+    QObject* view = Engine("QWebEngineView");
+    ASSERT_NE(view, nullptr) << Notice().toStdString();
+    EXPECT_TRUE(QSignalSpy(view, SIGNAL(loadFinished(bool))).wait(20000));
   }
   QString Value(const QString& expression) {
     using Probe = QString (*)(QObject*, const QString&);
     static const auto probe = reinterpret_cast<Probe>(QLibrary::resolve(PAGE_PROBE, "ValueInPage"));
-    return probe(Engine("QWebEnginePage"), expression);
+    QObject* page = Engine("QWebEnginePage");
+    return page == nullptr ? Notice() : probe(page, expression);
   }
   bool Becomes(const QString& expression, const QString& wanted) {
     QString value;
@@ -120,6 +123,7 @@ class PageViewerTest : public testing::Test {
   // As the user does it.
   void ClickAt(int x, int y) {
     auto* view = qobject_cast<QWidget*>(Engine("QWebEngineView"));
+    ASSERT_NE(view, nullptr);
     QTest::mouseClick(view->focusProxy(), Qt::LeftButton, {}, QPoint(x, y));
   }
   [[nodiscard]] QString Notice() const {

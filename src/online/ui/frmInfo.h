@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "controls/controls.h"
 
 namespace benevix {
@@ -14,6 +16,7 @@ struct frmInfo : Window {
     wb1.visible = false;
     Label3.visible = false;
     Label1.holder = "Picture1";
+    Label1.height = kPanelHeight;
     VScroll1.holder = "Picture1";
   }
 
@@ -23,6 +26,21 @@ struct frmInfo : Window {
     wb1.visible = true;
     wb1.Navigate2(address);
   }
+
+  // Puts a text on the panel, at its beginning. Until it is measured, its height is that of its
+  // lines.
+  void PutText(const std::string& text) {
+    constexpr int lineHeight = 195;
+    const auto lines = 1 + std::count(text.begin(), text.end(), '\n');
+    Label1.caption = text;
+    Label1.height = std::max(kPanelHeight, static_cast<int>(lines) * lineHeight);
+    Label1.top = VScroll1.value = 0;
+  }
+
+  // The scroll bar reaches over the whole text.
+  void MeasureText() { VScroll1.max = Label1.height; }
+
+  static constexpr int kPanelHeight = 7200;  // twips
 
   PictureBox Picture1;
   Label Label1;  // the page text

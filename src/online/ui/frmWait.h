@@ -13,12 +13,14 @@ struct frmWait : Window {
   }
 
   Label Label2{"Retrieving Information. Please wait..."};
+  ProgressBar ProgressBar1;
   Timer Timer1{1000, true};
 };
 
 template <class F>
 void visit(frmWait& window, F&& f) {
   f("Label2", window.Label2);
+  f("ProgressBar1", window.ProgressBar1);
   f("Timer1", window.Timer1);
 }
 

@@ -41,6 +41,17 @@ std::string UserFolder(std::string_view name) {
   return path.starts_with('/') ? path : "";
 }
 
+// A file of the user's data folder; where the user has none of that name, the system's.
+fs::path DataFile(const fs::path& file) {
+  std::error_code ignored;
+  const fs::path name = file.lexically_relative(DataFolder());
+  if (fs::exists(file, ignored) || name.empty() || *name.begin() == "..") return file;
+  for (const fs::path folder : SystemDataFolders()) {
+    if (fs::exists(folder / name, ignored)) return folder / name;
+  }
+  return file;
+}
+
 }  // namespace
 
 std::string LinuxShell::SpecialFolder(int folderId) const {
@@ -52,7 +63,7 @@ std::string LinuxShell::SpecialFolder(int folderId) const {
 
 void LinuxShell::CopyIntoFolder(const std::string& file, const std::string& folder) {
   std::error_code ignored;
-  const fs::path from(file);
+  const fs::path from = DataFile(file);
   fs::copy_file(from, folder / from.filename(), fs::copy_options::overwrite_existing, ignored);
 }
 

@@ -5,7 +5,8 @@
 namespace benevix {
 
 // Desktop shell by the freedesktop.org conventions: start menu entries in the user's
-// "applications" folder, the desktop folder as the user-dirs file names it.
+// "applications" folder, the desktop folder as the user-dirs file names it. An entry that the user
+// lacks is taken from the system's "applications" folders.
 class LinuxShell : public Shell {
  public:
   [[nodiscard]] std::string SpecialFolder(int folderId) const override;

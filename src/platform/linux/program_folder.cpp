@@ -15,7 +15,7 @@ bool IsWritable(const fs::path& folder) {
   return access(folder.c_str(), R_OK | W_OK | X_OK) == 0;
 }
 
-// Copied beside and renamed, so that a start that was cut short begins anew the next time. The
+// A link between two of the files stays one. Copied beside and renamed, so that a start that was cut short begins anew the next time. The
 // program adds to these files, so they are the user's to write even when the installed ones are
 // not.
 void SeedResources(const fs::path& installed, const fs::path& resources) {
@@ -23,9 +23,12 @@ void SeedResources(const fs::path& installed, const fs::path& resources) {
   const fs::path unfinished = resources.string() + "." + std::to_string(getpid());
   fs::remove_all(unfinished);
   fs::create_directories(unfinished);
-  if (fs::exists(installed)) fs::copy(installed, unfinished, fs::copy_options::recursive);
+  if (fs::exists(installed)) {
+    fs::copy(fs::canonical(installed), unfinished,
+             fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+  }
   for (const auto& entry : fs::recursive_directory_iterator(unfinished)) {
-    fs::permissions(entry, fs::perms::owner_write, fs::perm_options::add);
+    if (!entry.is_symlink()) fs::permissions(entry, fs::perms::owner_write, fs::perm_options::add);
   }
   std::error_code takenMeanwhile;
   fs::rename(unfinished, resources, takenMeanwhile);

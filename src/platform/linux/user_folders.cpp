@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <pwd.h>
+#include <sstream>
 #include <unistd.h>
 
 namespace benevix {
@@ -33,6 +34,17 @@ std::string DataFolder() {
 }
 std::string ConfigFolder() {
   return FolderOr("XDG_CONFIG_HOME", "/.config");
+}
+
+std::vector<std::string> SystemDataFolders() {
+  const char* const value = std::getenv("XDG_DATA_DIRS");
+  std::istringstream paths(value != nullptr && *value != '\0' ? value
+                                                             : "/usr/local/share:/usr/share");
+  std::vector<std::string> folders;
+  for (std::string path; std::getline(paths, path, ':');) {
+    if (path.starts_with('/')) folders.push_back(path);
+  }
+  return folders;
 }
 
 }  // namespace benevix

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace benevix {
 
@@ -11,5 +12,9 @@ namespace benevix {
 std::string HomeFolder();
 std::string DataFolder();    // $XDG_DATA_HOME, ~/.local/share
 std::string ConfigFolder();  // $XDG_CONFIG_HOME, ~/.config
+
+// The system's data folders, the first counts most: $XDG_DATA_DIRS, /usr/local/share and
+// /usr/share.
+std::vector<std::string> SystemDataFolders();
 
 }  // namespace benevix

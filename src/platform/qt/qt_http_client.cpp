@@ -24,6 +24,7 @@ constexpr qint64 kReadBuffer = qint64{1} << 20;
 
 struct Answer {
   std::string bytes;
+  int status = 0;
   QUrl redirect;  // empty for none
 };
 
@@ -149,6 +150,7 @@ Answer Get(const QUrl& url, const QNetworkProxy& proxy, const HttpOptions& optio
   if (raised) std::rethrow_exception(raised);
   if (tooLong) return {};
   if (!HasAnswered(*reply, answer.bytes.size())) Fail(url, Reason(*reply, timeout));
+  answer.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
   answer.redirect = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
   return answer;
 }
@@ -161,7 +163,11 @@ std::string QtHttpClient::OpenURL(const std::string& address, const HttpOptions&
   const WaitScope wait(waits_);
   for (int redirects = 0; redirects <= kMostRedirects; ++redirects) {
     Answer answer = Get(url, proxy, options);
-    if (answer.redirect.isEmpty()) return std::move(answer.bytes);
+    if (answer.redirect.isEmpty()) {
+      constexpr int ok = 200;
+      if (options.needsOk && answer.status != ok) return {};
+      return std::move(answer.bytes);
+    }
     url = url.resolved(answer.redirect);
     CheckWebUrl(url);
   }

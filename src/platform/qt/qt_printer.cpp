@@ -1,10 +1,12 @@
 #include "platform/qt/qt_printer.h"
 
+#include <QCoreApplication>
 #include <QFontDatabase>
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <algorithm>
 
 #include "base/runtime_error.h"
 #include "base/text.h"
@@ -12,8 +14,41 @@
 namespace benevix {
 namespace {
 
+constexpr int kPointSize = 9;
+
+QFont LineFont() {
+  QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  font.setStyleHint(QFont::Monospace);
+  font.setFixedPitch(true);
+  font.setPointSize(kPointSize);
+  return font;
+}
+
+// Some printers leave no margin at all; a sixteenth of the page's width looks well on any paper.
+void WidenMargins(QPrinter& printer) {
+  QPageLayout layout = printer.pageLayout();
+  layout.setUnits(QPageLayout::Point);
+  const QMarginsF smallest = layout.minimumMargins();
+  const double least = layout.fullRect().width() / 16;
+  printer.setPageMargins(
+      QMarginsF(std::max(smallest.left(), least), std::max(smallest.top(), least),
+                std::max(smallest.right(), least), std::max(smallest.bottom(), least)),
+      QPageLayout::Point);
+}
+
+// One visible character for each of the line, so that every one fills its column.
+QString Printable(const std::string& line) {
+  constexpr QChar softHyphen(0xAD);
+  QString text = QString::fromStdString(ToUtf8(line));
+  for (QChar& character : text) {
+    if (character == softHyphen) character = QLatin1Char('-');
+    if (!character.isPrint()) character = QLatin1Char(' ');
+  }
+  return text;
+}
+
 // The longest head of `text` that fits, broken at a blank where there is one.
-qsizetype FittingLength(const QString& text, qsizetype room) {
+qsizetype FittingLength(QStringView text, qsizetype room) {
   if (text.size() <= room) return text.size();
   const qsizetype blank = text.lastIndexOf(QLatin1Char(' '), room);
   return blank > 0 && !text.first(blank).trimmed().isEmpty() ? blank : room;
@@ -27,42 +62,43 @@ QtPrinter::~QtPrinter() = default;
 
 void QtPrinter::BeginDoc() {
   if (painter_) return;
-  if (QPrinterInfo::defaultPrinter().isNull()) throw RuntimeError("There is no printer");
-  font_ = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-  font_.setPointSize(9);
-  printer_ = std::make_unique<QPrinter>(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
-  painter_ = std::make_unique<QPainter>();
-  if (!painter_->begin(printer_.get())) {
-    painter_.reset();
-    printer_.reset();
-    throw RuntimeError("The printer cannot be used");
-  }
-  painter_->setFont(font_);
+  const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+  if (info.isNull()) throw RuntimeError("There is no printer");
+  auto printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
+  printer->setDocName(QCoreApplication::applicationName());
+  // Left alone, the toolkit takes A4 wherever the printer knows it, whatever paper is loaded.
+  if (info.defaultPageSize().isValid()) printer->setPageSize(info.defaultPageSize());
+  WidenMargins(*printer);
+  auto painter = std::make_unique<QPainter>();
+  if (!painter->begin(printer.get())) throw RuntimeError("The printer cannot be used");
+  painter->setFont(LineFont());
+  printer_ = std::move(printer);
+  painter_ = std::move(painter);
+  columnWidth_ = QFontMetricsF(painter_->font(), printer_.get()).horizontalAdvance(u'M');
   y_ = 0;
 }
 
 void QtPrinter::PrintLine(int column, const std::string& line) {
   BeginDoc();
-  const QFontMetrics metrics = painter_->fontMetrics();
-  const int columns = painter_->viewport().width() / metrics.horizontalAdvance(QLatin1Char('M'));
-  const qsizetype room = std::max(columns - (column - 1), 1);
-  QString text = QString::fromStdString(ToUtf8(line));
+  const int columns = std::max(static_cast<int>(painter_->viewport().width() / columnWidth_), 1);
+  const int indent = std::max(column - 1, 0) % columns;
+  const QString text = Printable(line);
+  QStringView rest = text;
   do {
-    const qsizetype length = FittingLength(text, room);
-    PrintRow(column, text.first(length));
-    text.remove(0, length);
-    if (!text.isEmpty() && text[0] == QLatin1Char(' ')) text.remove(0, 1);
-  } while (!text.isEmpty());
+    const qsizetype length = FittingLength(rest, columns - indent);
+    PrintRow(indent, rest.first(length).toString());
+    rest = rest.sliced(length);
+    while (rest.startsWith(u' ')) rest = rest.sliced(1);
+  } while (!rest.isEmpty());
 }
 
 void QtPrinter::PrintRow(int column, const QString& text) {
-  const QFontMetrics metrics = painter_->fontMetrics();
-  if (y_ + metrics.lineSpacing() > painter_->viewport().height()) {
-    printer_->newPage();
+  const QFontMetricsF metrics(painter_->font(), printer_.get());
+  if (y_ + metrics.height() > painter_->viewport().height()) {
+    if (!printer_->newPage()) throw RuntimeError("The printer takes no further page");
     y_ = 0;
   }
-  const int x = (column - 1) * metrics.horizontalAdvance(QLatin1Char('M'));
-  painter_->drawText(x, y_ + metrics.ascent(), text);
+  painter_->drawText(QPointF(column * columnWidth_, y_ + metrics.ascent()), text);
   y_ += metrics.lineSpacing();
 }
 

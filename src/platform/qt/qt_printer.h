@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QFont>
+#include <QString>
 #include <memory>
 
 #include "platform/printer.h"
@@ -11,7 +11,8 @@ class QPrinter;
 namespace benevix {
 
 // The system's default printer. Lines stand in a fixed-pitch font; what is wider than the page is
-// wrapped under its tab column; pages break between lines.
+// wrapped under its tab column; pages break between lines. A tab column beyond the page counts on
+// from the left margin.
 class QtPrinter : public Printer {
  public:
   QtPrinter();
@@ -22,12 +23,14 @@ class QtPrinter : public Printer {
 
  private:
   void BeginDoc();
+  // `column` counts from 0.
   void PrintRow(int column, const QString& text);
 
-  QFont font_;
   std::unique_ptr<QPrinter> printer_;
-  std::unique_ptr<QPainter> painter_;
-  int y_ = 0;  // device dots from the top margin
+  std::unique_ptr<QPainter> painter_;  // there while a document is open
+  // Device dots; fractions, since a hundred rounded columns are a column off.
+  double columnWidth_ = 0;
+  double y_ = 0;  // from the top margin
 };
 
 }  // namespace benevix

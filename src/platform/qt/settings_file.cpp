@@ -122,6 +122,7 @@ ResultCode SettingsFile::Change(Root root, const std::function<bool(SettingsText
   const QString& name = File(root);
   if (!IsWritable(root) || !QDir().mkpath(QFileInfo(name).path())) return kFailed;
   QLockFile lock(name + QStringLiteral(".lock"));
+  lock.setStaleLockTime(0);  // a computer that slept keeps its lock; that of a dead program goes
   if (!Take(lock)) return kFailed;
   auto text = Load(root);
   if (!text || !change(*text)) return kFailed;

@@ -1,0 +1,46 @@
+# Installs for a user, and stages a package for everybody; from both the first run makes a shortcut.
+set(home ${BUILD}/tests/install/home)
+set(prefix "${BUILD}/tests/install/the program")
+set(stage ${BUILD}/tests/install/stage)
+file(REMOVE_RECURSE ${home} ${prefix} ${stage})
+file(MAKE_DIRECTORY ${home}/Desktop)
+
+function(expect there)
+  foreach(file IN LISTS ARGN)
+    if(EXISTS ${file} AND NOT there)
+      message(SEND_ERROR "there is a ${file}")
+    elseif(there AND NOT EXISTS ${file})
+      message(SEND_ERROR "there is no ${file}")
+    endif()
+  endforeach()
+endfunction()
+
+function(run)
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=XDG_DATA_HOME --unset=XDG_CONFIG_HOME
+                          HOME=${home} XDG_DATA_DIRS=/nowhere:${stage}/usr/share ${ARGN}
+                  OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+set(entry applications/benevix/benevix.desktop)
+set(shortcut ${home}/Desktop/benevix.desktop)
+
+run(DESTDIR=${stage} ${CMAKE_COMMAND} --install ${BUILD} --prefix /usr)
+expect(TRUE ${stage}/usr/share/${entry} ${stage}/usr/benevix)
+expect(FALSE ${home}/.local)
+run(${FIRST_RUN})
+file(READ ${shortcut} text)
+if(NOT text MATCHES "\nExec=\"/usr/benevix\"\n")
+  message(SEND_ERROR "another program is started: ${text}")
+endif()
+
+run(--unset=DESTDIR ${CMAKE_COMMAND} --install ${BUILD} --prefix ${prefix})
+expect(TRUE ${home}/.local/share/${entry} ${prefix}/share/${entry} ${prefix}/benevix.svg)
+file(READ_SYMLINK ${prefix}/Resources/shareddb.dat target)
+if(NOT target STREQUAL "sharedb.dat")
+  message(SEND_ERROR "the link leads to ${target}")
+endif()
+run(${FIRST_RUN})
+file(READ ${shortcut} text)
+if(NOT text MATCHES "\nExec=\"${prefix}/benevix\"\n")
+  message(SEND_ERROR "another program is started: ${text}")
+endif()

@@ -1,0 +1,146 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sys/wait.h>
+
+#include "../platform/surroundings_of_a_test.h"
+#include "base/number_text.h"
+#include "benevix-site/site.h"
+#include "online/translation.h"
+#include "platform/linux/linux_files.h"
+#include "platform/linux/linux_shell.h"
+
+namespace benevix {
+namespace {
+
+const std::string kAddress = "http://127.0.0.1:1/";
+const std::string kServed = std::string(PROJECT_FOLDER) + "/site";
+
+class SmallSite : public testing::Test {
+ protected:
+  SmallSite() {
+    Put(folder_ / "secret.txt", "secret");
+    Put(folder_ / "site/a b.txt", "{site}x {site}");
+    Put(folder_ / "site/sub/program.exe", "{site}\xFF");
+    std::filesystem::create_symlink("../secret.txt", folder_ / "site/out.txt");
+  }
+  // With the folders that the site is made of.
+  class SiteFolder : public TempFolder {
+   public:
+    SiteFolder() { std::filesystem::create_directories(*this / "site/sub"); }
+  };
+
+  SiteFolder folder_;
+  Site site_{folder_ / "site", kAddress};
+};
+
+TEST_F(SmallSite, FilesKnowTheirAddressAndProgramsStayAsTheyAre) {
+  const SiteAnswer text = site_.Answer("/a%20b.txt?ignored#too");
+  EXPECT_EQ(text.status, 200);
+  EXPECT_EQ(text.contentType, "text/plain; charset=windows-1252");
+  EXPECT_EQ(text.body, kAddress + "x " + kAddress);
+  EXPECT_EQ(site_.Answer("/sub/program.exe").body, "{site}\xFF");
+}
+
+TEST_F(SmallSite, NothingOutsideTheFolderIsServed) {
+  using namespace std::string_literals;
+  for (const std::string& target :
+       {"/../secret.txt"s, "/%2e%2e/secret.txt"s, "/sub/../../secret.txt"s, "/..%5csecret.txt"s,
+        "/sub/..\\..\\secret.txt"s, "/out.txt"s, "/" + folder_ / "secret.txt", "/C:/secret.txt"s,
+        "/a b.txt%00"s, "//etc/passwd"s, "/sub"s, "/"s, ""s, "/none.txt"s}) {
+    const SiteAnswer answer = site_.Answer(target);
+    EXPECT_EQ(answer.status, 404) << target;
+    EXPECT_EQ(answer.body.find("secret"), std::string::npos) << target;
+  }
+}
+
+TEST_F(SmallSite, MailNeedsASenderAndARecipient) {
+  const SiteAnswer sent = site_.Answer("/cgi-bin/mail?email=a@b.example&recipient=c@d.example"
+                                       "&subject=1%20<2&=T\xE9xt & more");
+  EXPECT_EQ(sent.status, 200);
+  for (const auto* part : {"Thank You", "a@b.example", "c@d.example", "1 &lt;2", "T\xE9xt "}) {
+    EXPECT_NE(sent.body.find(part), std::string::npos) << part;
+  }
+  for (const auto* query : {"", "email=a@b.example", "recipient=c@d.example", "email=&recipient="}) {
+    const SiteAnswer refused = site_.Answer(std::string("/cgi-bin/mail?") + query);
+    EXPECT_EQ(refused.status, 400);
+    EXPECT_EQ(refused.body.find("Thank You"), std::string::npos);
+  }
+}
+
+TEST_F(SmallSite, PaymentPageShowsValuesAndRunsNone) {
+  const std::string page =
+      site_
+          .Answer("/xclick/business=<script>alert(1)</script>&item_name=%22%27&amount=209.70"
+                  "&return=javascript:alert(1)&cancel_return=" + kAddress + "cncl.html?a%26b")
+          .body;
+  EXPECT_NE(page.find("209.70"), std::string::npos);
+  EXPECT_NE(page.find("&lt;script&gt;alert(1)&lt;/script&gt;"), std::string::npos);
+  EXPECT_NE(page.find("&quot;&#39;"), std::string::npos);
+  EXPECT_NE(page.find("href=\"" + kAddress + "cncl.html?a&amp;b\""), std::string::npos);
+  EXPECT_EQ(page.find("<script"), std::string::npos);
+  EXPECT_EQ(page.find("href=\"javascript"), std::string::npos);
+}
+
+// What the demonstration serves shows every part of the program at work.
+class ServedSite : public testing::Test {
+ protected:
+  Site site_{kServed, kAddress};
+};
+
+TEST_F(ServedSite, ANewerListIsThereUnderItsVersion) {
+  const std::string version = site_.Answer("/53rv3r/dbcurrver.dat").body;
+  const std::string list = site_.Answer("/downloads/db" + version).body;
+  EXPECT_TRUE(list.starts_with(";QUORL" + version + "\r\n"));
+  const std::string installed = Got(std::string(PROJECT_FOLDER) + "/resources/sharedb.dat");
+  EXPECT_GT(Val(version), Val(installed.substr(6)));
+  EXPECT_GT(list.size(), installed.size());
+  EXPECT_EQ(list.find('<'), std::string::npos);
+}
+
+TEST_F(ServedSite, EachRequestGetsTheNextKindOfNews) {
+  std::string kinds;
+  for (int i = 0; i < 5; ++i) {
+    const std::string news = site_.Answer("/53rv3r/news.txt").body;
+    kinds += news.substr(0, 2);
+    EXPECT_EQ(news.find_first_of("<\r\n"), std::string::npos) << news;
+    if (news.starts_with("2,")) {
+      EXPECT_GT(news.substr(news.find('=') + 1), "1.0.0");
+    }
+  }
+  EXPECT_EQ(kinds, "1,3,2,0,1,");
+}
+
+TEST_F(ServedSite, TranslationsPassTheProgramsJudgement) {
+  const auto translated = [&](const std::string& languages, const std::string& page) {
+    return JudgeTranslation(
+        site_.Answer("/parley?sequence=core&language=" + languages + "&url=" + page).body);
+  };
+  const std::string page = kAddress + "infoDB/101.dat";
+  const std::string french = translated("en/fr", page);
+  EXPECT_NE(french.find("from English to French"), std::string::npos) << french;
+  EXPECT_NE(french.find("Agua Mansa de la Puna &para; Water"), std::string::npos) << french;
+  EXPECT_NE(translated("english/GERMAN", page).find("to German"), std::string::npos);
+  for (const auto* languages : {"en/", "en", "", "/", "en/xx", "xx/en", "en/fr/de"}) {
+    EXPECT_EQ(translated(languages, page), "Language not supported") << languages;
+  }
+  for (const std::string& elsewhere : {std::string(), kAddress + "infoDB/none.dat",
+                                       kAddress + "../resources/wlist.res",
+                                       std::string("http://elsewhere.example/infoDB/101.dat")}) {
+    EXPECT_EQ(site_.Answer("/parley?language=en/fr&url=" + elsewhere).status, 404) << elsewhere;
+  }
+}
+
+TEST_F(ServedSite, TheUpdaterRunsAndLeavesNothing) {
+  const TempFolder folder;
+  const std::string file = folder / "updater.exe";
+  LinuxFiles().Replace(file, site_.Answer("/downloads/updater.exe").body);
+  LinuxShell().StartProgram(file);
+  int status = 1;
+  wait(&status);
+  EXPECT_EQ(status, 0);
+  EXPECT_FALSE(std::filesystem::exists(file));
+}
+
+}  // namespace
+}  // namespace benevix
