@@ -54,8 +54,7 @@ std::string AsEntities(std::string_view text) {
 std::string Interpret(std::string_view languages, std::string_view page) {
   const auto slash = std::min(languages.find('/'), languages.size());
   const std::string_view from = LanguageName(languages.substr(0, slash));
-  const std::string_view to =
-      LanguageName(languages.substr(std::min(slash + 1, languages.size())));
+  const std::string_view to = LanguageName(languages.substr(std::min(slash + 1, languages.size())));
   if (from.empty() || to.empty()) return "<html>error: that language is not spoken here";
   while (page.ends_with('\n') || page.ends_with('\r')) page.remove_suffix(1);
   return "<html>[Parley, from " + std::string(from) + " to " + std::string(to) +

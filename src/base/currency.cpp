@@ -12,7 +12,9 @@ namespace {
 constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
 constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
 
-[[noreturn]] void RaiseOverflow() { throw RuntimeError("Overflow"); }
+[[noreturn]] void RaiseOverflow() {
+  throw RuntimeError("Overflow");
+}
 
 // 128 bits, unsigned: no compiler's own wide type is relied on.
 struct Wide {
@@ -93,7 +95,9 @@ Currency Currency::FromDouble(double value) {
   return Currency(Signed(scaled, std::signbit(value)));
 }
 
-Currency Currency::FromText(std::string_view text) { return FromDouble(Val(text)); }
+Currency Currency::FromText(std::string_view text) {
+  return FromDouble(Val(text));
+}
 
 double Currency::ToDouble() const {
   return static_cast<double>(units_) / static_cast<double>(kScale);

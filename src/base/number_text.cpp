@@ -11,7 +11,9 @@
 namespace benevix {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 // A decimal number collected character by character, as both readings share it.
 struct Digits {
@@ -100,7 +102,9 @@ int BaseAfterAmpersand(char c) {
   return c == 'O' || c == 'o' ? 8 : 0;
 }
 
-bool IsExponentMark(char c) { return c == 'E' || c == 'e' || c == 'D' || c == 'd'; }
+bool IsExponentMark(char c) {
+  return c == 'E' || c == 'e' || c == 'D' || c == 'd';
+}
 
 void ReadExponent(Skipping& in, Digits& digits) {
   if (!IsExponentMark(in.Now())) return;
@@ -201,7 +205,9 @@ std::optional<double> ParseNumber(std::string_view text) {
   return value;
 }
 
-bool IsNumeric(std::string_view text) { return ParseNumber(text).has_value(); }
+bool IsNumeric(std::string_view text) {
+  return ParseNumber(text).has_value();
+}
 
 bool TextToBoolean(std::string_view text) {
   const std::string upper = UpperCase(text);
@@ -258,8 +264,12 @@ std::string ToText(double value, int significant) {
 
 }  // namespace
 
-std::int16_t ToInt16(double value) { return ToWhole<std::int16_t>(value); }
-std::int32_t ToInt32(double value) { return ToWhole<std::int32_t>(value); }
+std::int16_t ToInt16(double value) {
+  return ToWhole<std::int16_t>(value);
+}
+std::int32_t ToInt32(double value) {
+  return ToWhole<std::int32_t>(value);
+}
 
 float ToSingle(double value) {
   if (!(std::fabs(value) <= static_cast<double>(std::numeric_limits<float>::max()))) {
@@ -268,7 +278,11 @@ float ToSingle(double value) {
   return static_cast<float>(value);
 }
 
-std::string DoubleToText(double value) { return ToText(value, 15); }
-std::string SingleToText(float value) { return ToText(static_cast<double>(value), 7); }
+std::string DoubleToText(double value) {
+  return ToText(value, 15);
+}
+std::string SingleToText(float value) {
+  return ToText(static_cast<double>(value), 7);
+}
 
 }  // namespace benevix

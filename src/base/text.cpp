@@ -55,8 +55,12 @@ unsigned char LowerCaseOf(unsigned char c) {
   return c == 0x9F ? 0xFF : c;
 }
 
-std::string UpperCase(std::string_view text) { return Mapped(text, Upper); }
-std::string LowerCase(std::string_view text) { return Mapped(text, LowerCaseOf); }
+std::string UpperCase(std::string_view text) {
+  return Mapped(text, Upper);
+}
+std::string LowerCase(std::string_view text) {
+  return Mapped(text, LowerCaseOf);
+}
 
 std::string_view Trim(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
@@ -72,9 +76,9 @@ int CodePageByte(char32_t character) {
   if (character < 0x80 || (character >= 0xA0 && character < 0x100)) {
     return static_cast<int>(character);
   }
-  const auto* const found =
-      std::find(kUpperControls.begin(), kUpperControls.end(), character);
-  return found == kUpperControls.end() ? -1 : 0x80 + static_cast<int>(found - kUpperControls.begin());
+  const auto* const found = std::find(kUpperControls.begin(), kUpperControls.end(), character);
+  return found == kUpperControls.end() ? -1
+                                       : 0x80 + static_cast<int>(found - kUpperControls.begin());
 }
 
 std::string ToUtf8(std::string_view text) {

@@ -220,9 +220,8 @@ struct Window {
   int left = 0, top = 0, width = 0, height = 0;  // twips
 };
 
-using AnyControl =
-    std::variant<TextBox*, Label*, Button*, OptionButton*, CheckBox*, ComboBox*, MenuItem*,
-                 MenuArray*, Frame*, PictureBox*, Shape*, Line*, Timer*, ScrollBar*, ProgressBar*,
-                 PageViewer*, HttpControl*, ListView*>;
+using AnyControl = std::variant<TextBox*, Label*, Button*, OptionButton*, CheckBox*, ComboBox*,
+                                MenuItem*, MenuArray*, Frame*, PictureBox*, Shape*, Line*, Timer*,
+                                ScrollBar*, ProgressBar*, PageViewer*, HttpControl*, ListView*>;
 
 }  // namespace benevix

@@ -87,9 +87,8 @@ void Desk::End() {
 bool Desk::IsEnabled(const Window& window) const {
   if (!window.enabled) return false;
   if (entries_.empty() || entries_.front().window != &window) return true;
-  return std::none_of(entries_.begin(), entries_.end(), [](const Entry& entry) {
-    return entry.shown && entry.keepsMainDisabled;
-  });
+  return std::none_of(entries_.begin(), entries_.end(),
+                      [](const Entry& entry) { return entry.shown && entry.keepsMainDisabled; });
 }
 
 bool Desk::IsUsable(const Window& window) const {
@@ -141,7 +140,9 @@ void Desk::SetFocus(Control& control) {
   if (IsOpen(entry, control)) ChangeFocus(entry, &control);
 }
 
-void Desk::ClearFocus(Window& window) { ChangeFocus(Find(window), nullptr); }
+void Desk::ClearFocus(Window& window) {
+  ChangeFocus(Find(window), nullptr);
+}
 
 void Desk::MoveFocus(Entry& entry, bool forward) {
   const auto count = static_cast<int>(entry.controls.size());

@@ -41,8 +41,8 @@ Directory ControlsOf(W& window) {
       const std::string text = name;
       const auto bracket = text.find('(');
       const bool alone = bracket == std::string::npos;
-      controls.push_back({text.substr(0, bracket), alone ? -1 : std::stoi(text.substr(bracket + 1)),
-                          &control});
+      controls.push_back(
+          {text.substr(0, bracket), alone ? -1 : std::stoi(text.substr(bracket + 1)), &control});
     }
   });
   return controls;

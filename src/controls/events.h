@@ -9,15 +9,15 @@
 namespace benevix {
 
 enum class Event {
-  Load,       // a window was loaded
-  Unload,     // a window is about to be unloaded
-  Close,      // the user closes a window; without a handler it is unloaded
+  Load,    // a window was loaded
+  Unload,  // a window is about to be unloaded
+  Close,   // the user closes a window; without a handler it is unloaded
   Click,
-  MouseUp,    // args.button
+  MouseUp,  // args.button
   MouseMove,
-  Change,     // the user changed the text
-  KeyPress,   // args.key is the typed character; setting it to 0 discards it
-  KeyUp,      // args.key is the key code
+  Change,    // the user changed the text
+  KeyPress,  // args.key is the typed character; setting it to 0 discards it
+  KeyUp,     // args.key is the key code
   GotFocus,
   LostFocus,
   ItemClick,  // a row was chosen; args.button, args.byKeyboard

@@ -79,9 +79,8 @@ std::string Messages::Text(std::uint8_t number, const std::string& extra) const 
 std::string Messages::AboutText() const {
   return "          Benevix        Version " + std::to_string(info_.major) + "." +
          std::to_string(info_.minor) + "\r\n          Database          Version " +
-         FormatSingle(run_.DBVersion, "#.0.##0") +
-         "\r\n\r\nWritten by the Benevix developers\r\n" + info_.deployment.copyright +
-         "\r\n\r\nThis program is free to use\r\n";
+         FormatSingle(run_.DBVersion, "#.0.##0") + "\r\n\r\nWritten by the Benevix developers\r\n" +
+         info_.deployment.copyright + "\r\n\r\nThis program is free to use\r\n";
 }
 
 }  // namespace benevix

@@ -67,9 +67,13 @@ void StartUp::frmSplash_Load() {
   splash_.left = static_cast<int>(std::lround(info.screenWidth / 3.5));
 }
 
-void StartUp::Image1_MouseMove() { splash_.Shape2.borderColor = colors::kInactiveTitleBar; }
+void StartUp::Image1_MouseMove() {
+  splash_.Shape2.borderColor = colors::kInactiveTitleBar;
+}
 
-void StartUp::Image2_MouseMove() { splash_.Shape2.borderColor = colors::kActiveTitleBar; }
+void StartUp::Image2_MouseMove() {
+  splash_.Shape2.borderColor = colors::kActiveTitleBar;
+}
 
 void StartUp::Image2_Click(int index) {
   if (index == 1) desk_.End();

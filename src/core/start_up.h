@@ -37,8 +37,8 @@ class StartUp {
     std::function<void()> removeYtd;
   };
 
-  StartUp(frmSplash& splash, frmBVX& main, Desk& desk, SettingsStore& settings,
-          Messages& messages, RunValues& run, Surroundings& surroundings, Steps steps)
+  StartUp(frmSplash& splash, frmBVX& main, Desk& desk, SettingsStore& settings, Messages& messages,
+          RunValues& run, Surroundings& surroundings, Steps steps)
       : splash_(splash),
         main_(main),
         desk_(desk),

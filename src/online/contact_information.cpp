@@ -72,14 +72,15 @@ void ContactInformation::Save() {
   settings_.SaveUserString("UsrInfo", codec_.Scramble(JoinContact(window_)));
   follow_.nameSaved(fullName);
   const ContactCaller caller = caller_;
-  const bool complete =
-      !fullName.empty() && !window_.Text1[contact_field::kEMail].text.empty();
+  const bool complete = !fullName.empty() && !window_.Text1[contact_field::kEMail].text.empty();
   if (caller == ContactCaller::ContactOrganization && !complete) return;
   Reload();
   follow_.saved(caller);
 }
 
-void ContactInformation::Cancel() { Reload(); }
+void ContactInformation::Cancel() {
+  Reload();
+}
 
 void ContactInformation::Reload() {
   caller_ = ContactCaller::None;

@@ -27,9 +27,9 @@ class ContactInformation {
     std::function<void(ContactCaller)> saved;
   };
 
-  ContactInformation(frmPersInfo& window, frmDonRankg& ranking, Desk& desk,
-                     SettingsStore& settings, const TextCodec& codec, Messages& messages,
-                     Surroundings& surroundings, Follow follow)
+  ContactInformation(frmPersInfo& window, frmDonRankg& ranking, Desk& desk, SettingsStore& settings,
+                     const TextCodec& codec, Messages& messages, Surroundings& surroundings,
+                     Follow follow)
       : window_(window),
         ranking_(ranking),
         desk_(desk),

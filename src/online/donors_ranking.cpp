@@ -42,8 +42,8 @@ void DonorsRanking::Command1_Click() {
     messages_.Show("Business Name is required");
     return;
   }
-  settings_.SaveUserString(
-      "RankOpt", codec_.Scramble(std::to_string(option) + "," + window_.Text1.text));
+  settings_.SaveUserString("RankOpt",
+                           codec_.Scramble(std::to_string(option) + "," + window_.Text1.text));
   desk_.Unload(window_);
 }
 

@@ -21,11 +21,17 @@ void Help::qhelp1_Click(int index) {
   ShowPage("qhelp.html#" + main_.qhelp1.items[index].caption);
 }
 
-void Help::whatisBtn1_Click() { ShowPage("help.html#Btni", kCaption); }
+void Help::whatisBtn1_Click() {
+  ShowPage("help.html#Btni", kCaption);
+}
 
-void Help::mnuHelp_Click() { ShowPage("help.html", kCaption); }
+void Help::mnuHelp_Click() {
+  ShowPage("help.html", kCaption);
+}
 
-void Help::mnuSubmitList_Click() { ShowPage("help.html#Adding", kCaption); }
+void Help::mnuSubmitList_Click() {
+  ShowPage("help.html#Adding", kCaption);
+}
 
 void Help::mnuAbout_Click() {
   constexpr std::uint8_t about = 7;

@@ -13,10 +13,7 @@ class ListUpdateCommand {
  public:
   ListUpdateCommand(ListUpdate& update, const SessionValues& values, Messages& messages,
                     std::function<void()> newSession)
-      : update_(update),
-        values_(values),
-        messages_(messages),
-        newSession_(std::move(newSession)) {}
+      : update_(update), values_(values), messages_(messages), newSession_(std::move(newSession)) {}
 
   void Label11_MouseUp();
 

@@ -17,7 +17,8 @@ constexpr int kOrganization = 4;  // of Label1
 void Messenger::WriteTo(const std::string& recipient) {
   window_.Command1[kSend].tag = recipient;
   const auto& details = others_.contact.Text1;
-  if (details[contact_field::kEMail].text.empty() || details[contact_field::kFullName].text.empty()) {
+  if (details[contact_field::kEMail].text.empty() ||
+      details[contact_field::kFullName].text.empty()) {
     return others_.askForContact();
   }
   Show();
@@ -63,11 +64,10 @@ void Messenger::Send() {
   const std::string& base = info_.deployment.serverBase;
   std::string answer;
   try {
-    answer = server_.OpenURL(base + contactData->script +
-                             "email=" + window_.Label1[kSender].caption +
-                             "&recipient=" + recipient + "&subject=" + window_.Text1[0].text +
-                             "&=" + window_.Text1[1].text +
-                             ".\r\n This message was sent courtesy of Benevix " + base);
+    answer = server_.OpenURL(
+        base + contactData->script + "email=" + window_.Label1[kSender].caption +
+        "&recipient=" + recipient + "&subject=" + window_.Text1[0].text +
+        "&=" + window_.Text1[1].text + ".\r\n This message was sent courtesy of Benevix " + base);
   } catch (const RuntimeError&) {
     // No answer is no thanks.
   }
@@ -82,6 +82,8 @@ void Messenger::Send() {
   if (!sent) desk_.Unload(window_);
 }
 
-void Messenger::Close() { desk_.Unload(window_); }
+void Messenger::Close() {
+  desk_.Unload(window_);
+}
 
 }  // namespace benevix

@@ -9,8 +9,8 @@ namespace benevix {
 namespace {
 
 bool SameLetter(char a, char b) {
-  return a == b || LowerCaseOf(static_cast<unsigned char>(a)) ==
-                       LowerCaseOf(static_cast<unsigned char>(b));
+  return a == b ||
+         LowerCaseOf(static_cast<unsigned char>(a)) == LowerCaseOf(static_cast<unsigned char>(b));
 }
 
 bool Begins(std::string_view text, std::string_view word) {

@@ -35,8 +35,7 @@ void Translation::Close() {
 std::string Translation::RequestAddress() const {
   const Deployment& deployment = surroundings_.info.deployment;
   const auto& boxes = windows_.preferences.Text1;
-  const bool builtIn =
-      LowerCase(boxes[kService].text) == LowerCase(deployment.translationName);
+  const bool builtIn = LowerCase(boxes[kService].text) == LowerCase(deployment.translationName);
   const ListView& list = windows_.main.ListView1;
   const std::string& prefix = builtIn ? deployment.translationBase : boxes[kService].text;
   return prefix + "?sequence=core&language=" + boxes[kFromLanguage].text + "/" +
@@ -74,8 +73,7 @@ std::string JudgeTranslation(const std::string& answer) {
   std::string text = answer;
   const auto bracket = text.find('>');
   if (bracket != std::string::npos) text.erase(0, bracket + 1);
-  if (LowerCase(text).find("error") != std::string::npos ||
-      text.find("404") != std::string::npos) {
+  if (LowerCase(text).find("error") != std::string::npos || text.find("404") != std::string::npos) {
     return "Language not supported";
   }
   if (text.empty() || text.find('<') != std::string::npos) {

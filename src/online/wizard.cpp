@@ -4,7 +4,9 @@
 
 namespace benevix {
 
-void Wizard::Show() { desk_.Show(window_); }
+void Wizard::Show() {
+  desk_.Show(window_);
+}
 
 void Wizard::Form_Load() {
   page_ = Page::Welcome;

@@ -6,7 +6,7 @@
 
 namespace benevix {
 
-inline constexpr std::size_t kAnswerLimit = std::size_t{64} << 20;    // bytes
+inline constexpr std::size_t kAnswerLimit = std::size_t{64} << 20;   // bytes
 inline constexpr std::size_t kDownloadLimit = std::size_t{1} << 30;  // bytes
 
 struct HttpOptions {

@@ -6,9 +6,9 @@ namespace benevix {
 
 // Values of deployment.ini.
 struct Deployment {
-  std::string serverBase;       // http or https, ends in "/"
-  std::string paymentBase;      // ends in "/xclick/business=" at the payment service
-  std::string mail;             // the application's own mail address
+  std::string serverBase;   // http or https, ends in "/"
+  std::string paymentBase;  // ends in "/xclick/business=" at the payment service
+  std::string mail;         // the application's own mail address
   std::string translationName;
   std::string translationBase;
   std::string copyright;
@@ -20,7 +20,7 @@ struct ProgramInfo {
   std::string folder;   // the program folder, UTF-8, no slash at the end
   std::string exeName;  // the executable's file name without folder and extension
   int major = 0, minor = 0, revision = 0;
-  int platformId = 2;  // as the operating system reports it
+  int platformId = 2;                             // as the operating system reports it
   int screenWidth = 15360, screenHeight = 11520;  // twips
   Deployment deployment;
 

@@ -57,8 +57,8 @@ Program::Program(Surroundings surroundings)
       messenger_(windows_.mail, desk_, server_, messages_, surroundings_.info,
                  {windows_.contact, windows_.main,
                   [this] { contact_.Open(ContactCaller::ContactOrganization); },
-                  [this](const std::string& from, const std::string& to,
-                         const std::string& subject, const std::string& message) {
+                  [this](const std::string& from, const std::string& to, const std::string& subject,
+                         const std::string& message) {
                     printing_.PrintMessage(from, to, subject, message);
                   }}),
       tellAFriend_(windows_.tellAFriend, desk_, settings_, codec_, server_, messages_,
@@ -95,7 +95,9 @@ void Program::Main() {
   input_.Enter([this] { startUp_.Main(); });
 }
 
-void Program::Finish() { history_.WritePending(); }
+void Program::Finish() {
+  history_.WritePending();
+}
 
 ServerFetch Program::Fetch() {
   return [this](const std::string& path, const HttpOptions& options) {

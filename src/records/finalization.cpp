@@ -66,8 +66,7 @@ Finalization::Prepared Finalization::Prepare(int option) {
   Prepared prepared;
   prepared.option = option;
   prepared.records = OrganizationRecords(main.ListView1);
-  settings_.SaveUserString("LastSession",
-                           DateText(surroundings_.clock.Now()) + prepared.records);
+  settings_.SaveUserString("LastSession", DateText(surroundings_.clock.Now()) + prepared.records);
   prepared.records += RankingText();
   prepared.session.budget = values_.Budget;
   prepared.session.charged =
@@ -97,9 +96,9 @@ bool Finalization::SendNotice(const Prepared& prepared) {
   const Deployment& deployment = surroundings_.info.deployment;
   const std::string& id = prepared.session.transactionId;
   const std::string notice = deployment.serverBase + contactData->script +
-                             "email=" + deployment.mail +
-                             "&recipient=" + contactData->recipient + "&subject=" + id + "&=" + id +
-                             "/" + prepared.contact + prepared.records;
+                             "email=" + deployment.mail + "&recipient=" + contactData->recipient +
+                             "&subject=" + id + "&=" + id + "/" + prepared.contact +
+                             prepared.records;
   std::string reply;
   try {
     reply = server_.OpenURL(notice);

@@ -5,14 +5,16 @@
 namespace benevix {
 namespace {
 
-std::string DateAndTime(const DateTime& time) { return DateText(time) + " @ " + TimeText(time); }
+std::string DateAndTime(const DateTime& time) {
+  return DateText(time) + " @ " + TimeText(time);
+}
 
 }  // namespace
 
 void History::WriteHistory(const SessionRecord& record, const ListView& list,
                            std::string& heading) {
-  heading = record.transactionId + "," + record.amountText + "," +
-            DateAndTime(surroundings_.clock.Now());
+  heading =
+      record.transactionId + "," + record.amountText + "," + DateAndTime(surroundings_.clock.Now());
   const std::string end = "\r\n";
   std::string text = "-- " + DateAndTime(surroundings_.clock.Now()) + end;
   text += TransactionLine(record) + end;
@@ -28,10 +30,11 @@ void History::WritePending() {
     surroundings_.files.Append(File(), pending_);
     pending_.clear();
   } catch (const RuntimeError& error) {
-    messages_.Show("The session could not be written to the history. It is kept and written "
-                   "with the next one.\r\n" +
-                       std::string(error.what()),
-                   BoxIcon::Critical);
+    messages_.Show(
+        "The session could not be written to the history. It is kept and written "
+        "with the next one.\r\n" +
+            std::string(error.what()),
+        BoxIcon::Critical);
   }
 }
 

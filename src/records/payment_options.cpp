@@ -9,9 +9,13 @@ void PaymentOptions::AskOnce() {
   desk_.Show(window_, Modality::Modeless, Attention::KeepsMainDisabled);
 }
 
-void PaymentOptions::Ask() { desk_.Show(window_); }
+void PaymentOptions::Ask() {
+  desk_.Show(window_);
+}
 
-void PaymentOptions::Option1_Click() { window_.Command1[0].enabled = true; }
+void PaymentOptions::Option1_Click() {
+  window_.Command1[0].enabled = true;
+}
 
 void PaymentOptions::Command1_Click(int index) {
   if (index == 0) {
@@ -36,6 +40,8 @@ void PaymentOptions::Continue() {
   }
 }
 
-void PaymentOptions::Form_Unload() { main_.Command1.tag.clear(); }
+void PaymentOptions::Form_Unload() {
+  main_.Command1.tag.clear();
+}
 
 }  // namespace benevix

@@ -12,7 +12,7 @@ namespace benevix {
 class PaymentOptions {
  public:
   struct Follow {
-    std::function<void()> finalize;                              // a Continue was waiting
+    std::function<void()> finalize;                             // a Continue was waiting
     std::function<void(const std::string& page)> showHelpPage;  // a page of the Resources folder
   };
 

@@ -62,7 +62,8 @@ std::string PaymentAmount(const SessionValues& values, const FeeRates& rates, co
   double amount = given.ToDouble();
   if (Payee(rates, option) == rates.RatesField6) {
     if (option == payment::kCreditCard) {
-      amount = (given + rates.CardFixed).ToDouble() + Product(given, rates.CardRate).ToDouble() / 100;
+      amount =
+          (given + rates.CardFixed).ToDouble() + Product(given, rates.CardRate).ToDouble() / 100;
     } else {
       amount = (given + rates.SessionFee).ToDouble();
     }
@@ -77,8 +78,8 @@ std::string PaymentRequest(const std::string& paymentBase, const std::string& se
                            const std::string& payee, const std::string& transactionId,
                            const std::string& amount) {
   return paymentBase + payee + "&item_name=Benevix - ID Transaction: " + transactionId +
-         "&item_number=" + transactionId + "&amount=" + amount + "&no_shipping=1&return=" +
-         serverBase + "thank.html&cancel_return=" + serverBase +
+         "&item_number=" + transactionId + "&amount=" + amount +
+         "&no_shipping=1&return=" + serverBase + "thank.html&cancel_return=" + serverBase +
          "cncl.html&no_note=1&tax=0&currency_code=USD";
 }
 

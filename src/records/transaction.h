@@ -33,8 +33,8 @@ Currency CardFeeTotal(const ListView& list);
 Currency ChargedTotal(const SessionValues& values, const FeeRates& rates, const ListView& list,
                       int option, bool addsFees);
 
-// What is to be paid, "###.#0", rounded up to whole dollars when asked for. The payee decides between
-// funds transfer and the rest: equal accounts are charged as the first one.
+// What is to be paid, "###.#0", rounded up to whole dollars when asked for. The payee decides
+// between funds transfer and the rest: equal accounts are charged as the first one.
 std::string PaymentAmount(const SessionValues& values, const FeeRates& rates, const ListView& list,
                           int option, bool roundUp);
 

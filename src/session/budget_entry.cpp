@@ -38,8 +38,7 @@ bool BudgetEntry::ConfirmsLargeBudget() {
   constexpr Currency large = Currency::FromWhole(9999);
   if (values_.Budget < large) return true;
   const BoxAnswer answer = messages_.Show(
-      "Alert! ",
-      "You have entered a very large amount of money. Are you sure this is correct",
+      "Alert! ", "You have entered a very large amount of money. Are you sure this is correct",
       BoxIcon::Question, BoxButtons::YesNo);
   if (answer == BoxAnswer::Yes) return true;
   if (values_.TotalDonated <= Currency()) {

@@ -8,15 +8,14 @@ namespace benevix {
 
 // The largest amount that fits with its fees into an equal part of the Balance.
 Currency Distribution::Share(std::size_t stillToCome) const {
-  return donation_.LargestWithin(Currency::FromUnits(
-      values_.Balance.Units() / static_cast<std::int64_t>(stillToCome)));
+  return donation_.LargestWithin(
+      Currency::FromUnits(values_.Balance.Units() / static_cast<std::int64_t>(stillToCome)));
 }
 
 void Distribution::mnuDistribFavs_Click() {
   ListView& list = main_.ListView1;
   std::vector<int> rows = favorites_.Rows();
-  std::erase_if(rows,
-                [&](int row) { return !list.SubItem(row, column::kRecord).empty(); });
+  std::erase_if(rows, [&](int row) { return !list.SubItem(row, column::kRecord).empty(); });
   if (!donation_.KnowsDonor()) return;
   if (rows.empty() || Share(rows.size()) == Currency()) {
     messages_.Show("The Balance is too small to distribute");

@@ -63,7 +63,9 @@ void DonationEntry::Enter() {
        main_.mnuPercentBal.checked ? Unit::Percent : Unit::Dollars);
 }
 
-void DonationEntry::Give(Currency amount) { Give(amount, Unit::Dollars); }
+void DonationEntry::Give(Currency amount) {
+  Give(amount, Unit::Dollars);
+}
 
 bool DonationEntry::KnowsDonor() {
   const bool known = !others_.contact.Text1[contact_field::kCountry].text.empty();
@@ -165,11 +167,11 @@ void DonationEntry::OverLimit(const Row& row) {
   const Currency lacks = values_.Donation + std::max(fees, Currency()) -
                          (Deducts() ? row.available : balance + row.amount);
 
-  const BoxAnswer answer = messages_.Show(
-      messages_.Product() + " - Input Error",
-      "With the present options the maximum donation is: $" + Maximum(row).ToText() +
-          ".   Would you like to adjust the Budget instead?   ",
-      BoxIcon::Information, BoxButtons::YesNo);
+  const BoxAnswer answer =
+      messages_.Show(messages_.Product() + " - Input Error",
+                     "With the present options the maximum donation is: $" + Maximum(row).ToText() +
+                         ".   Would you like to adjust the Budget instead?   ",
+                     BoxIcon::Information, BoxButtons::YesNo);
   if (answer != BoxAnswer::Yes) return;
   const Currency rise = WholeDollars(lacks);
   values_.Budget += rise;
@@ -249,12 +251,11 @@ void DonationEntry::WriteRow(int row) {
   main_.Text1[1].Write(Format(values_.Balance, kMoneyPattern));
   if (values_.Donation != Currency()) {
     method72(row);
-    list.SetSubItem(row, column::kRecord,
-                    list.SubItem(row, column::kId) + "," + list.SubItem(row, column::kAmount) +
-                        "," + list.SubItem(row, column::kPool) + "," +
-                        list.SubItem(row, column::kFrom) + "," +
-                        std::to_string(main_.Check2.value) + "," +
-                        std::to_string(main_.Check1.value));
+    list.SetSubItem(
+        row, column::kRecord,
+        list.SubItem(row, column::kId) + "," + list.SubItem(row, column::kAmount) + "," +
+            list.SubItem(row, column::kPool) + "," + list.SubItem(row, column::kFrom) + "," +
+            std::to_string(main_.Check2.value) + "," + std::to_string(main_.Check1.value));
   }
   main_.Text1[2].Write("");
   RecalcTotalDonated(values_, list);

@@ -16,7 +16,9 @@ constexpr int kMostGap = 100;
 const std::string kRemoveHint =
     "Choose from the Favorites menu the favorite to remove, or Cancel Remove.";
 
-std::string Id(const std::string& favorite) { return favorite.substr(0, favorite.find(',')); }
+std::string Id(const std::string& favorite) {
+  return favorite.substr(0, favorite.find(','));
+}
 
 bool IsReadable(const std::string& favorite) {
   return favorite.find(',') != std::string::npos && IsNumeric(Id(favorite));
@@ -116,7 +118,9 @@ void Favorites::mnuFavsRemove_Click() {
   BuildMenu();
 }
 
-void Favorites::mnuCancelRemove_Click() { EndRemoving(); }
+void Favorites::mnuCancelRemove_Click() {
+  EndRemoving();
+}
 
 void Favorites::EndRemoving() {
   removing_ = false;

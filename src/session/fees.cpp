@@ -17,7 +17,9 @@ void AddFeeToToolTip(OptionButton& option, std::int16_t fee) {
 
 }  // namespace
 
-bool IsForeign(const std::string& country) { return UpperCase(country) != "U.S.A."; }
+bool IsForeign(const std::string& country) {
+  return UpperCase(country) != "U.S.A.";
+}
 
 FeeRates NextCardRates(FeeRates rates, bool foreign) {
   if (rates.CardRate == Currency() || rates.CardFixed == Currency()) {

@@ -23,8 +23,8 @@ Currency CardFeeOf(Currency donation, Currency serviceFee, const FeeRates& rates
 Currency ComputeCardFee(const SessionValues& values, FeeRates& rates, bool foreign);
 
 // Reads the rates from the text of the server's file, or sets the defaults when it is empty or an
-// error page; labels the two delivery options with their fees, once. Raises RuntimeError for numbers
-// beyond their type, with the values read so far.
+// error page; labels the two delivery options with their fees, once. Raises RuntimeError for
+// numbers beyond their type, with the values read so far.
 void ReadFeeRates(const std::string& text, FeeRates& rates, frmBVX& main);
 
 }  // namespace benevix

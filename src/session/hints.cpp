@@ -3,8 +3,8 @@
 namespace benevix {
 
 void ShowHint(frmBVX& main, int step) {
-  const std::string enterDonation = "enter the donation as " + main.Label3.caption +
-                                    " in the Donation box and press <Enter> ";
+  const std::string enterDonation =
+      "enter the donation as " + main.Label3.caption + " in the Donation box and press <Enter> ";
   std::string& sentence = main.Label6.caption;
   switch (step) {
     case hint::kPreferences:

@@ -17,9 +17,9 @@ void ListViewEvents::ListView1_ItemClick(const EventArgs& args) {
 }
 
 void ListViewEvents::EnableOrganizationCommands(bool enabled) {
-  for (MenuItem* item : {&main_.mnuMoreInfo, &main_.mnuContactThem, &main_.mnuGotheirWeb,
-                         &main_.MMTellMe, &main_.MMContactThem, &main_.MMGoWeb, &main_.mnuFavAddTop,
-                         &main_.mnuFavAdd}) {
+  for (MenuItem* item :
+       {&main_.mnuMoreInfo, &main_.mnuContactThem, &main_.mnuGotheirWeb, &main_.MMTellMe,
+        &main_.MMContactThem, &main_.MMGoWeb, &main_.mnuFavAddTop, &main_.mnuFavAdd}) {
     item->enabled = enabled;
   }
 }

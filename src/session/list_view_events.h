@@ -18,8 +18,8 @@ class ListViewEvents {
 
   void ListView1_ItemClick(const EventArgs& args);
 
-  // Scrolls a row into view and selects it, with what follows from a selected row; by the mouse also
-  // with what follows from a click.
+  // Scrolls a row into view and selects it, with what follows from a selected row; by the mouse
+  // also with what follows from a click.
   void Select(int row, bool byKeyboard);
 
   // A country of the countries menu: its first heading is scrolled into view and selected.

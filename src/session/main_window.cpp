@@ -21,7 +21,9 @@ void MainWindow::Text1_Change(int index) {
   if (index == 2) donation_.Text1_Change();
 }
 
-void MainWindow::Text1_GotFocus(int index) { ++main_.Text1[index].selections; }
+void MainWindow::Text1_GotFocus(int index) {
+  ++main_.Text1[index].selections;
+}
 
 void MainWindow::Timer1_Tick() {
   constexpr int step = 20;

@@ -21,8 +21,8 @@ struct SessionValues {
 
 // The fee rates; the server's when it published them.
 struct FeeRates {
-  std::int16_t PoolFee = 2;        // whole dollars a donation
-  std::int16_t StandAloneFee = 3;  // whole dollars a donation
+  std::int16_t PoolFee = 2;                        // whole dollars a donation
+  std::int16_t StandAloneFee = 3;                  // whole dollars a donation
   Currency CardRate = Currency::FromUnits(29000);  // percent
   Currency CardFixed = Currency::FromUnits(3000);
   Currency SessionFee = Currency::FromWhole(5);

@@ -12,7 +12,7 @@ namespace benevix {
 struct BindingContext {
   Input& input;
   Scheme scheme = Scheme::Light;
-  bool applying = false;   // the program writes into widgets; what they signal is not the user's
+  bool applying = false;  // the program writes into widgets; what they signal is not the user's
   bool runTimers = true;
 };
 
@@ -25,8 +25,8 @@ class Binding {
   [[nodiscard]] virtual QWidget* Widget() const = 0;
 };
 
-// The binding of a control to the widget that bears its name in the drawing; null for a control that
-// is not drawn.
+// The binding of a control to the widget that bears its name in the drawing; null for a control
+// that is not drawn.
 std::unique_ptr<Binding> MakeBinding(const NamedControl& control, QWidget& window,
                                      BindingContext& context);
 

@@ -20,7 +20,9 @@ void ListModel::Refresh() {
   }
 }
 
-int ListModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count_; }
+int ListModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : count_;
+}
 
 int ListModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : ListView::kColumns;
@@ -34,8 +36,8 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole: {
       const int column = index.column();
       const bool number = column == column::kAmount || column >= column::kFee;
-      return QVariant::fromValue(Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) |
-                                               Qt::AlignVCenter));
+      return QVariant::fromValue(
+          Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
     }
     case Qt::FontRole: {
       const bool given = list_.cells.count(row) != 0;
@@ -56,8 +58,8 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
   }
   if (role == Qt::TextAlignmentRole) {
     const bool number = section == column::kAmount || section >= column::kFee;
-    return QVariant::fromValue(Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) |
-                                             Qt::AlignVCenter));
+    return QVariant::fromValue(
+        Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
   }
   return {};
 }

@@ -10,8 +10,7 @@ namespace benevix {
 // when it is painted.
 class ListModel : public QAbstractTableModel {
  public:
-  ListModel(const ListView& list, QObject* parent)
-      : QAbstractTableModel(parent), list_(list) {}
+  ListModel(const ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
 
   // Brings the view into line when texts or rows have changed since the last time.
   void Refresh();

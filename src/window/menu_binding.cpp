@@ -22,10 +22,9 @@ MenuBinding::MenuBinding(const Desk::Entry& entry, QMenuBar& bar, BindingContext
     : bar_(bar), context_(context) {
   for (const NamedControl& control : entry.controls) {
     if (control.As<MenuItem>() != nullptr) {
-      const bool holds =
-          std::any_of(entry.controls.begin(), entry.controls.end(), [&](const NamedControl& other) {
-            return other.Base().holder == control.name;
-          });
+      const bool holds = std::any_of(
+          entry.controls.begin(), entry.controls.end(),
+          [&](const NamedControl& other) { return other.Base().holder == control.name; });
       AddItem(control, holds);
     } else if (MenuArray* const array = control.As<MenuArray>()) {
       AddArray(*array);

@@ -11,8 +11,7 @@ QValidator::State TypedText::validate(QString& input, int& position) const {
   qsizetype head = 0;
   while (head < most && before[head] == input[head]) ++head;
   qsizetype tail = 0;
-  while (tail < most - head &&
-         before[before.size() - 1 - tail] == input[input.size() - 1 - tail]) {
+  while (tail < most - head && before[before.size() - 1 - tail] == input[input.size() - 1 - tail]) {
     ++tail;
   }
   QString kept;

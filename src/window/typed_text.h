@@ -11,8 +11,8 @@ class TypedText : public QValidator {
  public:
   // `current` gives the text that stands; `accepts` whether a character may be typed;
   // `isApplying` whether the program writes, which passes whole.
-  TypedText(QObject* parent, std::function<QString()> current,
-            std::function<bool(QChar)> accepts, std::function<bool()> isApplying)
+  TypedText(QObject* parent, std::function<QString()> current, std::function<bool(QChar)> accepts,
+            std::function<bool()> isApplying)
       : QValidator(parent),
         current_(std::move(current)),
         accepts_(std::move(accepts)),

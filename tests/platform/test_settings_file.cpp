@@ -110,7 +110,7 @@ TEST_F(SettingsFileTest, TwoProgramsLoseNothing) {
       lost += Write(program + std::to_string(i), "x\0"s) != 0 ? 1 : 0;
       lost += Write(program, last) != 0 || Read(program) != "1:" + last ? 1 : 0;
     }
-    _exit(lost == 0 ? 0 : 1);
+    _exit(lost);
   }
   for (int status = 0; wait(&status) > 0;) EXPECT_EQ(status, 0);
   for (int i = 0; i < count; ++i) {

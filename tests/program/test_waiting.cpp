@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "benevix-play/stage.h"
 #include "../boxes_of_a_test.h"
+#include "benevix-play/stage.h"
 
 namespace benevix {
 namespace {

@@ -1,6 +1,5 @@
-#include <gtest/gtest.h>
-
 #include <filesystem>
+#include <gtest/gtest.h>
 #include <sys/wait.h>
 
 #include "../platform/surroundings_of_a_test.h"
@@ -55,13 +54,15 @@ TEST_F(SmallSite, NothingOutsideTheFolderIsServed) {
 }
 
 TEST_F(SmallSite, MailNeedsASenderAndARecipient) {
-  const SiteAnswer sent = site_.Answer("/cgi-bin/mail?email=a@b.example&recipient=c@d.example"
-                                       "&subject=1%20<2&=T\xE9xt & more");
+  const SiteAnswer sent = site_.Answer(
+      "/cgi-bin/mail?email=a@b.example&recipient=c@d.example"
+      "&subject=1%20<2&=T\xE9xt & more");
   EXPECT_EQ(sent.status, 200);
   for (const auto* part : {"Thank You", "a@b.example", "c@d.example", "1 &lt;2", "T\xE9xt "}) {
     EXPECT_NE(sent.body.find(part), std::string::npos) << part;
   }
-  for (const auto* query : {"", "email=a@b.example", "recipient=c@d.example", "email=&recipient="}) {
+  for (const auto* query :
+       {"", "email=a@b.example", "recipient=c@d.example", "email=&recipient="}) {
     const SiteAnswer refused = site_.Answer(std::string("/cgi-bin/mail?") + query);
     EXPECT_EQ(refused.status, 400);
     EXPECT_EQ(refused.body.find("Thank You"), std::string::npos);
@@ -71,8 +72,10 @@ TEST_F(SmallSite, MailNeedsASenderAndARecipient) {
 TEST_F(SmallSite, PaymentPageShowsValuesAndRunsNone) {
   const std::string page =
       site_
-          .Answer("/xclick/business=<script>alert(1)</script>&item_name=%22%27&amount=209.70"
-                  "&return=javascript:alert(1)&cancel_return=" + kAddress + "cncl.html?a%26b")
+          .Answer(
+              "/xclick/business=<script>alert(1)</script>&item_name=%22%27&amount=209.70"
+              "&return=javascript:alert(1)&cancel_return=" +
+              kAddress + "cncl.html?a%26b")
           .body;
   EXPECT_NE(page.find("209.70"), std::string::npos);
   EXPECT_NE(page.find("&lt;script&gt;alert(1)&lt;/script&gt;"), std::string::npos);
@@ -124,9 +127,9 @@ TEST_F(ServedSite, TranslationsPassTheProgramsJudgement) {
   for (const auto* languages : {"en/", "en", "", "/", "en/xx", "xx/en", "en/fr/de"}) {
     EXPECT_EQ(translated(languages, page), "Language not supported") << languages;
   }
-  for (const std::string& elsewhere : {std::string(), kAddress + "infoDB/none.dat",
-                                       kAddress + "../resources/wlist.res",
-                                       std::string("http://elsewhere.example/infoDB/101.dat")}) {
+  for (const std::string& elsewhere :
+       {std::string(), kAddress + "infoDB/none.dat", kAddress + "../resources/wlist.res",
+        std::string("http://elsewhere.example/infoDB/101.dat")}) {
     EXPECT_EQ(site_.Answer("/parley?language=en/fr&url=" + elsewhere).status, 404) << elsewhere;
   }
 }

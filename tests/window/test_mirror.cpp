@@ -3,12 +3,14 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include "controls/desk.h"
 #include "controls/input.h"
+#include "core/wait_notice.h"
 #include "records/ui/frmPayOpt.h"
 #include "session/ui/frmBVX.h"
 #include "window/mirror.h"
@@ -22,6 +24,7 @@ class MirrorTest : public testing::Test {
   MirrorTest() {
     desk.Add("frmBVX", main);
     desk.Add("frmPayOpt", payment);
+    desk.Add("frmWait", wait);
     events.On(main.Text1, Event::KeyPress, [](int, EventArgs& args) {
       if ((args.key < '0' || args.key > '9') && args.key != '.') args.key = 0;
     });
@@ -51,6 +54,7 @@ class MirrorTest : public testing::Test {
   EventTable events;
   frmBVX main;
   frmPayOpt payment;
+  frmWait wait;
   Desk desk{events};
   Input input{desk, events};
   Mirror mirror{Scheme::Light, Mirror::Timers::Hold};
@@ -112,6 +116,31 @@ TEST_F(MirrorTest, InputDuringAWaitIsThrownAway) {
   EXPECT_TRUE(desk.IsShown(main));
   ClickOn(button);
   EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(MirrorTest, TheWaitNoticeFollowsTheBytesOfARequestAndGoes) {
+  const auto window = [&]() -> QWidget& { return mirror.BindingOf(wait)->Widget(); };
+  input.Enter([&] {
+    WaitNotice notice(wait, desk, mirror);
+    const WaitScope request(mirror);
+    ASSERT_TRUE(window().isVisible());
+    auto& bar = *window().findChild<QProgressBar*>();
+    EXPECT_EQ(bar.maximum(), 0);  // nothing is known yet
+    const auto progress = notice.Progress();
+    progress(7, 0);
+    EXPECT_EQ(bar.maximum(), 0);
+    progress(50'000'000, 200'000'000);
+    EXPECT_EQ(bar.maximum(), 100);
+    EXPECT_EQ(bar.value(), 25);
+    progress(300, 200);
+    EXPECT_EQ(bar.value(), 100);
+  });
+  EXPECT_FALSE(window().isVisible());
+  input.Enter([&] {
+    const WaitNotice again(wait, desk, mirror);
+    mirror.DoEvents();
+    EXPECT_EQ(window().findChild<QProgressBar*>()->maximum(), 0);
+  });
 }
 
 TEST_F(MirrorTest, MainWindowWaitsForAWindowThatKeepsTheAttention) {

@@ -19,9 +19,9 @@ struct frmPersInfo : Window {
     height = 6600;
   }
 
-  Label Label1[contact_field::kCount] = {Label("Full Name"),   Label("Address"), Label("City"),
-                                         Label("State"),       Label("Postal Code"),
-                                         Label("Country"),     Label("E-mail")};
+  Label Label1[contact_field::kCount] = {Label("Full Name"), Label("Address"),     Label("City"),
+                                         Label("State"),     Label("Postal Code"), Label("Country"),
+                                         Label("E-mail")};
   TextBox Text1[contact_field::kCount] = {TextBox("Your name")};
   ComboBox Combo1{false};  // the countries
   CheckBox Check1{"I want to participate in the Donors Ranking (optional)",

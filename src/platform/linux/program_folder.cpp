@@ -15,9 +15,9 @@ bool IsWritable(const fs::path& folder) {
   return access(folder.c_str(), R_OK | W_OK | X_OK) == 0;
 }
 
-// A link between two of the files stays one. Copied beside and renamed, so that a start that was cut short begins anew the next time. The
-// program adds to these files, so they are the user's to write even when the installed ones are
-// not.
+// A link between two of the files stays one. Copied beside and renamed, so that a start that was
+// cut short begins anew the next time. The program adds to these files, so they are the user's to
+// write even when the installed ones are not.
 void SeedResources(const fs::path& installed, const fs::path& resources) {
   if (fs::exists(resources)) return;
   const fs::path unfinished = resources.string() + "." + std::to_string(getpid());

@@ -39,7 +39,7 @@ std::string ConfigFolder() {
 std::vector<std::string> SystemDataFolders() {
   const char* const value = std::getenv("XDG_DATA_DIRS");
   std::istringstream paths(value != nullptr && *value != '\0' ? value
-                                                             : "/usr/local/share:/usr/share");
+                                                              : "/usr/local/share:/usr/share");
   std::vector<std::string> folders;
   for (std::string path; std::getline(paths, path, ':');) {
     if (path.starts_with('/')) folders.push_back(path);

@@ -12,8 +12,7 @@ struct frmYtdTag : Window {
     height = 2400;
   }
 
-  Label Label1[4] = {Label("Today"), Label("This Month"), Label("This Year"),
-                     Label("Total Ever")};
+  Label Label1[4] = {Label("Today"), Label("This Month"), Label("This Year"), Label("Total Ever")};
   Label Label2[4];  // the amounts
 };
 

@@ -22,8 +22,8 @@ struct frmBVX : Window {
     Check1.enabled = false;
     Command1.enabled = false;
     for (MenuItem* item : {&mnuDistribFavs, &mnuFavsRemove, &mnuCancelRemove, &mnuPrntSession,
-                           &mnuMoreInfo, &mnuContactThem, &mnuGotheirWeb, &MMTellMe,
-                           &MMContactThem, &MMGoWeb, &mnuFavAddTop, &mnuFavAdd}) {
+                           &mnuMoreInfo, &mnuContactThem, &mnuGotheirWeb, &MMTellMe, &MMContactThem,
+                           &MMGoWeb, &mnuFavAddTop, &mnuFavAdd}) {
       item->enabled = false;
     }
     mnuAddFees.checked = true;
@@ -41,7 +41,7 @@ struct frmBVX : Window {
   Label Label9{"Estimated Bal", "Estimated Balance"};
   Label Label8;  // the small balance label
   Label Label6{"Type a Dollar amount in the Budget box and press <Enter>"};  // the guidance line
-  Label Label12{"System Message", "Click to receive"};                      // the news line
+  Label Label12{"System Message", "Click to receive"};                       // the news line
   Label Label10{"Fees"};
   Label Label11[2] = {Label("Update List"), Label("&Help")};
   Label Label4{"Benevix helps you give."};  // the credit line, later the payment method
@@ -65,8 +65,8 @@ struct frmBVX : Window {
   CheckBox Check1{"Send Proof of Mailing", "Click to receive notice when donation is sent out",
                   "Frame4"};
   Frame Frame7{"Tax Certificate"};
-  CheckBox Check2{"Request Certificate",
-                  "Tells charity you want a notification for tax purposes", "Frame7"};
+  CheckBox Check2{"Request Certificate", "Tells charity you want a notification for tax purposes",
+                  "Frame7"};
   Frame Frame9{"YTD Status"};
 
   ListView ListView1;
@@ -77,11 +77,11 @@ struct frmBVX : Window {
   Timer Timer2{500, false};  // makes the news indicator blink
   PictureBox Image1, Image2, Image3, Image4, Image5, Picture2;
   Shape Shape1;
-  Shape Shape2;           // the year-to-date mark
-  Shape Shape3, Shape4;   // the two frames around the list
-  Shape Shape5;           // the news indicator
+  Shape Shape2;          // the year-to-date mark
+  Shape Shape3, Shape4;  // the two frames around the list
+  Shape Shape5;          // the news indicator
   Shape Shape6;
-  Shape Shape7;           // the ring around the news indicator
+  Shape Shape7;  // the ring around the news indicator
   Line Line1, Line2, Line3;
 
   MenuItem TFile{"&File"};
