@@ -87,7 +87,8 @@ TEST(NumberText, TellsWhatIsNumeric) {
 
 TEST(NumberText, ReadsAnyBytesWithoutHarm) {
   std::mt19937 random(3);
-  const std::string letters("0019.,-+eEdD&HhO()$ \t\n\r\0\xFF", 27);
+  using std::string_literals::operator""s;
+  const std::string letters = "0019.,-+eEdD&HhO()$ \t\n\r\0\xFF"s;
   for (int i = 0; i < 50000; ++i) {
     std::string text;
     for (auto n = random() % 12; n > 0; --n) text += letters[random() % letters.size()];

@@ -111,7 +111,8 @@ TEST(OrganizationList, ReadsEveryKindOfLine) {
 }
 
 TEST(OrganizationList, ReadsRandomBytesAsPlainlyAsLineByLine) {
-  const std::string letters("\n\n\n\r,,;[] 0123456789eE&H.-abcQUORL\0\xE9\xFF", 41);
+  using std::string_literals::operator""s;
+  const std::string letters = "\n\n\n\r,,;[] 0123456789eE&H.-abcQUORL\0\xE9\xFF"s;
   const std::string starts[] = {";QUORL", "[", "00000001 A, ", "0000000", "        ", ""};
   std::mt19937 random(5);
   const TempFolder folder;
