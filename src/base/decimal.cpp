@@ -44,10 +44,10 @@ void Decimal::RoundTo(int count) {
 Decimal Decimal::FromDouble(double value, int significant) {
   if (!std::isfinite(value)) throw RuntimeError("Overflow");
   // 767 digits hold the exact decimal expansion of any double.
-  std::array<char, 800> buffer;
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
-                                 std::chars_format::scientific, 766)
-                       .ptr;
+  std::array<char, 800> buffer{};
+  const auto* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                        std::fabs(value), std::chars_format::scientific, 766)
+                              .ptr;
   const std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
   const auto e = text.find('e');
   Decimal decimal;

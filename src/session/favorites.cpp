@@ -58,8 +58,8 @@ std::optional<std::vector<Favorites::Favorite>> Favorites::Read() {
   if (text.empty()) return favorites;
   const auto count = ParseNumber(text);
   if (!count) return std::nullopt;
-  for (double i = 1; i <= std::trunc(*count); ++i) {
-    const std::string favorite = Stored(DoubleToText(i));
+  for (int i = 1; i <= std::trunc(*count); ++i) {
+    const std::string favorite = Stored(std::to_string(i));
     if (!IsReadable(favorite)) return std::nullopt;
     favorites.push_back({Id(favorite), favorite.substr(favorite.find(',') + 1)});
   }
