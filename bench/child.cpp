@@ -64,18 +64,17 @@ double TimeToEnd(const Command& command) {
   return elapsed;
 }
 
-ReadyChild::ReadyChild(const Command& command) {
-  const auto [childInput, input] = Pipe();
-  const auto [output, childOutput] = Pipe();
+ReadyChild::ReadyChild(const Command& command) : ReadyChild(command, Pipe(), Pipe()) {}
+
+ReadyChild::ReadyChild(const Command& command, PipeEnds toChild, PipeEnds fromChild)
+    : input_(toChild[1]), output_(fromChild[0]) {
   Streams streams;
-  streams.Connect(childInput, STDIN_FILENO);
-  streams.Connect(childOutput, STDOUT_FILENO);
-  input_ = input;
-  output_ = output;
+  streams.Connect(toChild[0], STDIN_FILENO);
+  streams.Connect(fromChild[1], STDOUT_FILENO);
   const Stopwatch watch;
   process_ = streams.Spawn(command);
-  close(childInput);
-  close(childOutput);
+  close(toChild[0]);
+  close(fromChild[1]);
   for (char c = 0; read(output_, &c, 1) == 1 && c != '\n';) line_ += c;
   elapsed_ = watch.Milliseconds();
   if (line_.empty()) throw std::runtime_error(command[0] + " did not become ready");

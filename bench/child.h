@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,11 @@ class ReadyChild {
   [[nodiscard]] double Elapsed() const { return elapsed_; }
 
  private:
+  // The end that is read, then the one that is written.
+  using PipeEnds = std::array<int, 2>;
+
+  ReadyChild(const Command& command, PipeEnds toChild, PipeEnds fromChild);
+
   int process_ = 0;
   int input_ = -1;
   int output_ = -1;

@@ -70,11 +70,12 @@ bool LogicFace::Type(const Target& target, const std::string& text) {
   } else if (!combo->text.empty() && !User().Type(*combo, "")) {
     return false;
   }
-  for (const std::string& key : KeysOf(text)) {
+  // A key that takes the focus away ends the typing.
+  return std::ranges::all_of(KeysOf(text), [&](const std::string& key) {
     if (!HasFocus(target)) return false;
     PressHere(target, key);
-  }
-  return true;
+    return true;
+  });
 }
 
 bool LogicFace::Press(const Target& target, const std::string& key) {

@@ -10,14 +10,18 @@
 #include "window/mirror.h"
 #include "window/qt_message_boxes.h"
 #include "window/theme.h"
+#include "window/window_layout.h"
 
 namespace {
 
 using namespace benevix;
 
 int RunOn(Machine& machine, Mirror& mirror) {
-  Program program(machine.TheSurroundings());
-  mirror.Attach(program.TheDesk(), program.TheInput());
+  const Surroundings surroundings = machine.TheSurroundings();
+  SettingsStore settings(surroundings.registry);
+  const WindowLayout layout(settings);
+  Program program(surroundings);
+  mirror.Attach(program.TheDesk(), program.TheInput(), &layout);
   mirror.onEnded = [] { QCoreApplication::exit(); };
   program.Main();
   const int result = program.TheDesk().Ended() ? 0 : QApplication::exec();

@@ -12,7 +12,7 @@ namespace benevix {
 // request, so that stopping never waits for an idle browser, and a request may stay unanswered.
 class LoopbackServer : public httplib::Server {
  public:
-  static constexpr size_t longestTarget = 4 * 1024 * 1024;
+  static constexpr std::size_t longestTarget = std::size_t{4} << 20;
 
   // Silence lasts until the client leaves or the server stops.
   enum class Reply { Answer, Close, Silence };

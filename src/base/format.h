@@ -20,6 +20,7 @@ std::string FormatText(std::string_view text, std::string_view pattern);
 // How amounts are shown: in boxes and messages, and in the Amount column.
 inline constexpr std::string_view kMoneyPattern = "#,###,###.00";
 inline constexpr std::string_view kAmountPattern = "###.#0";
+inline constexpr std::string_view kSumPattern = "#,###,##0.00";  // also below one
 inline constexpr std::string_view kFeePattern = "###.##";
 
 }  // namespace benevix

@@ -7,6 +7,7 @@
 #include <variant>
 #include <vector>
 
+#include "base/currency.h"
 #include "controls/control.h"
 #include "controls/list_view.h"
 
@@ -21,6 +22,8 @@ inline constexpr Color kBlack = 0x00000000;
 inline constexpr Color kRed = 0x000000FF;
 inline constexpr Color kGreen = 0x0000FF00;
 inline constexpr Color kLightGrey = 0x00E0E0E0;
+inline constexpr Color kSand = 0x00A2D1D1;
+inline constexpr Color kLightSand = 0x00A5D5D6;
 inline constexpr Color kActiveTitleBar = 0x80000002;
 inline constexpr Color kInactiveTitleBar = 0x80000003;
 inline constexpr Color kWindowBackground = 0x80000005;
@@ -195,6 +198,18 @@ struct ProgressBar : Control {
   int value = 0;
 };
 
+// How an amount is used: its parts side by side, each as wide as it is large.
+struct MoneyBar : Control {
+  struct Part {
+    enum class Use { Given, ServiceFees, MethodFee, Left };
+    Use use;
+    std::string caption;
+    Currency amount;
+  };
+
+  std::vector<Part> parts;
+};
+
 struct PageViewer : Control {
   std::string address;
   int navigations = 0;
@@ -220,8 +235,9 @@ struct Window {
   int left = 0, top = 0, width = 0, height = 0;  // twips
 };
 
-using AnyControl = std::variant<TextBox*, Label*, Button*, OptionButton*, CheckBox*, ComboBox*,
-                                MenuItem*, MenuArray*, Frame*, PictureBox*, Shape*, Line*, Timer*,
-                                ScrollBar*, ProgressBar*, PageViewer*, HttpControl*, ListView*>;
+using AnyControl =
+    std::variant<TextBox*, Label*, Button*, OptionButton*, CheckBox*, ComboBox*, MenuItem*,
+                 MenuArray*, Frame*, PictureBox*, Shape*, Line*, Timer*, ScrollBar*, ProgressBar*,
+                 MoneyBar*, PageViewer*, HttpControl*, ListView*>;
 
 }  // namespace benevix

@@ -19,6 +19,7 @@ void Input::Enter(const std::function<void()>& what) {
   }
   busy_ = false;
   desk_.Settle();
+  derive();
   afterEvent();
 }
 

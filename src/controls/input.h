@@ -15,7 +15,9 @@ class Input {
  public:
   Input(Desk& desk, const EventTable& events) : desk_(desk), events_(events) {}
 
-  // Called after every deed; the mirror brings the windows into line.
+  // Called after every deed, first: brings what the windows show of other values into line.
+  std::function<void()> derive = [] {};
+  // Called after every deed, last; the mirror brings the windows into line.
   std::function<void()> afterEvent = [] {};
   // An error that no handler took.
   std::function<void(const RuntimeError&)> onError = [](const RuntimeError&) {};

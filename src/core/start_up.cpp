@@ -94,11 +94,8 @@ void StartUp::frmBVX_Load() {
 }
 
 void StartUp::LoadMainWindow() {
-  constexpr auto rgb = [](Color red, Color green, Color blue) {
-    return red | (green << 8) | (blue << 16);
-  };
-  main_.Option3[0].backColor = rgb(209, 209, 162);
-  main_.Option3[1].backColor = rgb(214, 213, 165);
+  main_.Option3[0].backColor = colors::kSand;
+  main_.Option3[1].backColor = colors::kLightSand;
   ApplyConnectionSettings();
   steps_.checkServerStatus();
   if (run_.ServerOK) {

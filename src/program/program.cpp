@@ -34,6 +34,7 @@ Program::Program(Surroundings surroundings)
                          finalization_.Finalize(heading);
                        },
                        [this](const std::string& page) { help_.ShowPage(page); }}),
+      charges_(windows_.main, windows_.payment, values_, rates_),
       history_(surroundings_, messages_, desk_, windows_.info),
       finalization_({windows_.main, windows_.payment, windows_.contact, windows_.info}, values_,
                     rates_, run_, desk_, server_, settings_, codec_, messages_, history_,
@@ -86,6 +87,7 @@ Program::Program(Surroundings surroundings)
   desk_.Add("frmPrefsTranslate", windows_.translate);
   desk_.Add("frmSrch", windows_.search);
   ConnectEvents();
+  input_.derive = [this] { charges_.Show(); };
   input_.onError = [this](const RuntimeError& error) {
     messages_.Show(error.what(), BoxIcon::Critical);
   };

@@ -26,6 +26,7 @@
 #include "online/ui/frmWait.h"
 #include "online/wizard.h"
 #include "platform/surroundings.h"
+#include "records/charges.h"
 #include "records/finalization.h"
 #include "records/history.h"
 #include "records/last_session.h"
@@ -132,6 +133,7 @@ class Program {
   EditCommands editCommands_;
   Distribution distribution_;
   PaymentOptions paymentOptions_;
+  Charges charges_;
   History history_;
   Finalization finalization_;
   YearToDate yearToDate_;

@@ -55,6 +55,8 @@ void ReadFeeRates(const std::string& text, FeeRates& rates, frmBVX& main) {
   AddFeeToToolTip(main.Option2[1], rates.StandAloneFee);
   rates.CardRate = Currency::FromText(CutField(rest, ','));
   rates.CardFixed = Currency::FromText(CutField(rest, ','));
+  rates.PublishedCardRate = rates.CardRate;
+  rates.PublishedCardFixed = rates.CardFixed;
   rates.SessionFee = Currency::FromText(CutField(rest, ','));
   rates.RatesField6 = CutField(rest, ',');
   rates.RatesField7 = rest.substr(0, rest.find_first_of("\r\n"));  // the file is one line

@@ -28,6 +28,9 @@ struct FeeRates {
   Currency SessionFee = Currency::FromWhole(5);
   std::string RatesField6;  // payee account for card and e-check
   std::string RatesField7;  // payee account for funds transfer
+  // As read; the card fees of a session raise CardRate.
+  Currency PublishedCardRate = CardRate;
+  Currency PublishedCardFixed = CardFixed;
 };
 
 }  // namespace benevix

@@ -8,12 +8,15 @@
 
 namespace benevix {
 
+class WindowLayout;
+
 // What the bindings of all windows share.
 struct BindingContext {
   Input& input;
   Scheme scheme = Scheme::Light;
   bool applying = false;  // the program writes into widgets; what they signal is not the user's
   bool runTimers = true;
+  const WindowLayout* layout = nullptr;  // where the main window's arrangement is kept, if anywhere
 };
 
 // Binds one control to its widget: hands the user's events on, and brings the widget into line with

@@ -14,9 +14,11 @@
 #include <QScrollBar>
 #include <QTimer>
 
+#include "base/format.h"
 #include "base/text.h"
 #include "window/binding.h"
 #include "window/list_binding.h"
+#include "window/money_bar_widget.h"
 #include "window/page_viewer/page_view_host.h"
 #include "window/shape_widget.h"
 #include "window/texts.h"
@@ -350,6 +352,22 @@ class ProgressBarBinding : public Bound<ProgressBar, QProgressBar> {
   }
 };
 
+class MoneyBarBinding : public Bound<MoneyBar, MoneyBarWidget> {
+ public:
+  using Bound::Bound;
+  void Apply() override {
+    ApplyBase(control_, widget_);
+    widget_.setAccessibleDescription(ToQString(control_.toolTip));
+    std::vector<MoneyBarWidget::Part> parts;
+    for (const MoneyBar::Part& part : control_.parts) {
+      parts.push_back({UseColor(part.use, context_.scheme),
+                       ToQString(part.caption + " " + Format(part.amount, kSumPattern)),
+                       part.amount.ToDouble()});
+    }
+    widget_.SetParts(std::move(parts));
+  }
+};
+
 class PageViewerBinding : public Bound<PageViewer, QWidget> {
  public:
   PageViewerBinding(PageViewer& viewer, QWidget& widget, BindingContext& context)
@@ -452,6 +470,9 @@ std::unique_ptr<Binding> MakeBinding(const NamedControl& control, QWidget& windo
   }
   if (auto* const c = control.As<ProgressBar>()) {
     return Bind<ProgressBarBinding, QProgressBar>(*c, widget, context);
+  }
+  if (auto* const c = control.As<MoneyBar>()) {
+    return Bind<MoneyBarBinding, MoneyBarWidget>(*c, widget, context);
   }
   if (auto* const c = control.As<PageViewer>()) {
     return std::make_unique<PageViewerBinding>(*c, *widget, context);

@@ -2,11 +2,15 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QMenu>
 #include <QMouseEvent>
+#include <QShortcut>
 #include <QTableView>
 
 #include "database/organization_list.h"
+#include "window/list_delegate.h"
 #include "window/list_model.h"
+#include "window/texts.h"
 
 namespace benevix {
 namespace {
@@ -14,8 +18,14 @@ namespace {
 class ListBinding : public QObject, public Binding {
  public:
   ListBinding(ListView& list, QTableView& view, BindingContext& context)
-      : list_(list), view_(view), context_(context), model_(list, nullptr), scrolls_(list.scrolls) {
+      : list_(list),
+        view_(view),
+        context_(context),
+        model_(list, nullptr),
+        delegate_(context.scheme),
+        scrolls_(list.scrolls) {
     view.setModel(&model_);
+    view.setItemDelegate(&delegate_);
     view.viewport()->installEventFilter(this);
     LayOutColumns();
     QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -63,14 +73,38 @@ class ListBinding : public QObject, public Binding {
   }
 
  private:
+  // The columns that only serve the program are out of sight unless asked for.
+  void OfferColumns(const QPoint& place) {
+    const QHeaderView& header = *view_.horizontalHeader();
+    QMenu menu(&view_);
+    for (int i = 0; i < ListView::kColumns; ++i) {
+      const QString caption = ToQString(list_.columns[static_cast<std::size_t>(i)]);
+      QAction* const shown =
+          menu.addAction(caption.isEmpty() ? QStringLiteral("Options") : caption);
+      shown->setCheckable(true);
+      shown->setChecked(!header.isSectionHidden(i));
+      shown->setEnabled(i != column::kOrganization);
+      QObject::connect(shown, &QAction::toggled, this,
+                       [this, i](bool on) { view_.setColumnHidden(i, !on); });
+    }
+    menu.exec(header.mapToGlobal(place));
+  }
+
   void LayOutColumns() {
     QHeaderView& header = *view_.horizontalHeader();
+    header.setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(&header, &QWidget::customContextMenuRequested, this,
+                     [this](const QPoint& place) { OfferColumns(place); });
+    auto* const columns = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_K), &view_);
+    QObject::connect(columns, &QShortcut::activated, this,
+                     [this] { OfferColumns(QPoint(0, view_.horizontalHeader()->height())); });
     for (const int served : {column::kId, column::kRecord, column::kFee, column::kCardFee}) {
       view_.setColumnHidden(served, true);
     }
     const int unit = view_.fontMetrics().averageCharWidth();
-    const int widths[] = {18, 46, 18, 12, 14, 22};  // characters
+    const int widths[] = {12, 46, 18, 14, 14, 22};  // characters
     for (int i = 0; i < 6; ++i) header.resizeSection(i, widths[i] * unit);
+    for (int i = 6; i < ListView::kColumns; ++i) header.resizeSection(i, 14 * unit);
     header.setSectionResizeMode(column::kOrganization, QHeaderView::Stretch);
     view_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view_.verticalHeader()->setDefaultSectionSize(view_.fontMetrics().height() + 10);
@@ -80,6 +114,7 @@ class ListBinding : public QObject, public Binding {
   QTableView& view_;
   BindingContext& context_;
   ListModel model_;
+  ListDelegate delegate_;
   int scrolls_;
   bool pressed_ = false;
 };

@@ -28,6 +28,11 @@ int ListModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : ListView::kColumns;
 }
 
+ListModel::Kind ListModel::KindOf(int row) const {
+  if (list_.cells.count(row) != 0) return Kind::Given;
+  return list_.Text(row).empty() ? Kind::Organization : Kind::Heading;
+}
+
 QVariant ListModel::data(const QModelIndex& index, int role) const {
   const int row = index.row() + 1;
   switch (role) {
@@ -39,9 +44,13 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
       return QVariant::fromValue(
           Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
     }
+    case kKindRole:
+      return QVariant::fromValue(KindOf(row));
     case Qt::FontRole: {
-      const bool given = list_.cells.count(row) != 0;
-      if (!given && list_.Text(row).empty()) return {};
+      const Kind kind = KindOf(row);
+      const bool named =
+          index.column() == column::kOrganization || index.column() == column::kAmount;
+      if (kind == Kind::Organization || (kind == Kind::Given && !named)) return {};
       QFont font;
       font.setBold(true);
       return font;

@@ -10,6 +10,9 @@ namespace benevix {
 // when it is painted.
 class ListModel : public QAbstractTableModel {
  public:
+  enum class Kind { Heading, Organization, Given };
+  static constexpr int kKindRole = Qt::UserRole;
+
   ListModel(const ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
 
   // Brings the view into line when texts or rows have changed since the last time.
@@ -21,6 +24,8 @@ class ListModel : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
+  [[nodiscard]] Kind KindOf(int row) const;
+
   const ListView& list_;
   const RowSource* rows_ = nullptr;
   int count_ = 0;

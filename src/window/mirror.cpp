@@ -35,11 +35,11 @@ bool IsInput(QEvent::Type type) {
 
 }  // namespace
 
-void Mirror::Attach(Desk& desk, Input& input) {
+void Mirror::Attach(Desk& desk, Input& input, const WindowLayout* layout) {
   Detach();
   desk_ = &desk;
   context_ = std::make_unique<BindingContext>(
-      BindingContext{input, scheme_, false, timers_ == Timers::Run});
+      BindingContext{input, scheme_, false, timers_ == Timers::Run, layout});
   input.afterEvent = [this] { Sync(); };
 }
 

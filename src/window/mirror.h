@@ -22,8 +22,9 @@ class Mirror : public QObject, public Waits {
   Mirror(Scheme scheme, Timers timers) : scheme_(scheme), timers_(timers) {}
   ~Mirror() override { Detach(); }
 
-  // One program at a time stands on the screen.
-  void Attach(Desk& desk, Input& input);
+  // One program at a time stands on the screen. With a layout the main window is as the user left
+  // it.
+  void Attach(Desk& desk, Input& input, const WindowLayout* layout = nullptr);
   void Detach();
 
   // Called when the program has ended.

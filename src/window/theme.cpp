@@ -38,9 +38,13 @@ struct Tones {
   const char* onTint;
   const char* given;     // ground of boxes that show and no longer ask
   const char* computed;  // ground of the Balance
+  const char* sand;      // ground of the fee modes
   const char* red;
   const char* green;
-  const char* lit;  // the news indicator with news
+  const char* lit;      // the news indicator with news
+  const char* service;  // parts of the money bar, beside the accent
+  const char* method;
+  const char* left;
 };
 
 constexpr Tones kLight{.window = "#f3f5f7",
@@ -59,9 +63,13 @@ constexpr Tones kLight{.window = "#f3f5f7",
                        .onTint = "#083f3c",
                        .given = "#e6eaee",
                        .computed = "#e8f1f1",
+                       .sand = "#f3efd8",
                        .red = "#b3201b",
                        .green = "#1f8f45",
-                       .lit = "#c47400"};
+                       .lit = "#c47400",
+                       .service = "#b86a00",
+                       .method = "#7b4fa0",
+                       .left = "#b9c4ce"};
 
 constexpr Tones kDark{.window = "#1d2227",
                       .base = "#15191d",
@@ -79,9 +87,13 @@ constexpr Tones kDark{.window = "#1d2227",
                       .onTint = "#d2f1ee",
                       .given = "#2e353c",
                       .computed = "#1c3030",
+                      .sand = "#2f2d1e",
                       .red = "#ff8f88",
                       .green = "#4fc27a",
-                      .lit = "#ffb84d"};
+                      .lit = "#ffb84d",
+                      .service = "#f0ad4e",
+                      .method = "#c39be0",
+                      .left = "#55616d"};
 
 const Tones& TonesOf(Scheme scheme) {
   return scheme == Scheme::Light ? kLight : kDark;
@@ -179,6 +191,9 @@ const char* ToneOf(Color role, const Tones& tones) {
       return tones.green;
     case colors::kLightGrey:
       return tones.given;
+    case colors::kSand:
+    case colors::kLightSand:  // a shade apart, told by nobody's eye
+      return tones.sand;
     case colors::kWindowBackground:
       return tones.base;
     case colors::kButtonFace:
@@ -215,6 +230,27 @@ void ApplyTheme(QApplication& app, Scheme scheme) {
   QApplication::setStyle(new ThemeStyle);  // the application owns it
   QApplication::setPalette(PaletteOf(tones));
   app.setStyleSheet(SheetOf(tones, QApplication::font()));
+}
+
+ListColors ListColorsOf(Scheme scheme) {
+  const Tones& tones = TonesOf(scheme);
+  const auto color = [](const char* tone) { return QColor(QLatin1String(tone)); };
+  return {color(tones.given), color(tones.accent), color(tones.tint), color(tones.accent)};
+}
+
+QColor UseColor(MoneyBar::Part::Use use, Scheme scheme) {
+  const Tones& tones = TonesOf(scheme);
+  switch (use) {
+    case MoneyBar::Part::Use::Given:
+      return {QLatin1String(tones.accent)};
+    case MoneyBar::Part::Use::ServiceFees:
+      return {QLatin1String(tones.service)};
+    case MoneyBar::Part::Use::MethodFee:
+      return {QLatin1String(tones.method)};
+    case MoneyBar::Part::Use::Left:
+      return {QLatin1String(tones.left)};
+  }
+  return {};
 }
 
 QColor RoleColor(Color role, Scheme scheme) {

@@ -17,6 +17,16 @@ enum class Scheme { Light, Dark };
 // Style, palette and style sheet of all windows. Font sizes follow the application's font.
 void ApplyTheme(QApplication& app, Scheme scheme);
 
+// The grounds and texts of the organizations' rows.
+struct ListColors {
+  QColor heading, headingText;
+  QColor given, edge;
+};
+[[nodiscard]] ListColors ListColorsOf(Scheme scheme);
+
+// The colour of a part of a money bar.
+[[nodiscard]] QColor UseColor(MoneyBar::Part::Use use, Scheme scheme);
+
 // What a colour of the structs looks like in the scheme.
 [[nodiscard]] QColor RoleColor(Color role, Scheme scheme);
 

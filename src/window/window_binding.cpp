@@ -9,6 +9,7 @@
 
 #include "window/drawings.h"
 #include "window/texts.h"
+#include "window/window_layout.h"
 
 namespace benevix {
 namespace {
@@ -62,9 +63,9 @@ WindowBinding::WindowBinding(Desk& desk, const Desk::Entry& entry, BindingContex
     bound_.push_back({&control, std::move(binding)});
   }
   auto* const mainWindow = qobject_cast<QMainWindow*>(widget_.get());
-  if (hasMenus && mainWindow != nullptr) {
-    menus_ = std::make_unique<MenuBinding>(entry, *mainWindow->menuBar(), context_);
-  }
+  if (mainWindow == nullptr) return;
+  if (hasMenus) menus_ = std::make_unique<MenuBinding>(entry, *mainWindow->menuBar(), context_);
+  if (context_.layout != nullptr) context_.layout->Restore(*mainWindow);
 }
 
 WindowBinding::~WindowBinding() {
@@ -155,6 +156,10 @@ bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
       event->ignore();
       context_.input.Close(*window_);
       return true;
+    }
+    if (event->type() == QEvent::Hide && context_.layout != nullptr) {
+      const auto* const mainWindow = qobject_cast<const QMainWindow*>(widget_.get());
+      if (mainWindow != nullptr) context_.layout->Save(*mainWindow);
     }
     if (event->type() == QEvent::Resize && !context_.applying) {
       context_.applying = true;

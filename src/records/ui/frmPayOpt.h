@@ -31,6 +31,8 @@ struct frmPayOpt : Window {
                    "info"),
       OptionButton("e-check",
                    "Transfer from your Bank account - Fees apply - Press Help for more info")};
+  // What each would charge, once something is given.
+  Label ChargeAmount[3], ChargeFees[3];
   Button Command1[2] = {Button("&Continue"), Button("&Help")};
 };
 
@@ -38,6 +40,8 @@ template <class F>
 void visit(frmPayOpt& window, F&& f) {
   f("Label1", window.Label1);
   f("Option1", window.Option1);
+  f("ChargeAmount", window.ChargeAmount);
+  f("ChargeFees", window.ChargeFees);
   f("Command1", window.Command1);
 }
 

@@ -38,6 +38,11 @@ struct frmBVX : Window {
   TextBox Text1[3] = {TextBox("The maximum amount to donate"), TextBox("how much is left"),
                       TextBox("The amount you give")};
   Label Label3{"$"};  // the unit of the Donation box
+  MoneyBar BudgetUse;
+  // What each payment method would charge.
+  Label ChargeName[3] = {Label("Pay by Credit Card"), Label("Pay by Funds Transfer"),
+                         Label("Pay by e-check")};
+  Label ChargeAmount[3], ChargeFees[3];
   Label Label9{"Estimated Bal", "Estimated Balance"};
   Label Label8;  // the small balance label
   Label Label6{"Type a Dollar amount in the Budget box and press <Enter>"};  // the guidance line
@@ -150,6 +155,10 @@ void visit(frmBVX& window, F&& f) {
   f("Label1", window.Label1);
   f("Text1", window.Text1);
   f("Label3", window.Label3);
+  f("BudgetUse", window.BudgetUse);
+  f("ChargeName", window.ChargeName);
+  f("ChargeAmount", window.ChargeAmount);
+  f("ChargeFees", window.ChargeFees);
   f("Label9", window.Label9);
   f("Label8", window.Label8);
   f("Frame2", window.Frame2);

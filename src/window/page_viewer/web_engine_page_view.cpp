@@ -35,7 +35,8 @@ void BringUpEngine() {
 
 }  // namespace
 
-WebEnginePageView::WebEnginePageView(const QUrl& address, QWidget* parent, PageViewEvents events)
+WebEnginePageView::WebEnginePageView(const QUrl& address, QWidget* parent,
+                                     const PageViewEvents& events)
     : textFile_(address), view_(new QWebEngineView(parent)) {
   profile_.installUrlSchemeHandler(TextFileScheme::kName, &textFile_);
   auto* page = new GuardedPage(&profile_, view_);

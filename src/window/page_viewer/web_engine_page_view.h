@@ -15,7 +15,7 @@ class WebEnginePageView : public QObject, public PageView {
   Q_OBJECT
 
  public:
-  WebEnginePageView(const QUrl& address, QWidget* parent, PageViewEvents events);
+  WebEnginePageView(const QUrl& address, QWidget* parent, const PageViewEvents& events);
   ~WebEnginePageView() override;
 
   [[nodiscard]] QWidget* Widget() override;
