@@ -37,10 +37,12 @@ std::string Translation::RequestAddress() const {
   const auto& boxes = windows_.preferences.Text1;
   const bool builtIn = LowerCase(boxes[kService].text) == LowerCase(deployment.translationName);
   const ListView& list = windows_.main.ListView1;
-  const std::string& prefix = builtIn ? deployment.translationBase : boxes[kService].text;
-  return prefix + "?sequence=core&language=" + boxes[kFromLanguage].text + "/" +
-         boxes[kMyLanguage].text + (builtIn ? "&url=" : boxes[kAddressKey].text) +
-         deployment.serverBase + "infoDB/" + list.SubItem(list.selected, column::kId) + ".dat";
+  // Another service is asked in its own words.
+  const std::string prefix =
+      builtIn ? deployment.translationBase + "?sequence=core&language=" : boxes[kService].text;
+  return prefix + boxes[kFromLanguage].text + "/" + boxes[kMyLanguage].text +
+         (builtIn ? "&url=" : boxes[kAddressKey].text) + deployment.serverBase + "infoDB/" +
+         list.SubItem(list.selected, column::kId) + ".dat";
 }
 
 std::string Translation::Fetch() const {
