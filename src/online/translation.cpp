@@ -61,9 +61,10 @@ void Translation::Translate() {
   frmInfo& viewer = windows_.viewer;
   if (viewer.Label3.tag != "Yes") return;
   windows_.preferences.mousePointer = MousePointer::Hourglass;
-  const std::string file = surroundings_.info.Resource("tmp.html");
-  surroundings_.files.Replace(file, JudgeTranslation(Fetch()) + "\r\n");
+  const std::string page = JudgeTranslation(Fetch());
   windows_.preferences.mousePointer = MousePointer::Default;
+  const std::string file = surroundings_.info.Resource("tmp.html");
+  surroundings_.files.Replace(file, page + "\r\n");
   viewer.ShowPage(FromUtf8(file));
   viewer.Label3.tag.clear();
   viewer.Label3.visible = false;
