@@ -65,7 +65,7 @@ void Translation::Translate() {
   windows_.preferences.mousePointer = MousePointer::Default;
   const std::string file = surroundings_.info.Resource("tmp.html");
   surroundings_.files.Replace(file, page + "\r\n");
-  viewer.ShowPage(FromUtf8(file));
+  viewer.ShowPage(FromUtf8(file), viewer.caption);
   viewer.Label3.tag.clear();
   viewer.Label3.visible = false;
   desk_.Unload(windows_.preferences);
