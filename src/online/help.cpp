@@ -5,14 +5,13 @@
 namespace benevix {
 namespace {
 
-const std::string kCaption = "Benevix Help";
+const std::string kTitle = "Benevix Help";
 
 }  // namespace
 
-void Help::ShowPage(const std::string& page, const std::string& caption) {
+void Help::ShowPage(const std::string& page, const std::string& title) {
   desk_.Load(viewer_);
-  if (!caption.empty()) viewer_.caption = caption;
-  viewer_.ShowPage(FromUtf8(info_.Resource(page)));
+  viewer_.ShowPage(FromUtf8(info_.Resource(page)), title);
   desk_.Show(viewer_);
 }
 
@@ -22,15 +21,15 @@ void Help::qhelp1_Click(int index) {
 }
 
 void Help::whatisBtn1_Click() {
-  ShowPage("help.html#Btni", kCaption);
+  ShowPage("help.html#Btni", kTitle);
 }
 
 void Help::mnuHelp_Click() {
-  ShowPage("help.html", kCaption);
+  ShowPage("help.html", kTitle);
 }
 
 void Help::mnuSubmitList_Click() {
-  ShowPage("help.html#Adding", kCaption);
+  ShowPage("help.html#Adding", kTitle);
 }
 
 void Help::mnuAbout_Click() {

@@ -16,9 +16,8 @@ class Help {
   Help(frmInfo& viewer, frmBVX& main, Desk& desk, Messages& messages, const ProgramInfo& info)
       : viewer_(viewer), main_(main), desk_(desk), messages_(messages), info_(info) {}
 
-  // A page of the Resources folder, with or without an anchor. An empty caption leaves the
-  // window's.
-  void ShowPage(const std::string& page, const std::string& caption = {});
+  // A page of the Resources folder, with or without an anchor.
+  void ShowPage(const std::string& page, const std::string& title = frmInfo::kTitle);
 
   // The quick-help page at the topic of a menu element.
   void qhelp1_Click(int index);

@@ -37,10 +37,12 @@ std::string Translation::RequestAddress() const {
   const auto& boxes = windows_.preferences.Text1;
   const bool builtIn = LowerCase(boxes[kService].text) == LowerCase(deployment.translationName);
   const ListView& list = windows_.main.ListView1;
-  const std::string& prefix = builtIn ? deployment.translationBase : boxes[kService].text;
-  return prefix + "?sequence=core&language=" + boxes[kFromLanguage].text + "/" +
-         boxes[kMyLanguage].text + (builtIn ? "&url=" : boxes[kAddressKey].text) +
-         deployment.serverBase + "infoDB/" + list.SubItem(list.selected, column::kId) + ".dat";
+  // Another service is asked in its own words.
+  const std::string prefix =
+      builtIn ? deployment.translationBase + "?sequence=core&language=" : boxes[kService].text;
+  return prefix + boxes[kFromLanguage].text + "/" + boxes[kMyLanguage].text +
+         (builtIn ? "&url=" : boxes[kAddressKey].text) + deployment.serverBase + "infoDB/" +
+         list.SubItem(list.selected, column::kId) + ".dat";
 }
 
 std::string Translation::Fetch() const {
@@ -59,10 +61,11 @@ void Translation::Translate() {
   frmInfo& viewer = windows_.viewer;
   if (viewer.Label3.tag != "Yes") return;
   windows_.preferences.mousePointer = MousePointer::Hourglass;
-  const std::string file = surroundings_.info.Resource("tmp.html");
-  surroundings_.files.Replace(file, JudgeTranslation(Fetch()) + "\r\n");
+  const std::string page = JudgeTranslation(Fetch());
   windows_.preferences.mousePointer = MousePointer::Default;
-  viewer.ShowPage(FromUtf8(file));
+  const std::string file = surroundings_.info.Resource("tmp.html");
+  surroundings_.files.Replace(file, page + "\r\n");
+  viewer.ShowPage(FromUtf8(file), viewer.caption);
   viewer.Label3.tag.clear();
   viewer.Label3.visible = false;
   desk_.Unload(windows_.preferences);

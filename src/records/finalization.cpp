@@ -119,11 +119,11 @@ void Finalization::OpenPaymentPage(const Prepared& prepared) {
   const Deployment& deployment = surroundings_.info.deployment;
   frmInfo& viewer = windows_.viewer;
   desk_.Load(viewer);
-  viewer.caption = " Secure Funds Transfer";
   desk_.Show(viewer);
-  viewer.ShowPage(PaymentRequest(deployment.paymentBase, deployment.serverBase,
-                                 Payee(rates_, prepared.option), prepared.session.transactionId,
-                                 prepared.session.amountText));
+  viewer.ShowPage(
+      PaymentRequest(deployment.paymentBase, deployment.serverBase, Payee(rates_, prepared.option),
+                     prepared.session.transactionId, prepared.session.amountText),
+      " Secure Funds Transfer");
 }
 
 void Finalization::ShowUnavailable() {

@@ -41,8 +41,7 @@ void History::WritePending() {
 void History::ShowHistory() {
   if (!surroundings_.files.Exists(File())) return;
   desk_.Load(viewer_);
-  viewer_.caption = "Donation History";
-  viewer_.ShowPage(File());
+  viewer_.ShowPage(File(), "Donation History");
   desk_.Show(viewer_);
 }
 

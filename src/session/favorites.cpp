@@ -11,7 +11,7 @@ namespace benevix {
 namespace {
 
 // Where a search for favorites behind a damaged count ends.
-constexpr int kMostGap = 100;
+constexpr std::size_t kMostGap = 100;
 
 const std::string kRemoveHint =
     "Choose from the Favorites menu the favorite to remove, or Cancel Remove.";
@@ -68,13 +68,18 @@ std::optional<std::vector<Favorites::Favorite>> Favorites::Read() {
 
 void Favorites::Repair() {
   std::vector<std::string> readable;
-  for (int i = 1, gap = 0; gap < kMostGap; ++i) {
+  std::size_t last = 0;
+  for (std::size_t i = 1; i <= last + kMostGap; ++i) {
     const std::string favorite = Stored(std::to_string(i));
-    gap = favorite.empty() ? gap + 1 : 0;
+    if (!favorite.empty()) last = i;
     if (IsReadable(favorite)) readable.push_back(favorite);
   }
   for (std::size_t i = 0; i < readable.size(); ++i) Save(std::to_string(i + 1), readable[i]);
   Save("", std::to_string(readable.size()));
+  // What is left behind them would come back with the next repair.
+  for (std::size_t i = readable.size() + 1; i <= last; ++i) {
+    settings_.DeleteValue(Root::CurrentUser, kFavoritesPath, std::to_string(i));
+  }
 }
 
 void Favorites::BuildMenu() {

@@ -41,6 +41,7 @@ void ListViewEvents::LeftClick(bool organization, bool byKeyboard) {
 
 void ListViewEvents::Select(int row, bool byKeyboard) {
   ListView& list = main_.ListView1;
+  if (!byKeyboard) desk_.SetFocus(list);
   list.EnsureVisible(row);
   list.selected = row;
   EventArgs args;

@@ -9,7 +9,7 @@ namespace benevix {
 // The information viewer: a text panel or a page.
 struct frmInfo : Window {
   frmInfo() {
-    caption = "Information";
+    caption = kTitle;
     topmost = true;
     width = 10800;
     height = 8400;
@@ -20,8 +20,9 @@ struct frmInfo : Window {
     VScroll1.holder = "Picture1";
   }
 
-  // Shows a page in place of the text panel.
-  void ShowPage(const std::string& address) {
+  // Shows a page in place of the text panel, never under the title of the page before.
+  void ShowPage(const std::string& address, const std::string& title = kTitle) {
+    caption = title;
     Picture1.visible = false;
     wb1.visible = true;
     wb1.Navigate2(address);
@@ -40,6 +41,7 @@ struct frmInfo : Window {
   // The scroll bar reaches over the whole text.
   void MeasureText() { VScroll1.max = Label1.height; }
 
+  static constexpr const char* kTitle = "Information";
   static constexpr int kPanelHeight = 7200;  // twips
 
   PictureBox Picture1;
