@@ -308,7 +308,11 @@ class ComboBinding : public Bound<ComboBox, QComboBox> {
 
 class FrameBinding : public Bound<Frame, QGroupBox> {
  public:
-  using Bound::Bound;
+  FrameBinding(Frame& frame, QGroupBox& widget, BindingContext& context)
+      : Bound(frame, widget, context) {
+    widget.ensurePolished();  // so that the title's room is measured by its look
+  }
+
   void Apply() override {
     ApplyBase(control_, widget_);
     const QString text = ToQString(control_.caption);
