@@ -172,12 +172,3 @@ TEST_F(MirrorTest, OptionsShowWhatTheStructsSayAlsoWhenNoneIsChosen) {
 
 }  // namespace
 }  // namespace benevix
-
-int main(int argc, char** argv) {
-  testing::InitGoogleTest(&argc, argv);
-  // Also where the build asks for the names of the tests.
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication app(argc, argv);
-  benevix::ApplyTheme(*qApp, benevix::Scheme::Light);
-  return RUN_ALL_TESTS();
-}
