@@ -1,8 +1,7 @@
-#include "benevix/users_folder.h"
-
 #include <gtest/gtest.h>
 
 #include "base/runtime_error.h"
+#include "benevix/users_folder.h"
 #include "platform/linux/linux_files.h"
 #include "platform/surroundings_of_a_test.h"
 
