@@ -5,6 +5,6 @@ install(TARGETS benevix_page_viewer LIBRARY DESTINATION plugins)
 install(FILES resources/deployment.ini DESTINATION .)
 install(DIRECTORY resources/ DESTINATION Resources
   FILES_MATCHING PATTERN "*.dat" PATTERN "*.res" PATTERN "*.html")
-install(FILES src/window/images/logo.svg DESTINATION . RENAME benevix.svg)
+install(FILES src/window/images/benevix.svg DESTINATION .)
 install(DIRECTORY site/ DESTINATION site)
 install(SCRIPT cmake/install_links.cmake)

@@ -6,18 +6,11 @@ file(CREATE_LINK sharedb.dat "${folder}/Resources/shareddb.dat" SYMBOLIC)
 
 # The entry stands in a folder named after the program, where its first run looks for it. It goes to
 # share/applications below the prefix, which a desktop reads when the prefix is one of the system's,
-# and to the applications folder of whoever installs, unless a package is being staged.
+# and to the applications folder of whoever installs, unless another root is being filled.
 string(REGEX REPLACE "([\"`$])" "\\\\\\\\\\1" benevix "${CMAKE_INSTALL_PREFIX}/benevix")
 string(REPLACE "%" "%%" benevix "${benevix}")
-set(entry "[Desktop Entry]
-Type=Application
-Name=Benevix
-GenericName=Donations
-Comment=Plan and pay charitable donations
-Exec=\"${benevix}\"
-Icon=${CMAKE_INSTALL_PREFIX}/benevix.svg
-Categories=Office;Finance;
-")
+set(exec "\"${benevix}\"")
+set(icon "${CMAKE_INSTALL_PREFIX}/benevix.svg")
 set(places "${folder}/share/applications")
 if("$ENV{DESTDIR}" STREQUAL "")
   if(IS_ABSOLUTE "$ENV{XDG_DATA_HOME}")
@@ -28,9 +21,6 @@ if("$ENV{DESTDIR}" STREQUAL "")
 endif()
 foreach(place IN LISTS places)
   message(STATUS "Installing: ${place}/benevix/benevix.desktop")
-  file(WRITE "${place}/benevix/benevix.desktop" "${entry}")
-  # A desktop starts an entry on its own surface only when it may be executed.
-  file(CHMOD "${place}/benevix/benevix.desktop"
-    PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ
-                WORLD_EXECUTE)
+  configure_file(${CMAKE_CURRENT_LIST_DIR}/../packaging/benevix.desktop.in
+                 "${place}/benevix/benevix.desktop" @ONLY)
 endforeach()

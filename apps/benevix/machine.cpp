@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include "benevix/users_folder.h"
 #include "platform/linux/program_folder.h"
 #include "platform/qt/deployment_file.h"
 #include "window/texts.h"
@@ -12,9 +13,12 @@ namespace benevix {
 namespace {
 
 ProgramInfo InfoOf(const QFileInfo& executable) {
+  const std::string path = executable.absoluteFilePath().toStdString();
+  const std::string installed = InstalledFolder(path);
   ProgramInfo info;
-  info.deployment = ReadDeployment((executable.absolutePath() + "/deployment.ini").toStdString());
-  info.folder = ProgramFolder(executable.absoluteFilePath().toStdString());
+  info.deployment = ReadDeployment(installed + "/deployment.ini");
+  info.folder = ProgramFolder(path);
+  if (info.folder != installed) FillUsersFolder(installed, info.folder);
   info.exeName = FromQString(executable.completeBaseName());
   info.major = BENEVIX_VERSION_MAJOR;
   info.minor = BENEVIX_VERSION_MINOR;

@@ -17,8 +17,9 @@ namespace benevix {
 // a QApplication.
 class Machine {
  public:
-  // The executable's path, UTF-8, decides the program folder and the executable's name;
-  // deployment.ini is read beside it. Raises RuntimeError when that cannot be done.
+  // The executable's path, UTF-8, decides its name, the installed folder, from which
+  // deployment.ini is read, and the program folder, which is filled where it is the user's. Raises
+  // RuntimeError when that cannot be done.
   Machine(const std::string& executable, Waits& waits, MessageBoxes& boxes);
 
   [[nodiscard]] Surroundings TheSurroundings();

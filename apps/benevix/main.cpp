@@ -1,6 +1,7 @@
 // The desktop program.
 
 #include <QApplication>
+#include <QIcon>
 #include <cstdio>
 
 #include "base/runtime_error.h"
@@ -50,6 +51,7 @@ int Run() {
 int main(int argc, char** argv) {
   const QApplication app(argc, argv);
   QApplication::setApplicationName("Benevix");
+  QApplication::setWindowIcon(QIcon(":/images/benevix.svg"));
   QApplication::setQuitOnLastWindowClosed(false);
   return Run();
 }

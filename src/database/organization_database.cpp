@@ -18,16 +18,21 @@ void OrganizationDatabase::LoadOrganizationList() {
   if (!list_->Damage().empty()) throw RuntimeError(file_ + ": " + list_->Damage());
 }
 
-void OrganizationDatabase::ReadListVersion() {
-  std::ifstream in(PathOf(file_), std::ios::binary);
-  if (!in) throw RuntimeError(file_ + ": cannot be read");
+std::optional<float> ListFileVersion(const std::string& file) {
+  std::ifstream in(PathOf(file), std::ios::binary);
+  if (!in) throw RuntimeError(file + ": cannot be read");
   for (std::string line; std::getline(in, line);) {
-    const auto version = HeaderVersion(line);
-    if (!version) continue;
-    run_.DBVersion = *version;
-    return;
+    if (const auto version = HeaderVersion(line)) return version;
   }
-  settings_.SaveUserString("BVXDB", SingleToText(run_.DBVersion));
+  return std::nullopt;
+}
+
+void OrganizationDatabase::ReadListVersion() {
+  if (const auto version = ListFileVersion(file_)) {
+    run_.DBVersion = *version;
+  } else {
+    settings_.SaveUserString("BVXDB", SingleToText(run_.DBVersion));
+  }
 }
 
 void OrganizationDatabase::BuildCountriesMenu() {

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -11,6 +12,10 @@
 #include "session/ui/frmBVX.h"
 
 namespace benevix {
+
+// The version in a list file's first header line; nothing without one. Raises RuntimeError when the
+// file cannot be read or the number is beyond a single.
+std::optional<float> ListFileVersion(const std::string& file);
 
 // The installed organization list, its version and the countries menu.
 class OrganizationDatabase {

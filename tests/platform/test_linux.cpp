@@ -68,30 +68,41 @@ TEST(LinuxShell, StartsPrograms) {
   EXPECT_THROW(shell.StartProgram(folder / "page.exe"), RuntimeError);
 }
 
-TEST(ProgramFolder, IsSeededOnceWhereTheInstalledOneIsReadOnly) {
+TEST(LinuxShell, CopiesAnEntryOfTheSystemThatStandsAlone) {
   namespace fs = std::filesystem;
   const TempFolder folder;
-  const std::string user = folder / "data/benevix", list = user + "/Resources/sharedb.dat";
-  fs::create_directories(folder / "opt/Resources");
-  fs::create_directory(folder / "data");
-  fs::permissions(folder / "data", fs::perms::all);
-  Put(folder / "opt/Resources/sharedb.dat", "list");
-  fs::create_symlink("sharedb.dat", folder / "opt/Resources/shareddb.dat");
-  EXPECT_EQ(ProgramFolder(folder / "opt/benevix"), folder / "opt");
-  fs::permissions(folder / "opt", fs::perms(0555));
+  fs::create_directories(folder / "share/applications");
+  fs::create_directory(folder / "Desktop");
+  Put(folder / "share/applications/benevix.desktop", "entry");
   setenv("XDG_DATA_HOME", (folder / "data").c_str(), 1);
-  for (const bool isFirstStart : {true, false}) {
-    int status = 1;
-    if (fork() == 0) {  // a user who may not write everywhere
-      const bool isUser = getuid() != 0 || setuid(65534) == 0;
-      _exit(isUser && ProgramFolder(folder / "opt/benevix") == user ? 0 : 1);
-    }
-    wait(&status);
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(Got(list), isFirstStart ? "list" : "");
-    EXPECT_EQ(fs::read_symlink(user + "/Resources/shareddb.dat"), "sharedb.dat");
-    fs::remove(list);  // by the program, for good
+  setenv("XDG_DATA_DIRS", (folder / "share").c_str(), 1);
+  LinuxShell shell;
+  shell.CopyIntoFolder(shell.SpecialFolder(kProgramsFolder) + "/benevix/benevix.desktop",
+                       folder / "Desktop");
+  EXPECT_EQ(Got(folder / "Desktop/benevix.desktop"), "entry");
+  EXPECT_EQ(access((folder / "Desktop/benevix.desktop").c_str(), X_OK), 0);
+}
+
+TEST(ProgramFolder, IsTheInstalledOneWhereResourcesStandAndCanBeWritten) {
+  namespace fs = std::filesystem;
+  const TempFolder folder;
+  const std::string user = folder / "data/benevix";
+  setenv("XDG_DATA_HOME", (folder / "data").c_str(), 1);
+  fs::create_directories(folder / "opt/Resources");
+  EXPECT_EQ(InstalledFolder(folder / "opt/benevix"), folder / "opt");
+  EXPECT_EQ(ProgramFolder(folder / "opt/benevix"), folder / "opt");
+  // A package, whoever starts it.
+  EXPECT_EQ(InstalledFolder(folder / "usr/bin/benevix"), folder / "usr/share/benevix");
+  EXPECT_EQ(ProgramFolder(folder / "usr/bin/benevix"), user);
+
+  fs::permissions(folder / "opt/Resources", fs::perms(0555));
+  int status = 1;
+  if (fork() == 0) {  // a user who may not write everywhere
+    const bool isUser = getuid() != 0 || setuid(65534) == 0;
+    _exit(isUser && ProgramFolder(folder / "opt/benevix") == user ? 0 : 1);
   }
+  wait(&status);
+  EXPECT_EQ(status, 0);
 }
 
 }  // namespace

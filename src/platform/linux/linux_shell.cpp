@@ -41,13 +41,16 @@ std::string UserFolder(std::string_view name) {
   return path.starts_with('/') ? path : "";
 }
 
-// A file of the user's data folder; where the user has none of that name, the system's.
+// A file of the user's data folder; where the user has none of that name, the system's, which also
+// stands without a folder of its own around it.
 fs::path DataFile(const fs::path& file) {
   std::error_code ignored;
   const fs::path name = file.lexically_relative(DataFolder());
   if (fs::exists(file, ignored) || name.empty() || *name.begin() == "..") return file;
   for (const fs::path folder : SystemDataFolders()) {
     if (fs::exists(folder / name, ignored)) return folder / name;
+    const fs::path single = folder / name.parent_path().parent_path() / name.filename();
+    if (fs::exists(single, ignored)) return single;
   }
   return file;
 }
@@ -64,7 +67,10 @@ std::string LinuxShell::SpecialFolder(int folderId) const {
 void LinuxShell::CopyIntoFolder(const std::string& file, const std::string& folder) {
   std::error_code ignored;
   const fs::path from = DataFile(file);
-  fs::copy_file(from, folder / from.filename(), fs::copy_options::overwrite_existing, ignored);
+  const fs::path to = folder / from.filename();
+  fs::copy_file(from, to, fs::copy_options::overwrite_existing, ignored);
+  // A desktop starts an entry on its own surface only when it may be executed.
+  fs::permissions(to, fs::perms::owner_exec, fs::perm_options::add, ignored);
 }
 
 void LinuxShell::StartProgram(const std::string& file) {

@@ -7,10 +7,14 @@ namespace benevix {
 // The running program's file, absolute. Raises RuntimeError when the system does not tell.
 std::string ExecutablePath();
 
-// The program folder for an executable, without a slash at the end: the executable's own folder
-// when it can be written, otherwise "benevix" in the user's data folder. There the first start
-// makes a copy of the installed Resources, all of it or nothing; later starts leave it alone.
-// Raises RuntimeError when the copy cannot be made.
+// The folder of the files that came with an executable: deployment.ini and the folder Resources.
+// When Resources stands beside the executable it is the executable's own folder; otherwise, as a
+// package lays them out, it is ../share/benevix. No slash at the end.
+std::string InstalledFolder(const std::string& executable);
+
+// The program folder for an executable, which the user can write: the executable's own folder when
+// Resources stands there and both can be written, otherwise "benevix" in the user's data folder. No
+// slash at the end; makes nothing.
 std::string ProgramFolder(const std::string& executable);
 
 }  // namespace benevix

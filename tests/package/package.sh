@@ -1,0 +1,89 @@
+#!/usr/bin/env bash
+# package.sh BUILD: makes the Debian package of a build, installs it into a clean root of the same
+# release and has a user without rights start the program there. The root stays in BUILD for the
+# next run, until the package depends on something else.
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+build=$1
+folder=$build/tests/package
+root=$folder/root
+log=$folder/log
+tools=(xvfb xdotool)
+export LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive
+unset TMPDIR
+
+skip() {
+  echo "skipped: $*"
+  exit 77
+}
+fail() {
+  cat "$log"
+  echo "failed: $*"
+  exit 1
+}
+# Neither mounts nor processes outlive the command.
+in_root() {
+  unshare --mount --pid --fork --kill-child --mount-proc="$root/proc" chroot "$root" "$@" \
+    >"$log" 2>&1 </dev/null
+}
+as_donor() {
+  unshare --net --mount --pid --fork --kill-child --mount-proc="$root/proc" chroot "$root" \
+    runuser -u donor -- env -i PATH=/usr/bin HOME=/home/donor LANG=C.UTF-8 DISPLAY=:1 \
+    QTWEBENGINE_DISABLE_SANDBOX=1 timeout 120 "$@" >"$log" 2>&1 </dev/null
+}
+install_package() {
+  in_root apt-get install -y --no-install-recommends "$@" /benevix.deb "${tools[@]}"
+}
+
+# A root for the packages named in `asked`, with everything fetched that is to be installed.
+make_root() {
+  rm -rf "$root" "$folder/asked"
+  debootstrap --variant=minbase "$VERSION_CODENAME" "$root" >"$log" 2>&1 ||
+    skip "no clean root: $(tail -n 1 "$log")"
+  chmod 1777 "$root/dev/shm"
+  in_root apt-get update -o APT::Update::Error-Mode=any ||
+    skip "no list of packages: $(tail -n 1 "$log")"
+  cp "$deb" "$root/benevix.deb"
+  install_package --simulate || fail "the package's dependencies cannot be met"
+  install_package --download-only || skip "packages cannot be fetched: $(tail -n 1 "$log")"
+  echo "$asked" >"$folder/asked"
+}
+
+[ "$(id -u)" = 0 ] || skip "a clean root takes root rights"
+. /etc/os-release
+[ "${ID:-}" = debian ] || skip "this is no Debian system"
+for tool in debootstrap dpkg-shlibdeps file rsvg-convert unshare; do
+  command -v "$tool" >/dev/null || skip "there is no $tool"
+done
+
+mkdir -p "$folder"
+cpack -G DEB --config "$build/CPackConfig.cmake" -B "$folder/made" >"$log" 2>&1 ||
+  fail "the package is not made"
+deb=$(ls -t "$folder"/made/*.deb | head -n 1)
+version=$(dpkg-deb -f "$deb" Version)
+[ "$(dpkg-parsechangelog -l "$here/../../packaging/changelog" -S Version)" = "$version" ] ||
+  fail "the changelog does not begin with version $version"
+
+asked="$VERSION_CODENAME: $(dpkg-deb -f "$deb" Depends), ${tools[*]}"
+[ "$(cat "$folder/asked" 2>/dev/null)" = "$asked" ] || make_root
+
+in_root dpkg --purge benevix || true
+in_root userdel --remove donor || true
+rm -rf "$root"/tmp/.X*
+mkdir -m 1777 "$root/tmp/.X11-unix"
+cp "$deb" "$root/benevix.deb"
+cp "$here/session.sh" "$root/session.sh"
+install_package || fail "the package is not installed"
+in_root useradd --create-home donor || fail "there is no user"
+as_donor sh /session.sh || fail "the session of a user ends with $?"
+
+# The user's own folder, and nothing written into the package's.
+user=$root/home/donor/.local/share/benevix/Resources
+for file in help.html qhelp.html sharedb.dat wlist.res; do
+  [ "$(readlink "$user/$file")" = "/usr/share/benevix/Resources/$file" ] ||
+    fail "the user's folder has no $file"
+done
+in_root dpkg --verify benevix || fail "files of the package have changed"
+[ ! -s "$log" ] || fail "files of the package have changed"
+[ -x "$root/home/donor/Desktop/benevix.desktop" ] || fail "there is no shortcut on the desktop"
+echo "$(basename "$deb") installed, started and seen"
