@@ -38,7 +38,10 @@ TEST(TextCodec, WritesAndReadsDigitPairs) {
     EXPECT_EQ(Coded(input, mode, direction), output) << input << " " << mode;
   }
   EXPECT_EQ(Coded("A", 1, kScramble, ""), "error");
-  EXPECT_NE(Coded(Coded("name", 1, kScramble).substr(1), 1, kUnscramble, "Other"), ">name");
+  EXPECT_EQ(Coded("A", 1, kScramble, "Donor"), ">05");
+  // Longer than the key of six and the one of sixteen.
+  EXPECT_EQ(Coded(std::string(14, 'A'), 3, kScramble), ">2A2A37202F242A2A37202F242A2A");
+  EXPECT_EQ(Coded(std::string(17, 'A'), 2, kScramble), ">09203337243235610D202F3524332F3209");
 }
 
 TEST(TextCodec, ReadsBackWhateverItWrote) {

@@ -20,12 +20,12 @@ QString ProgramPath(const QString& name) {
   return found.isEmpty() ? QStandardPaths::findExecutable(name, {"/usr/sbin", "/sbin"}) : found;
 }
 
-std::string Run(const QString& program, const QStringList& arguments, int* result = nullptr) {
+// What the program prints; empty when it fails.
+std::string Run(const QString& program, const QStringList& arguments) {
   QProcess process;
   process.start(ProgramPath(program), arguments);
   process.waitForFinished();
-  if (result != nullptr) *result = process.exitCode();
-  return process.readAllStandardOutput().toStdString();
+  return process.exitCode() == 0 ? process.readAllStandardOutput().toStdString() : "";
 }
 
 // Gives false when it does not come true; the time only bounds a service that hangs.
@@ -59,73 +59,59 @@ PrintService::~PrintService() {
   daemon_.waitForFinished();
 }
 
-void PrintService::WriteConfiguration() const {
-  namespace fs = std::filesystem;
-  for (const char* name : {"root", "spool", "cache", "state", "temp", "out"}) {
-    fs::create_directory(folder_ / name);
-  }
-  fs::permissions(folder_ / "temp", fs::perms(01777));  // the filters may run as another user
-  Put(folder_ / "cupsd.conf", "Listen " + (folder_ / "socket") +
-                                  "\nBrowsing Off\n"
-                                  "WebInterface No\n"
-                                  "DefaultAuthType None\n"
-                                  "<Location />\n"
-                                  "  Order allow,deny\n"
-                                  "  Allow all\n"
-                                  "</Location>\n"
-                                  "<Policy default>\n"
-                                  "  <Limit All>\n"
-                                  "    Order deny,allow\n"
-                                  "  </Limit>\n"
-                                  "</Policy>\n");
-  Put(folder_ / "cups-files.conf",
-      "FileDevice Yes\n"
-      "ServerRoot " +
-          (folder_ / "root") + "\nRequestRoot " + (folder_ / "spool") + "\nCacheDir " +
-          (folder_ / "cache") + "\nStateDir " + (folder_ / "state") + "\nTempDir " +
-          (folder_ / "temp") + "\nAccessLog " + (folder_ / "access_log") + "\nErrorLog " +
-          (folder_ / "error_log") + "\nPageLog " + (folder_ / "page_log") + "\n");
-}
-
 void PrintService::Start() {
-  WriteConfiguration();
-  qputenv("CUPS_SERVER", (folder_ / "socket").c_str());
+  const std::string root = folder_ / "";
+  for (const char* name : {"root", "spool", "cache", "state", "temp", "out"}) {
+    std::filesystem::create_directory(root + name);
+  }
+  // The filters may run as another user.
+  std::filesystem::permissions(root + "temp", std::filesystem::perms(01777));
+  Put(root + "cupsd.conf", "Listen " + root + R"(socket
+Browsing Off
+WebInterface No
+DefaultAuthType None
+<Location />
+  Order allow,deny
+  Allow all
+</Location>
+<Policy default>
+  <Limit All>
+    Order deny,allow
+  </Limit>
+</Policy>
+)");
+  Put(root + "cups-files.conf",
+      "FileDevice Yes\nServerRoot " + root + "root\nRequestRoot " + root + "spool\nCacheDir " +
+          root + "cache\nStateDir " + root + "state\nTempDir " + root + "temp\nAccessLog " + root +
+          "access_log\nErrorLog " + root + "error_log\nPageLog " + root + "page_log\n");
+  qputenv("CUPS_SERVER", (root + "socket").c_str());
   // A default printer of the user's own is none of the test's business.
-  qputenv("CUPS_SERVERROOT", (folder_ / "root").c_str());
-  qputenv("HOME", (folder_ / "root").c_str());
-  qunsetenv("LPDEST");
-  qunsetenv("PRINTER");
+  for (const char* name : {"CUPS_SERVERROOT", "HOME"}) qputenv(name, (root + "root").c_str());
+  for (const char* name : {"LPDEST", "PRINTER"}) qunsetenv(name);
   daemon_.setProcessChannelMode(QProcess::MergedChannels);
-  daemon_.start(ProgramPath("cupsd"), {"-f", "-c", QString::fromStdString(folder_ / "cupsd.conf"),
-                                       "-s", QString::fromStdString(folder_ / "cups-files.conf")});
+  daemon_.start(ProgramPath("cupsd"), {"-f", "-c", QString::fromStdString(root + "cupsd.conf"),
+                                       "-s", QString::fromStdString(root + "cups-files.conf")});
   const bool answers = WaitUntil([this] {
-    if (daemon_.waitForFinished(0) || daemon_.state() == QProcess::NotRunning) return true;
-    int result = 1;
-    return Run("lpstat", {"-r"}, &result).find("scheduler is running") == 0 && result == 0;
+    return daemon_.waitForFinished(0) || daemon_.state() == QProcess::NotRunning ||
+           Run("lpstat", {"-r"}).starts_with("scheduler is running");
   });
   if (!answers || daemon_.state() == QProcess::NotRunning) {
-    missing_ = "the print service does not start: " + daemon_.readAll().toStdString() + ErrorLog();
+    missing_ = "the print service does not start: " + daemon_.readAll().toStdString() +
+               Got(root + "error_log");
   }
 }
 
 void PrintService::SetPrinter(const std::string& paper) {
   RemovePrinters();
-  int result = 1;
   Run("lpadmin",
       {"-p", kQueue, "-E", "-v", QString::fromStdString("file:" + (folder_ / "out/job.pdf")), "-P",
-       kPdfPrinter, "-o", QString::fromStdString("PageSize=" + paper)},
-      &result);
-  EXPECT_EQ(result, 0);
-  Run("lpadmin", {"-d", kQueue}, &result);
-  EXPECT_EQ(result, 0);
+       kPdfPrinter, "-o", QString::fromStdString("PageSize=" + paper)});
+  Run("lpadmin", {"-d", kQueue});
+  EXPECT_NE(Run("lpstat", {"-d"}).find(kQueue.toStdString()), std::string::npos);
 }
 
 void PrintService::RemovePrinters() {
   Run("lpadmin", {"-x", kQueue});
-}
-
-std::string PrintService::Queue() const {
-  return Run("lpstat", {"-l", "-W", "all", "-o", kQueue});
 }
 
 std::string PrintService::Printed(int jobs) {
@@ -133,7 +119,7 @@ std::string PrintService::Printed(int jobs) {
     const std::string lines = Run("lpstat", {"-W", which, "-o", kQueue});
     return std::count(lines.begin(), lines.end(), '\n');
   };
-  EXPECT_TRUE(WaitUntil([&] { return count("completed") >= jobs; })) << Queue() << ErrorLog();
+  EXPECT_TRUE(WaitUntil([&] { return count("completed") >= jobs; })) << Got(folder_ / "error_log");
   EXPECT_EQ(count("completed"), jobs);
   EXPECT_EQ(count("not-completed"), 0);
   return folder_ / "out/job.pdf";

@@ -7,8 +7,8 @@
 
 namespace benevix {
 
-// A print service of the test's own, CUPS in a temp folder, for this process and its children. Its
-// printers write each job as a PDF into a file.
+// A print service of the test's own, CUPS in a temp folder, for this process
+// and its children. Its printers write each job as a PDF into a file.
 class PrintService {
  public:
   // The one of this process, running from its first use on.
@@ -17,22 +17,19 @@ class PrintService {
   // Why there is no print service, or empty.
   [[nodiscard]] const std::string& Missing() const { return missing_; }
 
-  // A default printer with no jobs yet, instead of the one before. Takes a paper that the printer
-  // knows: "A4", "Letter", "A6".
+  // A default printer with no jobs yet, instead of the one before. Takes a
+  // paper that the printer knows: "A4", "Letter", "A6".
   void SetPrinter(const std::string& paper);
-  void RemovePrinters();
+  static void RemovePrinters();
 
-  // The PDF file of the last of `jobs` documents sent to the printer, when all are printed.
+  // The PDF file of the last of `jobs` documents sent to the printer, when all
+  // are printed.
   [[nodiscard]] std::string Printed(int jobs = 1);
-  // As the queue tells them, one a line.
-  [[nodiscard]] std::string Queue() const;
-  [[nodiscard]] std::string ErrorLog() const { return Got(folder_ / "error_log"); }
 
  private:
   PrintService();
   ~PrintService();
 
-  void WriteConfiguration() const;
   void Start();
 
   TempFolder folder_;

@@ -46,22 +46,19 @@ void PrintedPages::ReadWords(const std::string& file) {
       pageWidth_ = number("width");
       pageHeight_ = number("height");
     } else if (xml.name() == QLatin1String("word")) {
-      PrintedWord word{pages - 1,      number("xMin"), number("yMin"),
-                       number("xMax"), number("yMax"), ""};
-      word.text = FromUtf8(xml.readElementText().toStdString());
-      words_.push_back(word);
+      words_.push_back({pages - 1, number("xMin"), number("yMin"), number("xMax"), number("yMax"),
+                        FromUtf8(xml.readElementText().toStdString())});
     }
   }
-  std::ranges::sort(words_, {}, [](const PrintedWord& word) {
-    return std::tuple(word.page, word.top, word.left);
-  });
+  std::ranges::sort(words_, {},
+                    [](const Word& word) { return std::tuple(word.page, word.top, word.left); });
   EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
   rows_.resize(pages);
 }
 
 void PrintedPages::Measure() {
-  const auto width = [](const PrintedWord& word) { return word.right - word.left; };
-  const PrintedWord& widest = *std::ranges::max_element(words_, {}, width);
+  const auto width = [](const Word& word) { return word.right - word.left; };
+  const Word& widest = *std::ranges::max_element(words_, {}, width);
   columnWidth_ = width(widest) / static_cast<double>(widest.text.size());
   // A printer rounds its margins; the words say where the first column really stands.
   const double margin = pageWidth_ / 16;
@@ -69,14 +66,9 @@ void PrintedPages::Measure() {
   left_ = words_.front().left - std::round(fromMargin / columnWidth_) * columnWidth_;
   EXPECT_NEAR(left_, margin, 1);
   columns_ = static_cast<int>((pageWidth_ - 2 * left_ + kTolerance) / columnWidth_);
-  MeasureRows();
-}
-
-void PrintedPages::MeasureRows() {
   // Words are about as high as their row; the distances say how high exactly.
   double distance = 0;
   double rows = 0;
-  top_ = words_.front().top;
   for (std::size_t i = 1; i < words_.size(); ++i) {
     if (words_[i].page != words_[i - 1].page) continue;
     const double step = words_[i].top - words_[i - 1].top;
@@ -87,10 +79,15 @@ void PrintedPages::MeasureRows() {
 }
 
 void PrintedPages::BuildRows() {
-  for (const PrintedWord& word : words_) {
-    const auto row = static_cast<std::size_t>(std::lround((word.top - top_) / rowHeight_));
+  const double top = words_.front().top;
+  for (const Word& word : words_) {
+    EXPECT_GE(word.left, left_ - kTolerance) << word.text;
+    EXPECT_LE(word.right, pageWidth_ - left_ + kTolerance) << word.text;
+    EXPECT_LE(word.bottom, pageHeight_ - left_ + kTolerance) << word.text;
+    const auto row = static_cast<std::size_t>(std::lround((word.top - top) / rowHeight_));
     const auto column =
         static_cast<std::size_t>(std::lround(std::max(word.left - left_, 0.0) / columnWidth_));
+    EXPECT_NEAR(word.left - left_, static_cast<double>(column) * columnWidth_, kTolerance);
     std::vector<std::string>& rows = rows_[word.page];
     if (rows.size() <= row) rows.resize(row + 1);
     EXPECT_LE(rows[row].size(), column) << word.text << " stands on other words";
@@ -100,16 +97,6 @@ void PrintedPages::BuildRows() {
   std::size_t most = 0;
   for (const auto& rows : rows_) most = std::max(most, rows.size());
   for (std::size_t page = 0; page + 1 < rows_.size(); ++page) rows_[page].resize(most);
-}
-
-void PrintedPages::ExpectNothingCut() const {
-  for (const PrintedWord& word : words_) {
-    EXPECT_GE(word.left, left_ - kTolerance) << word.text;
-    EXPECT_LE(word.right, pageWidth_ - left_ + kTolerance) << word.text;
-    EXPECT_LE(word.bottom, pageHeight_ - left_ + kTolerance) << word.text;
-    const double column = (word.left - left_) / columnWidth_;
-    EXPECT_NEAR(column * columnWidth_, std::round(column) * columnWidth_, kTolerance) << word.text;
-  }
 }
 
 std::string PrintedPages::NextRow() {

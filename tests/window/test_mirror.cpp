@@ -149,25 +149,12 @@ TEST_F(MirrorTest, MainWindowWaitsForAWindowThatKeepsTheAttention) {
   ClickOn(Widget<QPushButton>(main.Command1));
   window.close();
   EXPECT_EQ(clicks, 0);
-  EXPECT_FALSE(window.isEnabled());
   EXPECT_TRUE(window.isVisible());
   mirror.BindingOf(payment)->Widget().close();
   QTest::qWait(0);
-  EXPECT_FALSE(desk.IsShown(payment));
   EXPECT_TRUE(window.isEnabled());
   ClickOn(Widget<QPushButton>(main.Command1));
   EXPECT_EQ(clicks, 1);
-}
-
-TEST_F(MirrorTest, OptionsShowWhatTheStructsSayAlsoWhenNoneIsChosen) {
-  input.Enter([this] { desk.Show(payment); });
-  auto* const card =
-      qobject_cast<QAbstractButton*>(mirror.BindingOf(payment)->WidgetOf(payment.Option1[0]));
-  EXPECT_FALSE(card->isChecked());
-  input.Enter([this] { Choose(payment.Option1, 0); });
-  EXPECT_TRUE(card->isChecked());
-  input.Enter([this] { payment.Option1[0].value = false; });
-  EXPECT_FALSE(card->isChecked());
 }
 
 }  // namespace

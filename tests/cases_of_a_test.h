@@ -1,0 +1,22 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace benevix {
+
+// Cases told as "what is given => what is to come".
+inline std::vector<std::pair<std::string, std::string>> Cases(
+    std::initializer_list<std::string> told) {
+  const std::string arrow = " => ";
+  std::vector<std::pair<std::string, std::string>> cases;
+  for (const std::string& text : told) {
+    const auto at = text.find(arrow);
+    cases.emplace_back(text.substr(0, at), text.substr(at + arrow.size()));
+  }
+  return cases;
+}
+
+}  // namespace benevix

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "database/organization_list.h"
+
+namespace benevix {
+
+// Row 1 is a country, row N is the organization "Org N" with the ID N.
+class RowsOfATest : public RowSource {
+ public:
+  [[nodiscard]] int Count() const override { return 9; }
+  [[nodiscard]] std::string Text(int row, int column) const override {
+    if (row == 1) return column == column::kCountry ? "Kenya" : "";
+    if (column == column::kOrganization) return "Org " + std::to_string(row);
+    return column == column::kId ? std::to_string(row) : "";
+  }
+};
+
+inline ListView ListOfATest() {
+  ListView list;
+  list.SetRows(std::make_shared<RowsOfATest>());
+  return list;
+}
+
+}  // namespace benevix

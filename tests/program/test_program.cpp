@@ -1,0 +1,94 @@
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "../program_of_a_test.h"
+
+namespace benevix {
+namespace {
+
+// A run of the program whose please-wait window is looked at.
+class ProgramTest : public testing::Test, public ProgramOfATest {
+ protected:
+  ProgramTest() {
+    waits.watch = [this] {
+      const ProgressBar& bar = windows.wait.ProgressBar1;
+      if (program.TheDesk().IsShown(windows.wait) && bar.max == 100) values.push_back(bar.value);
+    };
+  }
+  // A server that has a newer list, and the link under which an installation finds it.
+  void OfferList(const std::string& version, const std::string& list) {
+    world.site.Put("53rv3r/dbcurrver.dat", {.text = version});
+    world.site.Put("downloads/db" + version, {.text = list});
+  }
+  void Link() {
+    std::filesystem::create_symlink("sharedb.dat", world.info.Resource("shareddb.dat"));
+  }
+  void ExpectBarMovedToItsEnd() {
+    ASSERT_GT(values.size(), 2U);
+    EXPECT_TRUE(std::is_sorted(values.begin(), values.end()));
+    EXPECT_LT(values.front(), 100);
+    EXPECT_EQ(values.back(), 100);
+    EXPECT_FALSE(program.TheDesk().IsLoaded(windows.wait));
+    values.clear();
+  }
+
+  Windows& windows = program.TheWindows();
+  std::vector<int> values;
+};
+
+TEST_F(ProgramTest, WithTheLinkANewListIsLoadedAndFoundAgain) {
+  const std::string link = world.info.Resource("shareddb.dat");
+  Link();
+  OfferList("2.0013", ";QUORL2.0013\r\n[Peru]\r\n00000002 Newer, B\r\n");
+  Enter();
+  EXPECT_EQ(windows.main.ListView1.Text(1), "Peru");
+  EXPECT_FLOAT_EQ(program.Run().DBVersion, 2.0013F);
+  EXPECT_TRUE(std::filesystem::is_symlink(link));
+  EXPECT_FALSE(std::filesystem::is_symlink(world.info.Resource("sharedb.dat")));
+  EXPECT_FALSE(world.files.Exists(world.info.Resource("$shrdb.dat")));
+  world.site.Down();
+  program.NewSession();
+  EXPECT_EQ(windows.main.ListView1.Text(1), "Peru");
+  EXPECT_TRUE(boxes.shown.empty());
+}
+
+TEST_F(ProgramTest, TheBarMovesWithTheBytesOfAList) {
+  OfferList("2", ";QUORL2\r\n[Peru]\r\n00000002 " + std::string(30'000'000, 'N') + ", B\r\n");
+  Link();
+  Enter();
+  ExpectBarMovedToItsEnd();
+  world.site.Put("53rv3r/dbcurrver.dat", {.text = "2.5"});
+  program.TheInput().ChooseMenu(windows.main.mnuUpdateList);
+  ExpectBarMovedToItsEnd();
+}
+
+TEST_F(ProgramTest, TheBarMovesWithTheBytesOfAnInformationPage) {
+  world.site.Put("infoDB/42.dat", {.text = std::string(30'000'000, 'W')});
+  Enter();
+  program.TheInput().SelectRow(windows.main.ListView1, 2, MouseButton::Left);
+  program.TheInput().ChooseMenu(windows.main.mnuMoreInfo);
+  ExpectBarMovedToItsEnd();
+  EXPECT_EQ(windows.info.Label1.caption.size(), 30'000'000U);
+}
+
+TEST_F(ProgramTest, AnUpdaterThatIsNoneIsNeitherKeptNorStarted) {
+  using Reply = LoopbackServer::Reply;
+  world.site.Put("53rv3r/news.txt", {.text = "2,Update now?=1.0.1"});
+  Enter();
+  boxes.answer = BoxAnswer::Yes;
+  for (const SiteAnswer& answer :
+       {SiteAnswer{Reply::Answer, 404, "#!/bin/sh\n"}, SiteAnswer{Reply::Answer, 500, "x"},
+        SiteAnswer{Reply::Answer, 200, ""}, SiteAnswer{Reply::Close, 200, "x"}}) {
+    boxes.shown.clear();
+    world.site.Put("downloads/updater.exe", answer);
+    program.TheInput().Click(windows.main.Label12);
+    ASSERT_EQ(boxes.shown.size(), 2U);
+    EXPECT_TRUE(boxes.shown[1].text.starts_with("Benevix - Failed to Connect|The server may be"));
+    EXPECT_FALSE(world.files.Exists(world.info.folder + "/updater.exe"));
+  }
+  EXPECT_TRUE(world.shell.started.All().empty());
+  EXPECT_FALSE(program.TheDesk().Ended());
+}
+
+}  // namespace
+}  // namespace benevix
