@@ -26,6 +26,7 @@ TEST_F(InputTest, WhatIsClosedTakesNothing) {
   EXPECT_FALSE(input.Choose(main.option[0]));
   EXPECT_FALSE(input.Toggle(main.check));
   EXPECT_FALSE(input.ChooseMenu(main.item));
+  EXPECT_FALSE(input.ChooseMenu(main.items, 3));  // there is none
   EXPECT_FALSE(input.Type(main.box[1], "1"));
   EXPECT_FALSE(input.Key(main.box[1], keys::kEnter));
   EXPECT_FALSE(input.SelectRow(main.list, 1, MouseButton::Left));  // there is none

@@ -17,6 +17,7 @@ struct MainOfATest : Window {
   Button button;
   Label label;
   MenuItem menu, item{"item", "menu"};
+  MenuArray items{"menu"};
 };
 
 template <class F>
@@ -30,6 +31,7 @@ void visit(MainOfATest& window, F&& f) {
   f("label", window.label);
   f("menu", window.menu);
   f("item", window.item);
+  f("items", window.items);
 }
 
 struct SideOfATest : Window {

@@ -7,8 +7,7 @@
 namespace benevix {
 namespace {
 
-constexpr auto kScramble = codec_direction::kScramble;
-constexpr auto kUnscramble = codec_direction::kUnscramble;
+using namespace codec_direction;
 
 std::string Coded(const std::string& input, std::int16_t mode, std::int16_t direction,
                   const std::string& exeName = "Benevix") {

@@ -15,12 +15,10 @@ class ProgramTest : public testing::Test, public ProgramOfATest {
       if (program.TheDesk().IsShown(windows.wait) && bar.max == 100) values.push_back(bar.value);
     };
   }
-  // A server that has a newer list, and the link under which an installation finds it.
+  // A server with a newer list, and the link under which an installation finds it.
   void OfferList(const std::string& version, const std::string& list) {
     world.site.Put("53rv3r/dbcurrver.dat", {.text = version});
     world.site.Put("downloads/db" + version, {.text = list});
-  }
-  void Link() {
     std::filesystem::create_symlink("sharedb.dat", world.info.Resource("shareddb.dat"));
   }
   void ExpectBarMovedToItsEnd() {
@@ -38,7 +36,6 @@ class ProgramTest : public testing::Test, public ProgramOfATest {
 
 TEST_F(ProgramTest, WithTheLinkANewListIsLoadedAndFoundAgain) {
   const std::string link = world.info.Resource("shareddb.dat");
-  Link();
   OfferList("2.0013", ";QUORL2.0013\r\n[Peru]\r\n00000002 Newer, B\r\n");
   Enter();
   EXPECT_EQ(windows.main.ListView1.Text(1), "Peru");
@@ -52,19 +49,14 @@ TEST_F(ProgramTest, WithTheLinkANewListIsLoadedAndFoundAgain) {
   EXPECT_TRUE(boxes.shown.empty());
 }
 
-TEST_F(ProgramTest, TheBarMovesWithTheBytesOfAList) {
+TEST_F(ProgramTest, TheBarMovesWithTheBytesOfAListAndOfAnInformationPage) {
   OfferList("2", ";QUORL2\r\n[Peru]\r\n00000002 " + std::string(30'000'000, 'N') + ", B\r\n");
-  Link();
   Enter();
   ExpectBarMovedToItsEnd();
   world.site.Put("53rv3r/dbcurrver.dat", {.text = "2.5"});
   program.TheInput().ChooseMenu(windows.main.mnuUpdateList);
   ExpectBarMovedToItsEnd();
-}
-
-TEST_F(ProgramTest, TheBarMovesWithTheBytesOfAnInformationPage) {
-  world.site.Put("infoDB/42.dat", {.text = std::string(30'000'000, 'W')});
-  Enter();
+  world.site.Put("infoDB/2.dat", {.text = std::string(30'000'000, 'W')});
   program.TheInput().SelectRow(windows.main.ListView1, 2, MouseButton::Left);
   program.TheInput().ChooseMenu(windows.main.mnuMoreInfo);
   ExpectBarMovedToItsEnd();

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "../list_of_a_test.h"
 #include "../platform/surroundings_of_a_test.h"
 #include "../program_of_a_test.h"
 #include "records/history.h"
-#include "records_of_a_test.h"
 
 namespace benevix {
 namespace {

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "../list_of_a_test.h"
 #include "base/runtime_error.h"
 #include "records/session_record.h"
-#include "records_of_a_test.h"
 
 namespace benevix {
 namespace {
