@@ -25,7 +25,7 @@ TEST(Currency, TakesTheExactDoubleHalvesToEven) {
     EXPECT_EQ(Currency::FromDouble(std::strtod(value.c_str(), nullptr)).ToText(), text);
   }
   for (const double value :
-       {922337203685477.625, -922337203685477.625, 1e300, std::nan(""), -HUGE_VAL}) {
+       {922337203685477.625, -922337203685477.625, 1e18, 1e300, std::nan(""), -HUGE_VAL}) {
     EXPECT_THROW(Currency::FromDouble(value), RuntimeError) << value;
   }
 }

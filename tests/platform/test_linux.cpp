@@ -6,6 +6,7 @@
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_shell.h"
 #include "platform/linux/program_folder.h"
+#include "platform/linux/random_generator.h"
 #include "surroundings_of_a_test.h"
 
 namespace benevix {
@@ -66,6 +67,15 @@ TEST(LinuxShell, StartsPrograms) {
   EXPECT_EQ(Got(folder / "updater.exe.ran"), "started\n");
   Put(folder / "page.exe", "<html>not found</html>");
   EXPECT_THROW(shell.StartProgram(folder / "page.exe"), RuntimeError);
+}
+
+TEST(RandomGenerator, RunsDifferAtTheSameTimeOfDay) {
+  RandomGenerator one, other;
+  one.Seed(45296.25F);
+  other.Seed(45296.25F);
+  const double first = one.Next();
+  EXPECT_NE(first, other.Next());
+  EXPECT_TRUE(first >= 0 && first < 1) << first;
 }
 
 TEST(LinuxShell, CopiesAnEntryOfTheSystemThatStandsAlone) {

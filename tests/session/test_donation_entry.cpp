@@ -47,6 +47,11 @@ std::string Maximum(const SessionOfATest& session) {
 }
 
 TEST(DonationEntry, NamesTheMaximumToTheCent) {
+  SessionOfATest added(payment::kCreditCard, false);
+  added.TypeBudget("100");
+  for (const char* text : {"50", "200"}) added.Give(2, text);
+  EXPECT_EQ(Maximum(added), "100");
+
   SessionOfATest funds(payment::kFundsTransfer);
   funds.TypeBudget("100");
   Choose(funds.main.Option2, 1);
