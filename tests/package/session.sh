@@ -20,7 +20,8 @@ page_engine_runs() {
 }
 
 mkdir "$HOME/Desktop"
-Xvfb "$DISPLAY" -screen 0 1280x1024x24 -nolisten tcp &
+# Without -noreset it begins anew, deaf meanwhile, when its first client has asked and left.
+Xvfb "$DISPLAY" -screen 0 1280x1024x24 -nolisten tcp -noreset &
 await xdotool getdisplaygeometry
 benevix &
 
