@@ -4,13 +4,13 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
-#include <QImage>
 #include <QUrlQuery>
 #include <QWidget>
 #include <cstdio>
 
 #include "base/runtime_error.h"
 #include "benevix-play/keys.h"
+#include "benevix-play/page_picture.h"
 #include "benevix-play/targets.h"
 #include "database/organization_list.h"
 #include "window/texts.h"
@@ -33,22 +33,11 @@ void LetEventsRun(int milliseconds) {
   }
 }
 
-QWidget* ShownPage() {
+QWidget* ShownViewer() {
   for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->objectName() != QLatin1String("frmInfo") || window->isHidden()) continue;
-    return window->findChild<QWidget*>(QStringLiteral("wb1"));
+    if (window->objectName() == QLatin1String("frmInfo") && window->isVisible()) return window;
   }
   return nullptr;
-}
-
-bool IsBlank(const QImage& picture) {
-  constexpr int step = 3;  // pixels
-  for (int y = 0; y < picture.height(); y += step) {
-    for (int x = 0; x < picture.width(); x += step) {
-      if (picture.pixel(x, y) != picture.pixel(0, 0)) return false;
-    }
-  }
-  return true;
 }
 
 std::string CellPath(int row, int column) {
@@ -215,18 +204,9 @@ void Demonstration::WaitFor(const std::function<bool()>& done, const QString& wh
 }
 
 void Demonstration::WaitForPage(const QString& what) {
-  QImage before;
-  WaitFor(
-      [&before] {
-        QWidget* const page = ShownPage();
-        if (page == nullptr) return false;
-        const QImage now = page->grab().toImage();
-        const bool stands = now == before && !IsBlank(now);
-        before = now;
-        return stands;
-      },
-      what);
-  Must(ShownPage()->findChild<QWidget*>(QStringLiteral("pageNotice")) == nullptr, what);
+  QWidget* const viewer = ShownViewer();
+  Must(viewer != nullptr && AwaitPage(*viewer), what);
+  Must(viewer->findChild<QWidget*>(QStringLiteral("pageNotice")) == nullptr, what);
 }
 
 void Demonstration::TakePicture(const std::string& name) {

@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include "keys.h"
+#include "page_picture.h"
 #include "widget_properties.h"
 #include "window/texts.h"
 
@@ -240,7 +241,7 @@ bool WindowFace::Shot(const std::string& name) {
   Settle();
   const auto& shown = program_->TheDesk().Shown();
   WindowBinding* const binding = shown.empty() ? nullptr : mirror_.BindingOf(*shown.back());
-  if (binding == nullptr) return false;
+  if (binding == nullptr || !AwaitPage(binding->Widget())) return false;
   const QDir folder(QString::fromStdString(shots_));
   return folder.mkpath(QStringLiteral(".")) &&
          binding->Widget().grab().save(folder.filePath(ToQString(name) + ".png"));
