@@ -102,7 +102,7 @@ class ListBinding : public QObject, public Binding {
       view_.setColumnHidden(served, true);
     }
     const int unit = view_.fontMetrics().averageCharWidth();
-    const int widths[] = {12, 46, 18, 14, 14, 22};  // characters
+    const int widths[] = {12, 46, 16, 14, 16, 20};  // characters
     for (int i = 0; i < 6; ++i) header.resizeSection(i, widths[i] * unit);
     for (int i = 6; i < ListView::kColumns; ++i) header.resizeSection(i, 14 * unit);
     header.setSectionResizeMode(column::kOrganization, QHeaderView::Stretch);
