@@ -22,6 +22,7 @@ constexpr std::string_view mailScript = "/cgi-bin/mail?";
 constexpr std::string_view paymentPrefix = "/xclick/";
 constexpr std::string_view paymentStart = "/xclick/business=";
 constexpr std::string_view translationStart = "/parley?";
+constexpr const char* homePage = "index.html";
 constexpr const char* newsFile = "53rv3r/news.txt";
 constexpr std::string_view addressMark = "{site}";
 
@@ -84,7 +85,8 @@ SiteAnswer Site::Answer(std::string_view target) {
     return AnswerTranslation(target.substr(translationStart.size()));
   }
   const std::string_view path = target.substr(0, target.find_first_of("?#"));
-  const std::string relative = PercentDecode(path.substr(std::min<size_t>(1, path.size())));
+  std::string relative = PercentDecode(path.substr(std::min<size_t>(1, path.size())));
+  if (path == "/") relative = homePage;
   if (relative == newsFile) return AnswerNews();
   const auto file = FindFile(relative);
   return file ? AnswerFile(*file) : ErrorAnswer(404);

@@ -34,6 +34,8 @@ TEST_F(SmallSite, FilesKnowTheirAddressAndProgramsStayAsTheyAre) {
   EXPECT_EQ(text.contentType, "text/plain; charset=windows-1252");
   EXPECT_EQ(text.body, kAddress + "x " + kAddress);
   EXPECT_EQ(site_.Answer("/sub/program.exe").body, "{site}\xFF");
+  Put(folder_ / "site/index.html", "home");
+  EXPECT_EQ(site_.Answer("/").body, "home");
 }
 
 TEST_F(SmallSite, NothingOutsideTheFolderIsServed) {
