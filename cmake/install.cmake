@@ -1,5 +1,5 @@
 # What stands after "cmake --install" runs where it stands: the programs, their plug-in, the data
-# files, the deployment values and the demonstration site.
+# files, the deployment values, the demonstration site and the manual.
 install(TARGETS benevix benevix-site benevix-demo RUNTIME DESTINATION .)
 install(TARGETS benevix_page_viewer LIBRARY DESTINATION plugins)
 install(FILES resources/deployment.ini DESTINATION .)
@@ -7,4 +7,5 @@ install(DIRECTORY resources/ DESTINATION Resources
   FILES_MATCHING PATTERN "*.dat" PATTERN "*.res" PATTERN "*.html")
 install(FILES src/window/images/benevix.svg DESTINATION .)
 install(DIRECTORY site/ DESTINATION site)
+install(DIRECTORY packaging/ DESTINATION share/man/man1 FILES_MATCHING PATTERN "*.1")
 install(SCRIPT cmake/install_links.cmake)

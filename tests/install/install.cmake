@@ -34,7 +34,8 @@ if(NOT text MATCHES "\nExec=\"/usr/benevix\"\n")
 endif()
 
 run(--unset=DESTDIR ${CMAKE_COMMAND} --install ${BUILD} --prefix ${prefix})
-expect(TRUE ${home}/.local/share/${entry} ${prefix}/share/${entry} ${prefix}/benevix.svg)
+expect(TRUE ${home}/.local/share/${entry} ${prefix}/share/${entry} ${prefix}/benevix.svg
+       ${prefix}/share/man/man1/benevix-site.1)
 file(READ_SYMLINK ${prefix}/Resources/shareddb.dat target)
 if(NOT target STREQUAL "sharedb.dat")
   message(SEND_ERROR "the link leads to ${target}")
