@@ -3,29 +3,6 @@
 namespace benevix {
 namespace {
 
-constexpr std::string_view pageStyle = R"(
-:root { color-scheme: light dark; --ink: #22302c; --soft: #5b6b66; --paper: #f6f4ee; --card: #fff;
-  --line: #d9d5c8; --accent: #1f6f5c; --on-accent: #fff; }
-@media (prefers-color-scheme: dark) { :root { --ink: #e6ebe8; --soft: #a3b1ac; --paper: #161b1a;
-  --card: #1f2624; --line: #37413e; --accent: #6cc7ae; --on-accent: #0f1716; } }
-body { margin: 0; padding: 2rem 1rem; background: var(--paper); color: var(--ink);
-  font: 1rem/1.6 "Segoe UI", "Noto Sans", "DejaVu Sans", sans-serif; }
-main { max-width: 38rem; margin: 0 auto; padding: 1.5rem 2rem 2rem; background: var(--card);
-  border: 1px solid var(--line); border-radius: .75rem; }
-h1 { margin: 0 0 .75rem; font-size: 1.5rem; line-height: 1.25; }
-dl { display: grid; grid-template-columns: max-content 1fr; gap: .4rem 1.25rem; margin: 1.25rem 0; }
-dt { color: var(--soft); }
-dd { margin: 0; overflow-wrap: anywhere; white-space: pre-wrap; }
-dd.amount { font-size: 1.25rem; font-weight: 600; }
-nav { display: flex; flex-wrap: wrap; gap: .75rem; }
-nav a { padding: .5rem 1.25rem; border: 1px solid var(--accent); border-radius: .5rem;
-  color: var(--accent); text-decoration: none; }
-nav a.main { background: var(--accent); color: var(--on-accent); }
-p.note { margin-bottom: 0; color: var(--soft); font-size: .9rem; }
-@media (max-width: 30rem) { main { padding: 1.25rem; } dl { grid-template-columns: 1fr; gap: 0; }
-  dd { margin-bottom: .6rem; } }
-)";
-
 std::string Escape(std::string_view text) {
   std::string escaped;
   escaped.reserve(text.size());
@@ -61,9 +38,7 @@ std::string Page(std::string_view title, std::string_view body) {
       "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"windows-1252\">\n"
       "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>";
   page += Escape(title);
-  page += "</title>\n<style>";
-  page += pageStyle;
-  page += "</style>\n</head>\n<body>\n<main>\n<h1>";
+  page += "</title>\n<link rel=\"stylesheet\" href=\"/style.css\">\n</head>\n<body>\n<main>\n<h1>";
   page += Escape(title);
   page += "</h1>\n";
   page += body;

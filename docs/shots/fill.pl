@@ -20,6 +20,8 @@ while (my $line = <>) {
     $line =~ s/\r//g;
   } elsif ($line =~ /^(site \S+) <(\S+)/) {
     my ($site, $text) = ($1, content($2));
+    # The player's answers are of no style sheet's type.
+    $text =~ s{<link rel="stylesheet" href="/([^"]+)">}{"<style>" . content("site/$1") . "</style>"}e;
     $text =~ s/([\\"])/\\$1/g;
     $text =~ s/\r/\\r/g;
     $text =~ s/\n/\\n/g;

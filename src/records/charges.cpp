@@ -63,8 +63,6 @@ void Charges::ShowUse(const ByMethod& charges) {
   using Part = MoneyBar::Part;
   MoneyBar& bar = main_.BudgetUse;
   bar = MoneyBar();
-  if (values_.Budget == Currency()) return;
-
   const auto method = static_cast<std::size_t>(std::max(Chosen(payment_.Option1), 0));
   const bool deducts = main_.mnuDeductFees.checked;
   Currency methodFee;
