@@ -32,7 +32,7 @@ Text Shown(const QString& text) {
 
 // A caption is drawn without its mnemonic's mark where there is none to press.
 Text Caption(const QString& shown, const Text& designed) {
-  if (designed && WithoutMnemonic(ToQString(*designed)) == WithoutMnemonic(shown)) return designed;
+  if (designed && WithoutMnemonic(Drawn(*designed)) == WithoutMnemonic(shown)) return designed;
   return Shown(shown);
 }
 

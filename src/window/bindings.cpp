@@ -33,7 +33,7 @@ void ApplyBase(const Control& control, QWidget& widget) {
     widget.setEnabled(control.enabled);
   }
   if (widget.isHidden() == control.visible) widget.setVisible(control.visible);
-  const QString tip = ToQString(control.toolTip);
+  const QString tip = Drawn(control.toolTip);
   if (widget.toolTip() != tip) widget.setToolTip(tip);
 }
 
@@ -165,7 +165,7 @@ class LabelBinding : public Bound<Label, QLabel> {
 
   void Apply() override {
     ApplyBase(control_, widget_);
-    const QString text = WithoutMnemonic(ToQString(control_.caption));
+    const QString text = WithoutMnemonic(Drawn(control_.caption));
     if (widget_.text() != text) {
       widget_.setText(text);
       if (IsFree()) widget_.adjustSize();
@@ -213,7 +213,7 @@ class ButtonBinding : public Bound<Button, QPushButton> {
 
   void Apply() override {
     ApplyBase(control_, widget_);
-    const QString text = ToQString(control_.caption);
+    const QString text = Drawn(control_.caption);
     if (widget_.text() != text) widget_.setText(text);
   }
 };
@@ -228,7 +228,7 @@ class OptionBinding : public Bound<OptionButton, QRadioButton> {
 
   void Apply() override {
     ApplyBase(control_, widget_);
-    const QString text = ToQString(control_.caption);
+    const QString text = Drawn(control_.caption);
     if (widget_.text() != text) widget_.setText(text);
     const bool colored = control_.backColor != OptionButton().backColor;
     QPalette palette = theme_;
@@ -257,7 +257,7 @@ class CheckBinding : public Bound<CheckBox, QCheckBox> {
 
   void Apply() override {
     ApplyBase(control_, widget_);
-    const QString text = ToQString(control_.caption);
+    const QString text = Drawn(control_.caption);
     if (widget_.text() != text) widget_.setText(text);
     if (widget_.isChecked() != (control_.value != 0)) widget_.setChecked(control_.value != 0);
   }
@@ -315,7 +315,7 @@ class FrameBinding : public Bound<Frame, QGroupBox> {
 
   void Apply() override {
     ApplyBase(control_, widget_);
-    const QString text = ToQString(control_.caption);
+    const QString text = Drawn(control_.caption);
     if (widget_.title() != text) widget_.setTitle(text);
   }
 };

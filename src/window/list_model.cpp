@@ -37,7 +37,7 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
   const int row = index.row() + 1;
   switch (role) {
     case Qt::DisplayRole:
-      return ToQString(list_.SubItem(row, index.column()));
+      return Drawn(list_.SubItem(row, index.column()));
     case Qt::TextAlignmentRole: {
       const int column = index.column();
       const bool number = column == column::kAmount || column >= column::kFee;

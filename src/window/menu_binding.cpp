@@ -73,7 +73,7 @@ void MenuBinding::AddArray(MenuArray& array) {
 
 void MenuBinding::Apply() {
   for (Item& bound : items_) {
-    ApplyItem(*bound.item, ToQString(bound.item->caption), bound.item->enabled, *bound.action);
+    ApplyItem(*bound.item, Drawn(bound.item->caption), bound.item->enabled, *bound.action);
     if (bound.popUps == bound.item->popUps) continue;
     bound.popUps = bound.item->popUps;
     bound.menu->popup(QCursor::pos());
@@ -105,7 +105,7 @@ void MenuBinding::ApplyArray(Array& array) {
                        });
     }
     // Names from files and settings: an ampersand in them is no mnemonic.
-    const QString text = ToQString(item.caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+    const QString text = Drawn(item.caption).replace(QLatin1Char('&'), QLatin1String("&&"));
     ApplyItem(item, text, item.enabled && array.array->enabled, *action);
     const bool shown = item.visible && !item.caption.empty();
     if (action->isVisible() != shown) action->setVisible(shown);

@@ -31,7 +31,7 @@ BoxAnswer QtMessageBoxes::Show(const std::string& title, const std::string& text
   // First the windows come into line: one that goes must not take the box with it.
   const WaitScope wait(waits_);
   QWidget* const active = QApplication::activeWindow();
-  QMessageBox box(Icon(icon), ToQString(title), ToQString(text),
+  QMessageBox box(Icon(icon), Drawn(title), Drawn(text),
                   asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
                   active != nullptr && active->isVisible() ? active : nullptr);
   box.setTextFormat(Qt::PlainText);

@@ -10,6 +10,10 @@ namespace benevix {
 QString ToQString(const std::string& text);
 std::string FromQString(const QString& text);
 
+// The text as a widget draws it: the beginning of megabytes, which nobody reads and the toolkit
+// takes minutes to lay out.
+QString Drawn(const std::string& text);
+
 // A label's text without the mark of its mnemonic, which stands before the first letter; any other
 // "&" is text.
 QString WithoutMnemonic(const QString& text);

@@ -104,7 +104,7 @@ void WindowBinding::Apply(QWidget* transientParent) {
 }
 
 void WindowBinding::ApplyWindow() {
-  const QString title = ToQString(window_->caption);
+  const QString title = Drawn(window_->caption);
   if (widget_->windowTitle() != title) widget_->setWindowTitle(title);
   const bool enabled = desk_.IsEnabled(*window_);
   if (widget_->isEnabled() != enabled) widget_->setEnabled(enabled);

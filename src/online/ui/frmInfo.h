@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 
 #include "controls/controls.h"
 
@@ -32,7 +33,8 @@ struct frmInfo : Window {
   // lines.
   void PutText(const std::string& text) {
     constexpr int lineHeight = 195;
-    const auto lines = 1 + std::count(text.begin(), text.end(), '\n');
+    constexpr std::ptrdiff_t mostLines = 1'000'000;
+    const auto lines = std::min(1 + std::count(text.begin(), text.end(), '\n'), mostLines);
     Label1.caption = text;
     Label1.height = std::max(kPanelHeight, static_cast<int>(lines) * lineHeight);
     Label1.top = VScroll1.value = 0;
