@@ -1,9 +1,25 @@
 #include "core/quick_help.h"
 
+#include <string>
+#include <string_view>
+
 #include "base/lines.h"
 #include "base/runtime_error.h"
 
 namespace benevix {
+namespace {
+
+// Each "%" and the two characters behind it become a blank.
+std::string WithoutEscapes(std::string_view name) {
+  std::string clear;
+  for (std::size_t i = 0; i < name.size(); ++i) {
+    clear += name[i] == '%' ? ' ' : name[i];
+    if (name[i] == '%') i += 2;
+  }
+  return clear;
+}
+
+}  // namespace
 
 void BuildQuickHelpMenu(const Files& files, const std::string& page, MenuArray& qhelp1) {
   std::string text;
@@ -20,11 +36,7 @@ void BuildQuickHelpMenu(const Files& files, const std::string& page, MenuArray& 
     const auto start = p + opening.size() + 1;
     const auto q = line.find('>', p);
     if (q == std::string_view::npos || q < start + 1) return;
-    std::string name(line.substr(start, q - start - 1));
-    for (auto at = name.find('%'); at != std::string::npos; at = name.find('%')) {
-      name.replace(at, 3, " ");
-    }
-    qhelp1.items[k++].caption = name;
+    qhelp1.items[k++].caption = WithoutEscapes(line.substr(start, q - start - 1));
   }
 }
 
