@@ -1,8 +1,21 @@
 #include "online/news.h"
 
 #include "base/number_text.h"
+#include "base/runtime_error.h"
 
 namespace benevix {
+namespace {
+
+// A number beyond all numbers is no kind that is known, like any other above 2.
+double KindOf(const std::string& number) {
+  try {
+    return Val(number);
+  } catch (const RuntimeError&) {
+    return 3;
+  }
+}
+
+}  // namespace
 
 void News::LoadNews() {
   const std::string news = server_.FetchUsable("53rv3r/news.txt");
@@ -32,7 +45,7 @@ void News::Label12_Click() {
   if (news.empty()) return;
   const auto comma = news.find(',');
   if (comma != std::string::npos) {
-    const double kind = Val(news.substr(0, comma));
+    const double kind = KindOf(news.substr(0, comma));
     const std::string text = news.substr(comma + 1);
     if (kind == 0) return;
     if (kind == 1) {
