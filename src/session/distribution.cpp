@@ -2,14 +2,19 @@
 
 #include <algorithm>
 
+#include "base/runtime_error.h"
 #include "database/organization_list.h"
 
 namespace benevix {
 
 // The largest amount that fits with its fees into an equal part of the Balance.
 Currency Distribution::Share(std::size_t stillToCome) const {
-  return donation_.LargestWithin(
-      Currency::FromUnits(values_.Balance.Units() / static_cast<std::int64_t>(stillToCome)));
+  try {
+    return donation_.LargestWithin(
+        Currency::FromUnits(values_.Balance.Units() / static_cast<std::int64_t>(stillToCome)));
+  } catch (const RuntimeError&) {
+    return {};  // with fees beyond all money nothing fits
+  }
 }
 
 void Distribution::mnuDistribFavs_Click() {
