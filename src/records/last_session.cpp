@@ -70,14 +70,13 @@ Currency LastSession::RefillRows(const std::vector<Record>& records) {
     const auto numbered = byId.find(records[i].organization);
     if (named == byName.end() && numbered == byId.end()) continue;
     const int row = named != byName.end() ? named->second : numbered->second;
-    const Currency amount = Currency::FromText(record.amount);
+    total += Currency::FromText(record.amount);  // first: a row stands only when its sum does
     list.SetSubItem(row, column::kAmount, record.amount);
     list.SetSubItem(row, column::kPool, record.delivery);
     list.SetSubItem(row, column::kFrom, record.from);
     list.SetSubItem(row, column::kRecord,
                     record.organization + "," + record.amount + "," + record.delivery + "," +
                         record.from + "," + record.certificate + "," + record.proof);
-    total += amount;
   }
   return total;
 }

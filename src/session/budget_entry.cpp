@@ -12,17 +12,20 @@ void BudgetEntry::Enter() {
   TextBox& box = main_.Text1[0];
   const auto typed = ParseNumber(box.text);
   if (!box.typed || !typed) return;
+  Currency balance;
   try {
-    values_.Budget += Currency::FromWhole(ToInt32(*typed));
+    const Currency budget = values_.Budget + Currency::FromWhole(ToInt32(*typed));
+    balance = budget - values_.TotalDonated;
+    values_.Budget = budget;
   } catch (const RuntimeError&) {
-    return;  // beyond a whole number
+    return;  // beyond a whole number, or beyond all money
   }
   if (values_.Budget == Currency()) return;
 
   if (ConfirmsLargeBudget()) {
     if (values_.TotalDonated == Currency()) choosePayment_();
     values_.BudgetEntered = values_.Budget;
-    values_.Balance = values_.Budget - values_.TotalDonated;
+    values_.Balance = balance;
     main_.Label8.caption = values_.Balance.ToText();
     box.fontSize = 9;
     box.fontBold = true;

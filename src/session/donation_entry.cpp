@@ -174,8 +174,9 @@ void DonationEntry::OverLimit(const Row& row) {
                      BoxIcon::Information, BoxButtons::YesNo);
   if (answer != BoxAnswer::Yes) return;
   const Currency rise = WholeDollars(lacks);
-  values_.Budget += rise;
-  values_.Balance += rise;
+  const Currency raised = values_.Balance + rise;
+  values_.Budget += rise;  // both or, when one overflows, none
+  values_.Balance = raised;
   main_.Text1[0].Write(Format(values_.Budget, kMoneyPattern));
   main_.Text1[1].Write(Format(values_.Balance, kMoneyPattern));
   main_.Text1[1].foreColor = colors::kRed;
