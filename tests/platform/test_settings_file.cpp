@@ -96,6 +96,10 @@ TEST_F(SettingsFileTest, WhatCannotBeWrittenIsNotThereLater) {
   EXPECT_EQ(Read("Language"), "1:old\0"s);
   EXPECT_EQ(settings_.CreateKey(Root::LocalMachine, kKey), nullptr);
   EXPECT_EQ(settings_.OpenKey(Root::LocalMachine, kKey, Access::Full), nullptr);
+  std::filesystem::remove(file_);
+  std::filesystem::create_symlink("/dev/zero", file_);  // it has no end
+  EXPECT_NE(Write("Language", "new\0"s), 0);
+  EXPECT_EQ(Read("Language"), "-");
 }
 
 // The values that change all have one length, so that neither the file's size nor its time, which

@@ -26,7 +26,10 @@ constexpr auto kFileName = "/benevix/benevix.conf";
 bool Take(QLockFile& lock) {
   const QDeadlineTimer end(kLockWait);
   while (!lock.tryLock(0)) {
-    if (lock.error() != QLockFile::LockFailedError || end.hasExpired()) return false;
+    if (lock.error() != QLockFile::LockFailedError) return false;
+    // Damaged, as a crash may leave it, the lock names no program that could be asked after. One
+    // that a living program holds is not removed.
+    if (end.hasExpired()) return lock.removeStaleLockFile() && lock.tryLock(0);
     QThread::msleep(kLockPause);
   }
   return true;
@@ -110,8 +113,10 @@ bool SettingsFile::IsWritable(Root root) const {
 }
 
 std::optional<SettingsText> SettingsFile::Load(Root root) const {
-  QFile file(File(root));
-  if (!file.exists()) return SettingsText({});
+  const QFileInfo info(File(root));
+  if (!info.exists()) return SettingsText({});
+  if (!info.isFile()) return std::nullopt;  // a device may have no end, a pipe no beginning
+  QFile file(info.filePath());
   if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
   const QByteArray bytes = file.readAll();
   if (file.error() != QFileDevice::NoError) return std::nullopt;
