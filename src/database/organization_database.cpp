@@ -6,6 +6,7 @@
 
 #include "base/number_text.h"
 #include "base/runtime_error.h"
+#include "base/text.h"
 #include "platform/files.h"
 
 namespace benevix {
@@ -15,7 +16,7 @@ void OrganizationDatabase::LoadOrganizationList() {
   list_ = std::make_shared<const OrganizationList>(file_);
   main_.ListView1.SetRows(list_);
   if (list_->Version()) run_.DBVersion = *list_->Version();
-  if (!list_->Damage().empty()) throw RuntimeError(file_ + ": " + list_->Damage());
+  if (!list_->Damage().empty()) throw RuntimeError(FromUtf8(file_) + ": " + list_->Damage());
 }
 
 std::optional<float> ListFileVersion(const std::string& file) {

@@ -10,6 +10,7 @@
 #include "base/line_scan.h"
 #include "base/number_text.h"
 #include "base/runtime_error.h"
+#include "base/text.h"
 #include "platform/files.h"
 
 namespace benevix {
@@ -62,8 +63,11 @@ OrganizationList::OrganizationList(const std::string& path) {
   std::error_code failure;
   const auto size = std::filesystem::file_size(PathOf(path), failure);
   const OpenFile file(failure ? nullptr : std::fopen(path.c_str(), "rb"));
-  if (!file) throw RuntimeError(path + ": " + std::strerror(failure ? failure.value() : errno));
-  if (size > std::numeric_limits<std::uint32_t>::max()) throw RuntimeError(path + ": too large");
+  const auto fail = [&](const std::string& reason) {
+    throw RuntimeError(FromUtf8(path + ": " + reason));
+  };
+  if (!file) fail(std::strerror(failure ? failure.value() : errno));
+  if (size > std::numeric_limits<std::uint32_t>::max()) fail("too large");
   std::setbuf(file.get(), nullptr);
 
   bytes_.resize(size);
@@ -83,7 +87,7 @@ OrganizationList::OrganizationList(const std::string& path) {
     have += got;
     whole = scan.Advance(bytes_.data(), have, onLine);
   }
-  if (std::ferror(file.get()) != 0) throw RuntimeError(path + ": cannot be read");
+  if (std::ferror(file.get()) != 0) fail("cannot be read");
   bytes_.resize(have);
   if (whole && scan.LineBegin() < have) AddLine(scan.LineBegin(), have, scan.LastComma());
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "base/runtime_error.h"
+#include "base/text.h"
 #include "platform/qt/deployment_file.h"
 #include "surroundings_of_a_test.h"
 
@@ -9,7 +10,7 @@ namespace {
 
 TEST(DeploymentFile, ReadsValuesAsWrittenAndNamesFaults) {
   const TempFolder folder;
-  const std::string file = folder / "deployment.ini";
+  const std::string file = folder / "d\xC3\xA9ployment.ini";
   const std::string whole =
       "\xEF\xBB\xBF# note\r\n ServerBase = https://example.org:8443/a%20b/\r\n"
       "PaymentBase=https://pay.example/xclick/business=\r\n; Mail=no\r\n"
@@ -34,7 +35,8 @@ TEST(DeploymentFile, ReadsValuesAsWrittenAndNamesFaults) {
       ReadDeployment(file);
       ADD_FAILURE() << key;
     } catch (const RuntimeError& error) {
-      EXPECT_TRUE(std::string(error.what()).starts_with(file + ": " + key + " ")) << error.what();
+      EXPECT_TRUE(std::string(error.what()).starts_with(FromUtf8(file) + ": " + key + " "))
+          << error.what();
     }
   }
   EXPECT_THROW(ReadDeployment(folder / "none.ini"), RuntimeError);

@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include "base/runtime_error.h"
+#include "base/text.h"
 
 namespace benevix {
 namespace {
@@ -19,7 +20,7 @@ constexpr std::size_t kChunk = std::size_t{1} << 20;
 constexpr mode_t kNewFile = 0666;  // less what the user's mask takes away
 
 [[noreturn]] void Fail(const std::string& path, int reason = errno) {
-  throw RuntimeError(path + ": " + std::generic_category().message(reason));
+  throw RuntimeError(FromUtf8(path + ": " + std::generic_category().message(reason)));
 }
 
 class OpenFile {
@@ -151,7 +152,7 @@ void LinuxFiles::Copy(const std::string& from, const std::string& to) {
   const OpenFile source(from, O_RDONLY);
   std::error_code notThere;
   if (std::filesystem::equivalent(from, to, notThere)) {
-    throw RuntimeError(to + ": is the file to be copied");
+    throw RuntimeError(FromUtf8(to) + ": is the file to be copied");
   }
   std::string part = source.Read(kChunk);
   const OpenFile target(to, O_WRONLY | O_CREAT | O_TRUNC);

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "base/runtime_error.h"
+#include "base/text.h"
 #include "platform/linux/user_folders.h"
 
 namespace benevix {
@@ -78,7 +79,7 @@ void LinuxShell::StartProgram(const std::string& file) {
   constexpr auto executable =
       fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
   fs::permissions(file, executable, fs::perm_options::add, error);
-  if (error) throw RuntimeError(file + ": " + error.message());
+  if (error) throw RuntimeError(FromUtf8(file + ": " + error.message()));
 
   posix_spawnattr_t attributes;
   posix_spawnattr_init(&attributes);
@@ -88,7 +89,7 @@ void LinuxShell::StartProgram(const std::string& file) {
   pid_t process = 0;
   const int code = posix_spawn(&process, file.c_str(), nullptr, &attributes, arguments, environ);
   posix_spawnattr_destroy(&attributes);
-  if (code != 0) throw RuntimeError(file + ": " + std::generic_category().message(code));
+  if (code != 0) throw RuntimeError(FromUtf8(file + ": " + std::generic_category().message(code)));
 }
 
 }  // namespace benevix

@@ -11,7 +11,7 @@ namespace benevix {
 namespace {
 
 [[noreturn]] void Fail(const std::string& file, const std::string& reason) {
-  throw RuntimeError(file + ": " + reason);
+  throw RuntimeError(FromUtf8(file + ": " + reason));
 }
 
 class Values {
