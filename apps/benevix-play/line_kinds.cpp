@@ -36,16 +36,19 @@ bool FitsWord(const std::string& type, const std::string& word) {
 }
 
 bool Fits(std::span<const std::string> form, std::span<const std::string> words) {
-  if (form.empty()) return words.empty();
-  std::string type = form.front();
-  const auto rest = form.subspan(1);
-  const bool optional = type.front() == '[';
-  const bool repeated = type.ends_with("...");
-  if ((optional || repeated) && Fits(rest, words)) return true;
-  if (optional) type = type.substr(1, type.size() - 2);
-  if (repeated) type.resize(type.size() - 3);
-  return !words.empty() && FitsWord(type, words.front()) &&
-         Fits(repeated ? form : rest, words.subspan(1));
+  while (!form.empty()) {
+    std::string type = form.front();
+    const auto rest = form.subspan(1);
+    const bool optional = type.front() == '[';
+    const bool repeated = type.ends_with("...");
+    if ((optional || repeated) && Fits(rest, words)) return true;
+    if (optional) type = type.substr(1, type.size() - 2);
+    if (repeated) type.resize(type.size() - 3);
+    if (words.empty() || !FitsWord(type, words.front())) return false;
+    if (!repeated) form = rest;
+    words = words.subspan(1);
+  }
+  return words.empty();
 }
 
 }  // namespace
