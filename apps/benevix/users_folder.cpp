@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "base/runtime_error.h"
+#include "base/text.h"
 #include "database/organization_database.h"
 
 namespace benevix {
@@ -47,7 +48,7 @@ void FillUsersFolder(const std::string& installed, const std::string& folder) {
       Link(TargetOf(file), to / file.path().filename());
     }
   } catch (const fs::filesystem_error& error) {
-    throw RuntimeError(error.path1().string() + ": " + error.code().message());
+    throw RuntimeError(FromUtf8(error.path1().string() + ": " + error.code().message()));
   }
 }
 
