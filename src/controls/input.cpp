@@ -62,8 +62,10 @@ bool Input::Click(const NamedControl& control, int element) {
 }
 
 bool Input::Shortcut(const NamedControl& control) {
-  const bool clicked = control.As<Button>() != nullptr || !Desk::TakesFocus(control);
-  return clicked ? Click(control) : Focus(control.Base());
+  Button* const button = control.As<Button>();
+  // Whoever works by keys stays where he is.
+  if (button != nullptr) return Do(*button, [&](Desk::Entry&) { Fire(*button, Event::Click); });
+  return Desk::TakesFocus(control) ? Focus(control.Base()) : Click(control);
 }
 
 bool Input::Click(Button& button) {
@@ -207,7 +209,7 @@ bool Input::AnswerKey(const Desk::Entry& entry, int key) {
   const auto taker =
       std::find_if(entry.controls.begin(), entry.controls.end(),
                    [&](const NamedControl& named) { return named.Base().shortcut == name; });
-  if (taker != entry.controls.end()) return Click(*taker);
+  if (taker != entry.controls.end()) return Shortcut(*taker);
   return key == keys::kEscape && entry.window->closesByEscape && Close(*entry.window);
 }
 

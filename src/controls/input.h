@@ -24,7 +24,8 @@ class Input {
 
   // A click on what takes clicks; `element` is a menu array's.
   bool Click(const NamedControl& control, int element = -1);
-  // The control's shortcut was pressed.
+  // The control's shortcut was pressed: a click that leaves the focus where it is, or the way to a
+  // box or list.
   bool Shortcut(const NamedControl& control);
   bool Click(Button& button);
   bool Choose(OptionButton& option);

@@ -1,5 +1,6 @@
 #include "window/window_binding.h"
 
+#include <QAbstractItemView>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QFocusEvent>
@@ -230,7 +231,12 @@ bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::ToolTip:
       return ShowTip(*bound, static_cast<QHelpEvent&>(*event));
     case QEvent::ContextMenu:
-      return FilterMenuKey(*bound, static_cast<QContextMenuEvent&>(*event));
+      if (bound->control->As<ListView>() == nullptr ||
+          static_cast<QContextMenuEvent*>(event)->reason() != QContextMenuEvent::Keyboard) {
+        return false;
+      }
+      OpenListMenu(*bound);
+      return true;
     case QEvent::MouseButtonPress:
       // A press that a label leaves to its panel stays the label's.
       if (IsClickable(*bound->control)) mousePressedIn_ = watched;
@@ -278,6 +284,10 @@ bool WindowBinding::FilterKey(const Bound* bound, QEvent& event) {
 // mean the rows.
 bool WindowBinding::FilterListKey(const Bound& bound, const QKeyEvent& key) {
   ListView* const list = bound.control->As<ListView>();
+  if (list != nullptr && key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier) {
+    OpenListMenu(bound);
+    return true;
+  }
   if (list == nullptr || (key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != 0) {
     return false;
   }
@@ -305,14 +315,14 @@ bool WindowBinding::ShowTip(const Bound& bound, const QHelpEvent& event) {
   return true;
 }
 
-// The menu key of the keyboard is the right mouse button on the selected row.
-bool WindowBinding::FilterMenuKey(const Bound& bound, const QContextMenuEvent& event) {
-  ListView* const list = bound.control->As<ListView>();
-  if (list == nullptr || event.reason() != QContextMenuEvent::Keyboard) return false;
-  context_.popUpPlace = event.globalPos();
-  context_.input.SelectRow(*list, list->selected, MouseButton::Right, true);
+// The right mouse button on the selected row, by a key.
+void WindowBinding::OpenListMenu(const Bound& bound) {
+  ListView& list = *bound.control->As<ListView>();
+  const auto& view = *qobject_cast<const QAbstractItemView*>(bound.binding->Widget());
+  const QRect row = view.visualRect(view.currentIndex());
+  context_.popUpPlace = view.viewport()->mapToGlobal(row.bottomLeft());
+  context_.input.SelectRow(list, list.selected, MouseButton::Right, true);
   context_.popUpPlace = {};
-  return true;
 }
 
 // Labels and pictures take clicks, pictures tell that the mouse moves over them.

@@ -9,7 +9,6 @@
 #include "window/binding.h"
 #include "window/menu_binding.h"
 
-class QContextMenuEvent;
 class QHelpEvent;
 class QKeyEvent;
 
@@ -54,7 +53,7 @@ class WindowBinding : public QObject {
   bool FilterKey(const Bound* bound, QEvent& event);
   bool FilterListKey(const Bound& bound, const QKeyEvent& key);
   bool ShowTip(const Bound& bound, const QHelpEvent& event);
-  bool FilterMenuKey(const Bound& bound, const QContextMenuEvent& event);
+  void OpenListMenu(const Bound& bound);
   void FilterMouse(const Bound& bound, QEvent& event);
 
   Desk& desk_;
