@@ -360,6 +360,9 @@ class ScrollBarBinding : public Bound<ScrollBar, QScrollBar> {
   void Apply() override {
     ApplyBase(control_, widget_);
     if (widget_.maximum() != control_.max) widget_.setMaximum(control_.max);
+    // Its value is in twips: a key moves the text by lines and pages of it.
+    widget_.setSingleStep(widget_.fontMetrics().lineSpacing() * kTwipsPerPixel);
+    widget_.setPageStep(widget_.height() * kTwipsPerPixel);
     if (widget_.value() != control_.value) widget_.setValue(control_.value);
   }
 };

@@ -167,7 +167,10 @@ void WindowBinding::ApplyWindow() {
 
 void WindowBinding::ShowWindow(QWidget* transientParent) {
   const Desk::Entry& entry = desk_.Find(*window_);
-  widget_->setWindowFlag(Qt::WindowStaysOnTopHint, window_->topmost);
+  // Over a topmost window only another one is seen.
+  const bool overTopmost = transientParent != nullptr &&
+                           transientParent->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+  widget_->setWindowFlag(Qt::WindowStaysOnTopHint, window_->topmost || overTopmost);
   widget_->setWindowModality(entry.modal ? Qt::ApplicationModal : Qt::NonModal);
   if (window_->left != 0 || window_->top != 0) {
     widget_->move(window_->left / kTwipsPerPixel, window_->top / kTwipsPerPixel);
@@ -213,7 +216,9 @@ bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
       for (const Bound& bound : bound_) bound.binding->Apply();
       context_.applying = false;
     }
-    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    // Of a key that a page leaves over the press comes as nothing but the question for shortcuts.
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease ||
+                       event->type() == QEvent::ShortcutOverride;
     // What a control with the focus leaves over has been answered there.
     return isKey && BoundTo(widget_->focusWidget()) == nullptr && FilterKey(nullptr, *event);
   }
@@ -255,8 +260,9 @@ bool WindowBinding::FilterKey(const Bound* bound, QEvent& event) {
   const bool forward = key.key() == Qt::Key_Tab;
   const bool tab = forward || key.key() == Qt::Key_Backtab;
   QWidget* const widget = bound != nullptr ? bound->binding->Widget() : widget_.get();
-  if (event.type() == QEvent::KeyPress) {
-    if (tab && (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0) {
+  if (event.type() != QEvent::KeyRelease) {
+    if (tab && event.type() == QEvent::KeyPress &&
+        (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0) {
       // A page that has the focus has tab stops of its own.
       if (bound == nullptr && widget_->focusWidget() != nullptr) return false;
       if (bound != nullptr) {
