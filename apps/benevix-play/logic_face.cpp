@@ -46,17 +46,7 @@ void LogicFace::Stop() {
 }
 
 bool LogicFace::Click(const Target& target) {
-  const NamedControl& control = *target.control;
-  if (auto* const button = control.As<Button>()) return User().Click(*button);
-  if (auto* const option = control.As<OptionButton>()) return User().Choose(*option);
-  if (auto* const box = control.As<CheckBox>()) return User().Toggle(*box);
-  if (auto* const label = control.As<Label>()) return User().Click(*label);
-  if (auto* const picture = control.As<PictureBox>()) return User().Click(*picture);
-  if (auto* const item = control.As<MenuItem>()) return User().ChooseMenu(*item);
-  if (auto* const array = control.As<MenuArray>()) {
-    return User().ChooseMenu(*array, target.element);
-  }
-  return false;
+  return User().Click(*target.control, target.element);
 }
 
 bool LogicFace::Type(const Target& target, const std::string& text) {
@@ -106,6 +96,8 @@ void LogicFace::PressHere(const Target& target, const std::string& key) {
     PressIn(target, *box, key);
   } else if (auto* const combo = target.control->As<ComboBox>()) {
     PressIn(*combo, key);
+  } else if (auto* const list = target.control->As<ListView>()) {
+    if (key.size() == 1) User().Type(*list, key.front());
   } else if (key == " ") {
     Click(target);
   }

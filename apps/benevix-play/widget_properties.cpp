@@ -30,9 +30,12 @@ Text Shown(const QString& text) {
   return ToQString(bytes) == text ? bytes : text.toStdString();
 }
 
-// A caption is drawn without its mnemonic's mark where there is none to press.
-Text Caption(const QString& shown, const Text& designed) {
-  if (designed && WithoutMnemonic(Drawn(*designed)) == WithoutMnemonic(shown)) return designed;
+// Where the mnemonic's mark is drawn is not the caption's business.
+Text Caption(QString shown, const Text& designed) {
+  if (designed &&
+      Drawn(*designed).remove(QLatin1Char('&')) == QString(shown).remove(QLatin1Char('&'))) {
+    return designed;
+  }
   return Shown(shown);
 }
 

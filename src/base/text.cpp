@@ -55,11 +55,21 @@ unsigned char LowerCaseOf(unsigned char c) {
   return c == 0x9F ? 0xFF : c;
 }
 
+bool SameLetter(char a, char b) {
+  return a == b ||
+         LowerCaseOf(static_cast<unsigned char>(a)) == LowerCaseOf(static_cast<unsigned char>(b));
+}
+
 std::string UpperCase(std::string_view text) {
   return Mapped(text, Upper);
 }
 std::string LowerCase(std::string_view text) {
   return Mapped(text, LowerCaseOf);
+}
+
+bool BeginsWith(std::string_view text, std::string_view word) {
+  return text.size() >= word.size() &&
+         std::equal(word.begin(), word.end(), text.begin(), SameLetter);
 }
 
 std::string_view Trim(std::string_view text) {

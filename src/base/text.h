@@ -8,8 +8,12 @@ namespace benevix {
 // Texts are bytes of the program's 8-bit code page, Windows-1252.
 
 unsigned char LowerCaseOf(unsigned char c);
+bool SameLetter(char a, char b);  // whatever the case
 std::string UpperCase(std::string_view text);
 std::string LowerCase(std::string_view text);
+
+// Whether the text begins with the word, whatever the case of the letters.
+bool BeginsWith(std::string_view text, std::string_view word);
 
 // Without the blanks at both ends.
 std::string_view Trim(std::string_view text);

@@ -13,6 +13,13 @@ struct Control {
   // The frame, picture box or menu of the same window that holds it; none when empty. What is held
   // can be used only while its holder can.
   const char* holder = "";
+  // The key that does what a click on it does, or goes to a box or list: "Ctrl+N"; none when empty.
+  // Of a button or picture it may be kEnterShortcut or kEscapeShortcut: what Enter and Escape
+  // press.
+  const char* shortcut = "";
 };
+
+inline constexpr const char* kEnterShortcut = "Enter";
+inline constexpr const char* kEscapeShortcut = "Esc";
 
 }  // namespace benevix

@@ -175,7 +175,8 @@ struct Shape : Control {
   Color borderColor = colors::kInactiveBorder;
   int fillStyle = 0;  // 0 solid, 1 transparent
   int borderWidth = 1;
-  int top = 0;  // twips
+  int top = 0;          // twips
+  std::string meaning;  // what its colours tell, for those who do not see them
 };
 
 struct Line : Control {};
@@ -231,6 +232,7 @@ struct Window {
   std::string caption;
   bool enabled = true;
   bool topmost = false;
+  bool closesByEscape = true;  // unless a control of it takes Escape
   MousePointer mousePointer = MousePointer::Default;
   int left = 0, top = 0, width = 0, height = 0;  // twips
 };

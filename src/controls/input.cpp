@@ -1,6 +1,22 @@
 #include "controls/input.h"
 
+#include <algorithm>
+#include <string_view>
+
 namespace benevix {
+namespace {
+
+const NamedControl& Named(const Desk::Entry& entry, const Control& control) {
+  return *std::find_if(entry.controls.begin(), entry.controls.end(),
+                       [&](const NamedControl& named) { return &named.Base() == &control; });
+}
+
+bool BreaksLines(const NamedControl& control) {
+  const TextBox* const box = control.As<TextBox>();
+  return box != nullptr && box->multiLine;
+}
+
+}  // namespace
 
 void Input::Enter(const std::function<void()>& what) {
   // One thread, one deed at a time: what arrives while a handler waits is thrown away.
@@ -23,7 +39,7 @@ void Input::Enter(const std::function<void()>& what) {
   afterEvent();
 }
 
-bool Input::Do(Control& control, const std::function<void(Desk::Entry&)>& what) {
+bool Input::Do(const Control& control, const std::function<void(Desk::Entry&)>& what) {
   Desk::Entry& entry = desk_.Holding(control);
   if (busy_ || !desk_.IsUsable(entry, control)) return false;
   Enter([&] { what(entry); });
@@ -32,6 +48,24 @@ bool Input::Do(Control& control, const std::function<void(Desk::Entry&)>& what) 
 
 void Input::Fire(const Control& control, Event event, EventArgs args) {
   events_.Fire(control, event, args);
+}
+
+bool Input::Click(const NamedControl& control, int element) {
+  if (auto* const button = control.As<Button>()) return Click(*button);
+  if (auto* const option = control.As<OptionButton>()) return Choose(*option);
+  if (auto* const box = control.As<CheckBox>()) return Toggle(*box);
+  if (auto* const label = control.As<Label>()) return Click(*label);
+  if (auto* const picture = control.As<PictureBox>()) return Click(*picture);
+  if (auto* const item = control.As<MenuItem>()) return ChooseMenu(*item);
+  if (auto* const array = control.As<MenuArray>()) return ChooseMenu(*array, element);
+  return false;
+}
+
+bool Input::Shortcut(const NamedControl& control) {
+  Button* const button = control.As<Button>();
+  // Whoever works by keys stays where he is.
+  if (button != nullptr) return Do(*button, [&](Desk::Entry&) { Fire(*button, Event::Click); });
+  return Desk::TakesFocus(control) ? Focus(control.Base()) : Click(control);
 }
 
 bool Input::Click(Button& button) {
@@ -45,10 +79,7 @@ bool Input::Choose(OptionButton& option) {
   return Do(option, [&](Desk::Entry& entry) {
     desk_.SetFocus(option);
     if (!option.value) {
-      std::string array;
-      for (const NamedControl& named : entry.controls) {
-        if (&named.Base() == &option) array = named.name;
-      }
+      const std::string& array = Named(entry, option).name;
       for (const NamedControl& named : entry.controls) {
         if (named.name == array) named.As<OptionButton>()->value = &named.Base() == &option;
       }
@@ -142,12 +173,44 @@ bool Input::Type(ComboBox& combo, std::string text) {
   });
 }
 
-bool Input::Key(Control& control, int key) {
-  return Do(control, [&](Desk::Entry&) {
+bool Input::Type(ListView& list, char typed) {
+  return Do(list, [&](Desk::Entry&) {
+    EventArgs args;
+    args.key = static_cast<unsigned char>(typed);
+    Fire(list, Event::KeyPress, args);
+  });
+}
+
+bool Input::Key(const Control& control, int key) {
+  const Desk::Entry& entry = desk_.Holding(control);
+  const int life = entry.loads;
+  const bool done = Do(control, [&](Desk::Entry&) {
     EventArgs args;
     args.key = key;
     Fire(control, Event::KeyUp, args);
   });
+  if (!done || !entry.loaded || entry.loads != life) return done;
+  const NamedControl& named = Named(entry, control);
+  if (key == keys::kEnter && named.As<Button>() != nullptr) {
+    Click(named);
+  } else if (key != keys::kEnter || !BreaksLines(named)) {
+    AnswerKey(entry, key);
+  }
+  return true;
+}
+
+bool Input::Key(Window& window, int key) {
+  return AnswerKey(desk_.Find(window), key);
+}
+
+bool Input::AnswerKey(const Desk::Entry& entry, int key) {
+  if (key != keys::kEnter && key != keys::kEscape) return false;
+  const std::string_view name = key == keys::kEnter ? kEnterShortcut : kEscapeShortcut;
+  const auto taker =
+      std::find_if(entry.controls.begin(), entry.controls.end(),
+                   [&](const NamedControl& named) { return named.Base().shortcut == name; });
+  if (taker != entry.controls.end()) return Shortcut(*taker);
+  return key == keys::kEscape && entry.window->closesByEscape && Close(*entry.window);
 }
 
 bool Input::Tab(Control& control, bool forward) {
@@ -160,6 +223,12 @@ bool Input::Tab(Control& control, bool forward) {
     const bool stayed = entry.focus == nullptr || entry.focus == &control;
     if (stayed && desk_.IsUsable(*entry.window)) desk_.MoveFocus(entry, forward);
   });
+}
+
+bool Input::Tab(Window& window, bool forward) {
+  if (busy_ || !desk_.IsUsable(window)) return false;
+  Enter([&] { desk_.MoveFocus(desk_.Find(window), forward); });
+  return true;
 }
 
 bool Input::Pick(ComboBox& combo, int index) {

@@ -22,6 +22,11 @@ class Input {
   // An error that no handler took.
   std::function<void(const RuntimeError&)> onError = [](const RuntimeError&) {};
 
+  // A click on what takes clicks; `element` is a menu array's.
+  bool Click(const NamedControl& control, int element = -1);
+  // The control's shortcut was pressed: a click that leaves the focus where it is, or the way to a
+  // box or list.
+  bool Shortcut(const NamedControl& control);
   bool Click(Button& button);
   bool Choose(OptionButton& option);
   bool Toggle(CheckBox& box);
@@ -41,10 +46,16 @@ class Input {
   // The user's change made `text` of what the box held.
   bool Type(TextBox& box, std::string text);
   bool Type(ComboBox& combo, std::string text);
-  // A key was pressed and released in the control. Tab then moves the focus on, unless its handler
-  // moved it.
-  bool Key(Control& control, int key);
+  // The character was typed in the list.
+  bool Type(ListView& list, char typed);
+  // A key was pressed and released in the control. Enter then presses a button that has the focus,
+  // otherwise what takes Enter in the window; Escape presses what takes it, or closes the window.
+  bool Key(const Control& control, int key);
+  // The same in a window where nothing has the focus.
+  bool Key(Window& window, int key);
+  // Tab moves the focus on, unless its handler moved it.
   bool Tab(Control& control, bool forward);
+  bool Tab(Window& window, bool forward);
 
   bool Pick(ComboBox& combo, int index);
   bool SelectRow(ListView& list, int row, MouseButton button, bool byKeyboard = false);
@@ -59,7 +70,8 @@ class Input {
   void Enter(const std::function<void()>& what);
 
  private:
-  bool Do(Control& control, const std::function<void(Desk::Entry&)>& what);
+  bool Do(const Control& control, const std::function<void(Desk::Entry&)>& what);
+  bool AnswerKey(const Desk::Entry& entry, int key);
   void Fire(const Control& control, Event event, EventArgs args = {});
 
   Desk& desk_;

@@ -155,6 +155,22 @@ std::int32_t OrganizationList::Id(int row) const {
   return line[0] == '[' ? 0 : OrganizationId(line);
 }
 
+int OrganizationList::FindName(std::string_view word, int from) const {
+  if (word.empty()) return 0;
+  const int row = FindNameIn(word, from, Count());
+  return row != 0 ? row : FindNameIn(word, 1, from - 1);
+}
+
+int OrganizationList::FindNameIn(std::string_view word, int from, int to) const {
+  for (int row = from; row <= to; ++row) {
+    // A look at one byte passes over most rows; the name itself is cut out for the others only.
+    const std::size_t at = begins_[static_cast<std::size_t>(row - 1)] + kNameBegin;
+    if (at >= bytes_.size() || !SameLetter(bytes_[at], word[0])) continue;
+    if (BeginsWith(View(row, column::kOrganization), word)) return row;
+  }
+  return 0;
+}
+
 std::string_view OrganizationList::View(int row, int column) const {
   const std::string_view line = Line(row);
   if (line[0] == '[') {

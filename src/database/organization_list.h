@@ -42,6 +42,10 @@ class OrganizationList : public RowSource {
   // An organization's number; 0 on a heading.
   [[nodiscard]] std::int32_t Id(int row) const;
 
+  // The first row from `from` on, and then from the list's beginning, of an organization whose name
+  // begins with the word, whatever the case; 0 when there is none.
+  [[nodiscard]] int FindName(std::string_view word, int from) const;
+
   // The rows of the country headings, in order.
   [[nodiscard]] const std::vector<int>& Headings() const { return headings_; }
   // The version of the last header line.
@@ -55,6 +59,7 @@ class OrganizationList : public RowSource {
   bool AddLine(std::size_t begin, std::size_t end, std::size_t lastComma);
   bool TakeOrganization(std::string_view line, std::size_t comma);
   [[nodiscard]] std::string_view Line(int row) const;
+  [[nodiscard]] int FindNameIn(std::string_view word, int from, int to) const;
 
   std::vector<char, LargeAllocator<char>> bytes_;
   std::vector<std::uint32_t, LargeAllocator<std::uint32_t>> begins_;

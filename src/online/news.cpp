@@ -33,11 +33,13 @@ void News::Show(const std::string& news) {
   main_.Label12.foreColor = colors::kDarkShadow3D;
   main_.Timer2.enabled = true;
   main_.Shape5.fillColor = colors::kLight3D;
+  main_.Shape5.meaning = "There is news";
 }
 
 void News::Hide() {
   main_.Timer2.enabled = false;
   main_.Label12.tag.clear();
+  main_.Shape5.meaning = kNoNews;
 }
 
 void News::Label12_Click() {
@@ -68,6 +70,7 @@ void News::Quiet() {
   main_.Shape5.borderColor = colors::kInactiveBorder;
   main_.Shape5.fillColor = colors::kButtonFace;
   main_.Label12.foreColor = colors::kInactiveBorder;
+  main_.Shape5.meaning = kNoNews;
 }
 
 void News::ShowNewsPage() {

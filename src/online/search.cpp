@@ -8,16 +8,6 @@
 namespace benevix {
 namespace {
 
-bool SameLetter(char a, char b) {
-  return a == b ||
-         LowerCaseOf(static_cast<unsigned char>(a)) == LowerCaseOf(static_cast<unsigned char>(b));
-}
-
-bool Begins(std::string_view text, std::string_view word) {
-  return text.size() >= word.size() &&
-         std::equal(word.begin(), word.end(), text.begin(), SameLetter);
-}
-
 bool Contains(std::string_view text, std::string_view word) {
   return std::search(text.begin(), text.end(), word.begin(), word.end(), SameLetter) != text.end();
 }
@@ -39,7 +29,7 @@ void Search::Command1_Click() {
 int Search::FindCountry(const std::string& word) const {
   const OrganizationList& list = *database_.List();
   for (const int row : list.Headings()) {
-    if (Begins(list.View(row, column::kCountry), word)) return row;
+    if (BeginsWith(list.View(row, column::kCountry), word)) return row;
   }
   return 0;
 }
@@ -50,16 +40,16 @@ int Search::FindBeginning(const std::string& word) const {
   const bool maybeId = word[0] == '-' || (word[0] >= '0' && word[0] <= '9');
   int found = 0;
   for (int row = 1; row <= list.Count() && found == 0; ++row) {
-    if (Begins(list.View(row, column::kOrganization), word) ||
-        Begins(list.View(row, column::kType), word) ||
-        (maybeId && Begins(list.Text(row, column::kId), word))) {
+    if (BeginsWith(list.View(row, column::kOrganization), word) ||
+        BeginsWith(list.View(row, column::kType), word) ||
+        (maybeId && BeginsWith(list.Text(row, column::kId), word))) {
       found = row;
     }
   }
   for (const auto& [row, cells] : main_.ListView1.cells) {
     if (found != 0 && row >= found) break;
     if (std::any_of(cells.begin(), cells.end(),
-                    [&](const std::string& cell) { return Begins(cell, word); })) {
+                    [&](const std::string& cell) { return BeginsWith(cell, word); })) {
       return row;
     }
   }

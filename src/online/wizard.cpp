@@ -26,6 +26,7 @@ void Wizard::ShowQuestion(Page page, const std::string& question, const std::str
     option.visible = true;
     option.value = false;
   }
+  desk_.SetFocus(window_.Option1[0]);
 }
 
 void Wizard::Option1_MouseUp(int index) {

@@ -59,6 +59,10 @@ void Program::ConnectMainWindow() {
 
   events_.On(main.ListView1, Event::ItemClick,
              [this](EventArgs& args) { listView_.ListView1_ItemClick(args); });
+  events_.On(main.ListView1, Event::KeyPress,
+             [this](EventArgs& args) { listTyping_.ListView1_KeyPress(args); });
+  events_.On(main.ListView1, Event::KeyUp,
+             [this](EventArgs& args) { listView_.ListView1_KeyUp(args); });
   events_.On(main.Command1, Event::Click, Plain([this] { finalization_.Command1_Click(); }));
   events_.On(main.Command1, Event::MouseUp, [this](EventArgs& args) {
     if (args.button == MouseButton::Right) ++windows_.main.mnuWhatis.popUps;

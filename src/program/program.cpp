@@ -24,6 +24,7 @@ Program::Program(Surroundings surroundings)
                       [this] { contact_.Open(ContactCaller::DonationEntry); }}),
       mainWindow_(windows_.main, budgetEntry_, donationEntry_),
       listView_(windows_.main, desk_, run_, [this] { yearToDate_.ShowYtd(); }),
+      listTyping_(windows_.main, database_, surroundings_.clock, listView_),
       donorName_(windows_.main, desk_, otherNames_),
       favorites_(windows_.main, settings_, database_, listView_),
       editCommands_(windows_.main, donationEntry_),

@@ -39,6 +39,7 @@
 #include "session/donor_name.h"
 #include "session/edit_commands.h"
 #include "session/favorites.h"
+#include "session/list_typing.h"
 #include "session/list_view_events.h"
 #include "session/main_window.h"
 
@@ -128,6 +129,7 @@ class Program {
   DonationEntry donationEntry_;
   MainWindow mainWindow_;
   ListViewEvents listView_;
+  ListTyping listTyping_;
   DonorName donorName_;
   Favorites favorites_;
   EditCommands editCommands_;

@@ -69,6 +69,7 @@ void YearToDate::SetMark(Mark mark) {
   const bool found = mark == Mark::Found;
   main_.iLbl.foreColor = found ? colors::kBlack : colors::kButtonShadow;
   main_.Shape2.fillColor = found ? colors::kGreen : colors::kLightGrey;
+  main_.Shape2.meaning = found ? "Amounts are known" : kNoAmounts;
 }
 
 void YearToDate::iLbl_Click() {

@@ -16,6 +16,11 @@ void ListViewEvents::ListView1_ItemClick(const EventArgs& args) {
   if (run_.YtdState != 0) showYtd_();
 }
 
+void ListViewEvents::ListView1_KeyUp(const EventArgs& args) {
+  if (args.key != keys::kEnter || main_.ListView1.selected == 0) return;
+  desk_.SetFocus(main_.Text1[main_.Text1[0].text.empty() ? 0 : 2]);
+}
+
 void ListViewEvents::EnableOrganizationCommands(bool enabled) {
   for (MenuItem* item :
        {&main_.mnuMoreInfo, &main_.mnuContactThem, &main_.mnuGotheirWeb, &main_.MMTellMe,
@@ -37,6 +42,13 @@ void ListViewEvents::LeftClick(bool organization, bool byKeyboard) {
     main_.Combo1.enabled = true;
   }
   ShowHint(main_, hint::kPreferences);
+}
+
+void ListViewEvents::GoTo(int row) {
+  main_.ListView1.selected = row;
+  EventArgs args;
+  args.byKeyboard = true;
+  ListView1_ItemClick(args);
 }
 
 void ListViewEvents::Select(int row, bool byKeyboard) {

@@ -17,7 +17,11 @@ class ListViewEvents {
       : main_(main), desk_(desk), run_(run), showYtd_(std::move(showYtd)) {}
 
   void ListView1_ItemClick(const EventArgs& args);
+  // Enter goes on to the box in which the next amount is typed.
+  void ListView1_KeyUp(const EventArgs& args);
 
+  // Selects a row as the arrow keys do.
+  void GoTo(int row);
   // Scrolls a row into view and selects it, with what follows from a selected row; by the mouse
   // also with what follows from a click.
   void Select(int row, bool byKeyboard);

@@ -17,6 +17,7 @@ struct BindingContext {
   bool applying = false;  // the program writes into widgets; what they signal is not the user's
   bool runTimers = true;
   const WindowLayout* layout = nullptr;  // where the main window's arrangement is kept, if anywhere
+  QPoint popUpPlace = {};  // where a menu opens that was asked for by its key; null: at the mouse
 };
 
 // Binds one control to its widget: hands the user's events on, and brings the widget into line with
@@ -24,6 +25,9 @@ struct BindingContext {
 class Binding {
  public:
   virtual ~Binding() = default;
+  // The letter that Alt reaches the control by; for those whose caption can show one.
+  [[nodiscard]] virtual bool TakesMnemonic() const { return false; }
+  virtual void SetMnemonic(QChar /*letter*/) {}
   virtual void Apply() = 0;
   [[nodiscard]] virtual QWidget* Widget() const = 0;
 };

@@ -18,6 +18,7 @@
 #include "base/text.h"
 #include "window/binding.h"
 #include "window/list_binding.h"
+#include "window/mnemonics.h"
 #include "window/money_bar_widget.h"
 #include "window/page_viewer/page_view_host.h"
 #include "window/shape_widget.h"
@@ -165,7 +166,9 @@ class LabelBinding : public Bound<Label, QLabel> {
 
   void Apply() override {
     ApplyBase(control_, widget_);
-    const QString text = WithoutMnemonic(Drawn(control_.caption));
+    const QString caption = Drawn(control_.caption);
+    const QString text =
+        TakesMnemonic() ? WithMnemonic(caption, mnemonic_) : WithoutMnemonic(caption);
     if (widget_.text() != text) {
       widget_.setText(text);
       if (IsFree()) widget_.adjustSize();
@@ -176,6 +179,12 @@ class LabelBinding : public Bound<Label, QLabel> {
     if (IsFree()) Place();
   }
 
+  // The letter goes to the box that the label names.
+  [[nodiscard]] bool TakesMnemonic() const override {
+    return widget_.buddy() != nullptr && widget_.buddy()->focusPolicy() != Qt::NoFocus;
+  }
+  void SetMnemonic(QChar letter) override { mnemonic_ = letter; }
+
  private:
   // A label in a panel without a layout is moved by the program.
   [[nodiscard]] bool IsFree() const {
@@ -184,6 +193,7 @@ class LabelBinding : public Bound<Label, QLabel> {
   }
 
   QPalette theme_;
+  QChar mnemonic_;
 
   void Place() {
     const QWidget& track = *widget_.parentWidget();
@@ -208,14 +218,24 @@ class ButtonBinding : public Bound<Button, QPushButton> {
     QObject::connect(&widget, &QPushButton::clicked, &widget,
                      [this] { context_.input.Click(control_); });
     QObject::connect(&widget, &QWidget::customContextMenuRequested, &widget,
-                     [this] { context_.input.MouseUp(control_, MouseButton::Right); });
+                     [this](const QPoint& place) {
+                       context_.popUpPlace = widget_.mapToGlobal(place);
+                       context_.input.MouseUp(control_, MouseButton::Right);
+                       context_.popUpPlace = {};
+                     });
   }
 
   void Apply() override {
     ApplyBase(control_, widget_);
-    const QString text = Drawn(control_.caption);
+    const QString text = WithMnemonic(Drawn(control_.caption), mnemonic_);
     if (widget_.text() != text) widget_.setText(text);
   }
+
+  [[nodiscard]] bool TakesMnemonic() const override { return true; }
+  void SetMnemonic(QChar letter) override { mnemonic_ = letter; }
+
+ private:
+  QChar mnemonic_;
 };
 
 class OptionBinding : public Bound<OptionButton, QRadioButton> {
@@ -271,6 +291,7 @@ class ComboBinding : public Bound<ComboBox, QComboBox> {
       if (!context_.applying) context_.input.Pick(control_, index);
     });
     if (!combo.editable) return;
+    widget.lineEdit()->setAccessibleName(widget.accessibleName());
     widget.setCompleter(nullptr);
     widget.setValidator(std::make_unique<TypedText>(
                             &widget, [&combo] { return ToQString(combo.text); },
@@ -328,6 +349,7 @@ class ShapeBinding : public Bound<Shape, ShapeWidget> {
     const bool filled = control_.fillStyle == 0;
     widget_.SetFill(filled ? RoleColor(control_.fillColor, context_.scheme) : QColor());
     widget_.SetBorder(RoleColor(control_.borderColor, context_.scheme), control_.borderWidth);
+    widget_.setAccessibleDescription(ToQString(control_.meaning));
   }
 };
 
@@ -342,6 +364,9 @@ class ScrollBarBinding : public Bound<ScrollBar, QScrollBar> {
   void Apply() override {
     ApplyBase(control_, widget_);
     if (widget_.maximum() != control_.max) widget_.setMaximum(control_.max);
+    // Its value is in twips: a key moves the text by lines and pages of it.
+    widget_.setSingleStep(widget_.fontMetrics().lineSpacing() * kTwipsPerPixel);
+    widget_.setPageStep(widget_.height() * kTwipsPerPixel);
     if (widget_.value() != control_.value) widget_.setValue(control_.value);
   }
 };

@@ -3,7 +3,9 @@
 #include <QCursor>
 #include <algorithm>
 #include <memory>
+#include <string_view>
 
+#include "window/mnemonics.h"
 #include "window/texts.h"
 
 namespace benevix {
@@ -20,6 +22,7 @@ void ApplyItem(const MenuItem& item, const QString& text, bool enabled, QAction&
 
 MenuBinding::MenuBinding(const Desk::Entry& entry, QMenuBar& bar, BindingContext& context)
     : bar_(bar), context_(context) {
+  bar.setAccessibleName(QStringLiteral("Menus"));
   for (const NamedControl& control : entry.controls) {
     if (control.As<MenuItem>() != nullptr) {
       const bool holds = std::any_of(
@@ -29,6 +32,38 @@ MenuBinding::MenuBinding(const Desk::Entry& entry, QMenuBar& bar, BindingContext
     } else if (MenuArray* const array = control.As<MenuArray>()) {
       AddArray(*array);
     }
+  }
+  for (const auto& [name, menu] : menus_) GiveMnemonics(name);
+}
+
+QStringList MenuBinding::Titles() const {
+  QStringList titles;
+  for (const Item& item : items_) {
+    if (IsTitle(item)) titles.append(ToQString(item.item->caption));
+  }
+  return titles;
+}
+
+void MenuBinding::SetTitleMnemonics(const std::vector<QChar>& letters) {
+  auto letter = letters.begin();
+  for (Item& item : items_) {
+    if (IsTitle(item)) item.mnemonic = *letter++;
+  }
+}
+
+bool MenuBinding::IsTitle(const Item& item) {
+  return std::string_view(item.item->holder).empty() && item.item->visible;
+}
+
+void MenuBinding::GiveMnemonics(const std::string& holder) {
+  QStringList captions;
+  for (const Item& item : items_) {
+    if (item.item->holder == holder) captions.append(ToQString(item.item->caption));
+  }
+  const std::vector<QChar> letters = Mnemonics(captions);
+  auto letter = letters.begin();
+  for (Item& item : items_) {
+    if (item.item->holder == holder) item.mnemonic = *letter++;
   }
 }
 
@@ -60,7 +95,9 @@ void MenuBinding::AddItem(const NamedControl& control, bool holds) {
                      [this, &item] { context_.input.ChooseMenu(item); });
   }
   action->setObjectName(QString::fromStdString(control.name));
-  items_.push_back({&item, action, menu, item.popUps});
+  action->setShortcut(QKeySequence(QLatin1String(item.shortcut)));
+  action->setAutoRepeat(false);
+  items_.push_back({&item, action, menu, item.popUps, {}});
 }
 
 void MenuBinding::AddArray(MenuArray& array) {
@@ -68,15 +105,19 @@ void MenuBinding::AddArray(MenuArray& array) {
   if (array.separated) menu->addSeparator();
   QAction* const end = menu->addAction(QString());
   end->setVisible(false);
-  arrays_.push_back({&array, menu, end, {}});
+  const bool isAlone = menu->actions().size() == 1;
+  arrays_.push_back({&array, menu, end, isAlone, {}});
 }
 
 void MenuBinding::Apply() {
   for (Item& bound : items_) {
-    ApplyItem(*bound.item, Drawn(bound.item->caption), bound.item->enabled, *bound.action);
+    ApplyItem(*bound.item, WithMnemonic(Drawn(bound.item->caption), bound.mnemonic),
+              bound.item->enabled, *bound.action);
     if (bound.popUps == bound.item->popUps) continue;
     bound.popUps = bound.item->popUps;
-    bound.menu->popup(QCursor::pos());
+    const bool byKey = !context_.popUpPlace.isNull();
+    bound.menu->popup(byKey ? context_.popUpPlace : QCursor::pos());
+    if (byKey) bound.menu->setActiveAction(bound.menu->actions().value(0));
   }
   for (Array& array : arrays_) ApplyArray(array);
 }
@@ -104,8 +145,10 @@ void MenuBinding::ApplyArray(Array& array) {
                          context_.input.ChooseMenu(*menuArray, element);
                        });
     }
-    // Names from files and settings: an ampersand in them is no mnemonic.
-    const QString text = Drawn(item.caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+    // Names from files and settings: an ampersand in them is no mnemonic. In a menu of their own
+    // their first letter goes from one to the next.
+    QString text = Drawn(item.caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+    if (array.isAlone && !text.isEmpty() && text[0].isLetter()) text.prepend(QLatin1Char('&'));
     ApplyItem(item, text, item.enabled && array.array->enabled, *action);
     const bool shown = item.visible && !item.caption.empty();
     if (action->isVisible() != shown) action->setVisible(shown);

@@ -18,6 +18,10 @@ class MenuBinding {
 
   void Apply();
 
+  // The captions on the menu bar, which share their letters with the window's other controls.
+  [[nodiscard]] QStringList Titles() const;
+  void SetTitleMnemonics(const std::vector<QChar>& letters);
+
   // The action of an item, or of a menu array's element; null when there is none.
   [[nodiscard]] QAction* Action(const NamedControl& control, int element) const;
 
@@ -27,14 +31,18 @@ class MenuBinding {
     QAction* action;
     QMenu* menu;  // null for an item that holds none
     int popUps;
+    QChar mnemonic;
   };
   struct Array {
     MenuArray* array;
     QMenu* menu;
     QAction* end;  // elements stand before it
+    bool isAlone;  // in its menu
     std::map<int, QAction*> elements;
   };
 
+  [[nodiscard]] static bool IsTitle(const Item& item);
+  void GiveMnemonics(const std::string& holder);
   void AddItem(const NamedControl& control, bool holds);
   void AddArray(MenuArray& array);
   QMenu* MenuNamed(const std::string& name) const;

@@ -4,6 +4,8 @@
 #include <QEvent>
 #include <QMessageBox>
 
+#include "window/accessibility.h"
+
 namespace benevix {
 namespace {
 
@@ -37,6 +39,7 @@ bool IsInput(QEvent::Type type) {
 
 void Mirror::Attach(Desk& desk, Input& input, const WindowLayout* layout) {
   Detach();
+  InstallAccessibility();
   desk_ = &desk;
   context_ = std::make_unique<BindingContext>(
       BindingContext{input, scheme_, false, timers_ == Timers::Run, layout});

@@ -4,6 +4,8 @@
 #include <QPainterPath>
 #include <algorithm>
 
+#include "window/accessibility.h"
+
 namespace benevix {
 namespace {
 
@@ -16,6 +18,7 @@ constexpr int kNameGap = 24;  // between names
 
 MoneyBarWidget::MoneyBarWidget(QWidget* parent) : QWidget(parent) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  MarkAsIndicator(*this);
 }
 
 void MoneyBarWidget::SetParts(std::vector<Part> parts) {

@@ -3,13 +3,17 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "window/accessibility.h"
+
 namespace benevix {
 
 namespace {
 constexpr double kRadius = 8;
 }
 
-ShapeWidget::ShapeWidget(QWidget* parent) : QWidget(parent) {}
+ShapeWidget::ShapeWidget(QWidget* parent) : QWidget(parent) {
+  MarkAsIndicator(*this);
+}
 
 void ShapeWidget::SetFill(const QColor& color) {
   if (color == fill_) return;

@@ -1,13 +1,21 @@
 #include "window/window_binding.h"
 
+#include <QAbstractItemView>
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QFocusEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMouseEvent>
+#include <QShortcut>
+#include <QToolTip>
 #include <QWindow>
+#include <string_view>
 
+#include "base/text.h"
 #include "window/drawings.h"
+#include "window/mnemonics.h"
 #include "window/texts.h"
 #include "window/window_layout.h"
 
@@ -63,8 +71,12 @@ WindowBinding::WindowBinding(Desk& desk, const Desk::Entry& entry, BindingContex
     bound_.push_back({&control, std::move(binding)});
   }
   auto* const mainWindow = qobject_cast<QMainWindow*>(widget_.get());
+  if (mainWindow != nullptr && hasMenus) {
+    menus_ = std::make_unique<MenuBinding>(entry, *mainWindow->menuBar(), context_);
+  }
+  GiveMnemonics();
+  MakeShortcuts(entry);
   if (mainWindow == nullptr) return;
-  if (hasMenus) menus_ = std::make_unique<MenuBinding>(entry, *mainWindow->menuBar(), context_);
   if (context_.layout != nullptr) context_.layout->Restore(*mainWindow);
 }
 
@@ -73,6 +85,41 @@ WindowBinding::~WindowBinding() {
   widget_->removeEventFilter(this);
   for (const Bound& bound : bound_) {
     if (QWidget* const widget = bound.binding->Widget()) widget->removeEventFilter(this);
+  }
+}
+
+void WindowBinding::GiveMnemonics() {
+  QStringList captions = menus_ ? menus_->Titles() : QStringList();
+  const auto titles = captions.size();
+  std::vector<Binding*> takers;
+  for (const bool button : {true, false}) {  // a button's mark goes before a label's
+    for (const Bound& bound : bound_) {
+      const bool isButton = bound.control->As<Button>() != nullptr;
+      if (isButton != button || !bound.binding->TakesMnemonic()) continue;
+      takers.push_back(bound.binding.get());
+      const Label* const label = bound.control->As<Label>();
+      captions.append(
+          ToQString(label != nullptr ? label->caption : bound.control->As<Button>()->caption));
+    }
+  }
+  const std::vector<QChar> letters = Mnemonics(captions);
+  const auto own = letters.begin() + titles;
+  if (menus_) menus_->SetTitleMnemonics({letters.begin(), own});
+  for (std::size_t i = 0; i < takers.size(); ++i) {
+    takers[i]->SetMnemonic(own[static_cast<std::ptrdiff_t>(i)]);
+  }
+}
+
+// Menus show and take theirs themselves; Enter and Escape come as keys.
+void WindowBinding::MakeShortcuts(const Desk::Entry& entry) {
+  for (const NamedControl& control : entry.controls) {
+    const std::string_view key = control.Base().shortcut;
+    if (key.empty() || key == kEnterShortcut || key == kEscapeShortcut || IsMenu(control)) continue;
+    auto* const shortcut =
+        new QShortcut(QKeySequence(QLatin1String(control.Base().shortcut)), widget_.get());
+    shortcut->setAutoRepeat(false);
+    connect(shortcut, &QShortcut::activated, this,
+            [this, &control] { context_.input.Shortcut(control); });
   }
 }
 
@@ -120,7 +167,10 @@ void WindowBinding::ApplyWindow() {
 
 void WindowBinding::ShowWindow(QWidget* transientParent) {
   const Desk::Entry& entry = desk_.Find(*window_);
-  widget_->setWindowFlag(Qt::WindowStaysOnTopHint, window_->topmost);
+  // Over a topmost window only another one is seen.
+  const bool overTopmost = transientParent != nullptr &&
+                           transientParent->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+  widget_->setWindowFlag(Qt::WindowStaysOnTopHint, window_->topmost || overTopmost);
   widget_->setWindowModality(entry.modal ? Qt::ApplicationModal : Qt::NonModal);
   if (window_->left != 0 || window_->top != 0) {
     widget_->move(window_->left / kTwipsPerPixel, window_->top / kTwipsPerPixel);
@@ -166,7 +216,11 @@ bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
       for (const Bound& bound : bound_) bound.binding->Apply();
       context_.applying = false;
     }
-    return false;
+    // Of a key that a page leaves over the press comes as nothing but the question for shortcuts.
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease ||
+                       event->type() == QEvent::ShortcutOverride;
+    // What a control with the focus leaves over has been answered there.
+    return isKey && BoundTo(widget_->focusWidget()) == nullptr && FilterKey(nullptr, *event);
   }
   const Bound* const bound = BoundTo(watched);
   if (bound == nullptr) return false;
@@ -178,7 +232,16 @@ bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
       return false;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-      return FilterKey(*bound, *event);
+      return FilterKey(bound, *event);
+    case QEvent::ToolTip:
+      return ShowTip(*bound, static_cast<QHelpEvent&>(*event));
+    case QEvent::ContextMenu:
+      if (bound->control->As<ListView>() == nullptr ||
+          static_cast<QContextMenuEvent*>(event)->reason() != QContextMenuEvent::Keyboard) {
+        return false;
+      }
+      OpenListMenu(*bound);
+      return true;
     case QEvent::MouseButtonPress:
       // A press that a label leaves to its panel stays the label's.
       if (IsClickable(*bound->control)) mousePressedIn_ = watched;
@@ -192,25 +255,80 @@ bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
   }
 }
 
-bool WindowBinding::FilterKey(const Bound& bound, QEvent& event) {
+bool WindowBinding::FilterKey(const Bound* bound, QEvent& event) {
   const auto& key = static_cast<QKeyEvent&>(event);
-  const bool tab = key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
-  if (event.type() == QEvent::KeyPress) {
-    if (tab && (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0) {
-      context_.input.Tab(bound.control->Base(), key.key() == Qt::Key_Tab);
+  const bool forward = key.key() == Qt::Key_Tab;
+  const bool tab = forward || key.key() == Qt::Key_Backtab;
+  QWidget* const widget = bound != nullptr ? bound->binding->Widget() : widget_.get();
+  if (event.type() != QEvent::KeyRelease) {
+    if (tab && event.type() == QEvent::KeyPress &&
+        (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0) {
+      // A page that has the focus has tab stops of its own.
+      if (bound == nullptr && widget_->focusWidget() != nullptr) return false;
+      if (bound != nullptr) {
+        context_.input.Tab(bound->control->Base(), forward);
+      } else {
+        context_.input.Tab(*window_, forward);
+      }
       return true;
     }
-    pressedIn_ = bound.binding->Widget();
+    pressedIn_ = widget;
     pressedKey_ = key.key();
-    return false;
+    return bound != nullptr && FilterListKey(*bound, key);
   }
-  const bool answers =
-      !key.isAutoRepeat() && pressedIn_ == bound.binding->Widget() && pressedKey_ == key.key();
-  if (answers && !tab) {
-    pressedKey_ = 0;
-    context_.input.Key(bound.control->Base(), KeyCode(key.key()));
+  if (tab || key.isAutoRepeat() || pressedIn_ != widget || pressedKey_ != key.key()) return false;
+  pressedKey_ = 0;
+  if (bound != nullptr) {
+    context_.input.Key(bound->control->Base(), KeyCode(key.key()));
+  } else {
+    context_.input.Key(*window_, KeyCode(key.key()));
   }
   return false;
+}
+
+// Letters are the program's, not the view's, which would look through all its rows; Home and End
+// mean the rows.
+bool WindowBinding::FilterListKey(const Bound& bound, const QKeyEvent& key) {
+  ListView* const list = bound.control->As<ListView>();
+  if (list != nullptr && key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier) {
+    OpenListMenu(bound);
+    return true;
+  }
+  if (list == nullptr || (key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != 0) {
+    return false;
+  }
+  if (key.key() == Qt::Key_Home || key.key() == Qt::Key_End) {
+    const int row = key.key() == Qt::Key_Home ? 1 : list->Count();
+    context_.input.SelectRow(*list, row, MouseButton::Left, true);
+    return true;
+  }
+  const int byte = key.text().size() == 1 ? CodePageByte(key.text()[0].unicode()) : 0;
+  if (byte < ' ' || key.key() == Qt::Key_Delete) return false;
+  context_.input.Type(*list, static_cast<char>(byte));
+  return true;
+}
+
+// The tool tip with the shortcut, and the shortcut alone where there is no other tip.
+bool WindowBinding::ShowTip(const Bound& bound, const QHelpEvent& event) {
+  const Control& control = bound.control->Base();
+  const QString keys =
+      QKeySequence(QLatin1String(control.shortcut)).toString(QKeySequence::NativeText);
+  if (keys.isEmpty()) return false;
+  const QString tip = ToQString(control.toolTip);
+  QToolTip::showText(event.globalPos(),
+                     tip.isEmpty() ? keys : tip + QStringLiteral(" (") + keys + QLatin1Char(')'),
+                     bound.binding->Widget());
+  return true;
+}
+
+// The right mouse button on the selected row, by a key.
+void WindowBinding::OpenListMenu(const Bound& bound) {
+  ListView& list = *bound.control->As<ListView>();
+  const auto& view = *qobject_cast<const QAbstractItemView*>(bound.binding->Widget());
+  const QRect row = view.visualRect(view.currentIndex());
+  context_.popUpPlace = view.viewport()->mapToGlobal(row.bottomLeft());
+  context_.input.SelectRow(list, list.selected, MouseButton::Right, true);
+  context_.popUpPlace = {};
 }
 
 // Labels and pictures take clicks, pictures tell that the mouse moves over them.

@@ -9,6 +9,9 @@
 #include "window/binding.h"
 #include "window/menu_binding.h"
 
+class QHelpEvent;
+class QKeyEvent;
+
 namespace benevix {
 
 // One life of a window on the screen: its widget and the bindings of its controls.
@@ -44,7 +47,13 @@ class WindowBinding : public QObject {
   void ApplyWindow();
   void ShowWindow(QWidget* transientParent);
   [[nodiscard]] const Bound* BoundTo(const QObject* widget) const;
-  bool FilterKey(const Bound& bound, QEvent& event);
+  void GiveMnemonics();
+  void MakeShortcuts(const Desk::Entry& entry);
+  // Of a control, or of the window itself while no control has the focus.
+  bool FilterKey(const Bound* bound, QEvent& event);
+  bool FilterListKey(const Bound& bound, const QKeyEvent& key);
+  bool ShowTip(const Bound& bound, const QHelpEvent& event);
+  void OpenListMenu(const Bound& bound);
   void FilterMouse(const Bound& bound, QEvent& event);
 
   Desk& desk_;

@@ -45,6 +45,33 @@ TEST_F(InputTest, TabIsAKeyBeforeTheFocusMoves) {
   EXPECT_EQ(Heard(), "box0.Lost list.Got ");  // where its handler put it
 }
 
+TEST_F(InputTest, EnterAndEscapePressWhatTakesThemOrCloseTheWindow) {
+  main.button.shortcut = kEnterShortcut;
+  main.label.shortcut = kEscapeShortcut;
+  EXPECT_TRUE(input.Key(main.box[0], keys::kEnter));
+  EXPECT_EQ(Heard(), "box0.Key button.Click ");
+  EXPECT_TRUE(input.Key(main, keys::kEscape));
+  EXPECT_EQ(Heard(), "label.Click label.Up ");
+  main.box[0].multiLine = true;
+  EXPECT_TRUE(input.Key(main.box[0], keys::kEnter));
+  EXPECT_EQ(Heard(), "box0.Key ");
+  main.button.enabled = main.label.enabled = false;
+  EXPECT_FALSE(input.Key(main, keys::kEnter));
+  EXPECT_FALSE(input.Key(main, keys::kEscape));  // nor does the window close
+  EXPECT_TRUE(desk.IsShown(main));
+
+  desk.Show(side);
+  Heard();
+  EXPECT_TRUE(input.Key(side.ok, keys::kEnter));  // the button that has the focus
+  EXPECT_EQ(Heard(), "ok.Key text.Lost ok.Got ok.Click ");
+  side.closesByEscape = false;
+  input.Key(side.text, keys::kEscape);
+  EXPECT_TRUE(desk.IsShown(side));
+  side.closesByEscape = true;
+  input.Key(side.text, keys::kEscape);
+  EXPECT_FALSE(desk.IsShown(side));
+}
+
 TEST_F(InputTest, TheKeyFilterSeesEachCharacterAsAByte) {
   EXPECT_TRUE(input.Accepts(main.box[0], 'x'));
   events.On(main.box[0], Event::KeyPress, [](EventArgs& args) {

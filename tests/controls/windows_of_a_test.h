@@ -36,11 +36,13 @@ void visit(MainOfATest& window, F&& f) {
 
 struct SideOfATest : Window {
   TextBox text{"tip"};
+  Button ok{"OK"};
 };
 
 template <class F>
 void visit(SideOfATest& window, F&& f) {
   f("text", window.text);
+  f("ok", window.ok);
 }
 
 // A main and a side window on a desk, and the events that were heard, as "box1.Got ".

@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QTest>
-#include <string>
-#include <vector>
 
 #include "program/program.h"
 #include "window/mirror.h"
@@ -11,68 +9,66 @@
 
 namespace benevix {
 
-// All windows of the program on the screen at once, with texts where the program would write some.
+class TwoRows : public RowSource {
+ public:
+  [[nodiscard]] int Count() const override { return 2; }
+  [[nodiscard]] std::string Text(int row, int column) const override {
+    return column == 1 ? "Organization " + std::to_string(row) : "";
+  }
+};
+
+// All windows of the program on the screen at once, each with everything in it shown and enabled,
+// and with texts where the program would write some.
 class EveryWindow {
  public:
-  explicit EveryWindow(Scheme scheme) : mirror_(scheme, Mirror::Timers::Hold) {
+  explicit EveryWindow(Scheme scheme) : mirror(scheme, Mirror::Timers::Hold) {
     ApplyTheme(*qApp, scheme);
-    Add("frmBVX", windows.main);
-    Add("frmSplash", windows.splash);
-    Add("frmPayOpt", windows.payment);
-    Add("frmInfo", windows.info);
-    Add("frmPersInfo", windows.contact);
-    Add("frmDonRankg", windows.ranking);
-    Add("frmWait", windows.wait);
-    Add("frmWizard", windows.wizard);
-    Add("frmYtdTag", windows.ytd);
-    Add("frmMail", windows.mail);
-    Add("frmTellAFriend", windows.tellAFriend);
-    Add("frmPrefsTranslate", windows.translate);
-    Add("frmSrch", windows.search);
-    mirror_.Attach(desk, input);
+    desk.Add("frmBVX", windows.main);
+    desk.Add("frmSplash", windows.splash);
+    desk.Add("frmPayOpt", windows.payment);
+    desk.Add("frmInfo", windows.info);
+    desk.Add("frmPersInfo", windows.contact);
+    desk.Add("frmDonRankg", windows.ranking);
+    desk.Add("frmWait", windows.wait);
+    desk.Add("frmWizard", windows.wizard);
+    desk.Add("frmYtdTag", windows.ytd);
+    desk.Add("frmMail", windows.mail);
+    desk.Add("frmTellAFriend", windows.tellAFriend);
+    desk.Add("frmPrefsTranslate", windows.translate);
+    desk.Add("frmSrch", windows.search);
+    mirror.Attach(desk, input);
     input.Enter([this] {
-      for (Window* const window : all_) {
-        for (const NamedControl& control : desk.Find(*window).controls) Fill(control);
-        desk.Show(*window);
+      windows.main.ListView1.SetRows(std::make_shared<TwoRows>());
+      for (Desk::Entry& entry : desk.Entries()) {
+        for (const NamedControl& control : entry.controls) Open(control);
+        desk.Show(*entry.window);
       }
     });
     QTest::qWait(0);
   }
-  ~EveryWindow() { mirror_.Detach(); }
+  ~EveryWindow() { mirror.Detach(); }
   EveryWindow(const EveryWindow&) = delete;
   EveryWindow& operator=(const EveryWindow&) = delete;
-
-  [[nodiscard]] const std::vector<Window*>& All() const { return all_; }
-  [[nodiscard]] const std::string& NameOf(const Window& window) { return desk.Find(window).name; }
-  [[nodiscard]] QWidget& WidgetOf(const Window& window) {
-    return mirror_.BindingOf(window)->Widget();
-  }
 
   Windows windows;
   EventTable events;
   Desk desk{events};
   Input input{desk, events};
+  Mirror mirror;
 
  private:
-  template <class W>
-  void Add(const char* name, W& window) {
-    desk.Add(name, window);
-    all_.push_back(&window);
+  static void Fill(std::string& text) {
+    if (text.empty()) text = "Text";
   }
 
-  static void Fill(const NamedControl& control) {
-    if (auto* const label = control.As<Label>()) {
-      if (label->caption.empty()) label->caption = "Text";
-    }
-    if (auto* const option = control.As<OptionButton>()) {
-      if (option->caption.empty()) option->caption = "Text";
-    }
-    if (auto* const box = control.As<TextBox>()) box->text = "Text";
+  static void Open(const NamedControl& control) {
+    control.Base().enabled = true;
+    if (control.As<MenuItem>() == nullptr) control.Base().visible = true;
+    if (auto* const label = control.As<Label>()) Fill(label->caption);
+    if (auto* const option = control.As<OptionButton>()) Fill(option->caption);
+    if (auto* const box = control.As<TextBox>()) Fill(box->text);
     if (auto* const combo = control.As<ComboBox>()) combo->list = {combo->text = "Text"};
   }
-
-  std::vector<Window*> all_;
-  Mirror mirror_;
 };
 
 }  // namespace benevix

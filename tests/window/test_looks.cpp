@@ -77,14 +77,12 @@ TEST(LooksTest, EveryTextStandsOutOnItsGround) {
     EveryWindow shown(scheme);
     for (const bool enabled : {true, false}) {
       int texts = 0;
-      for (Window* const window : shown.All()) {
+      for (const Desk::Entry& entry : shown.desk.Entries()) {
         shown.input.Enter([&] {
-          for (const NamedControl& control : shown.desk.Find(*window).controls) {
-            control.Base().enabled = enabled;
-          }
+          for (const NamedControl& control : entry.controls) control.Base().enabled = enabled;
         });
-        const QWidget& top = shown.WidgetOf(*window);
-        const QImage picture = const_cast<QWidget&>(top).grab().toImage();
+        QWidget& top = shown.mirror.BindingOf(*entry.window)->Widget();
+        const QImage picture = top.grab().toImage();
         for (const QWidget* const widget : top.findChildren<QWidget*>()) {
           const QRect rect = TextRect(*widget) & widget->visibleRegion().boundingRect();
           if (!widget->isVisibleTo(&top) || rect.width() < 8 || rect.height() < 8) continue;
@@ -92,7 +90,7 @@ TEST(LooksTest, EveryTextStandsOutOnItsGround) {
           const qreal scale = picture.devicePixelRatio();
           const QImage part = picture.copy(QRect(place * scale, rect.size() * scale));
           EXPECT_GE(ContrastIn(part), 4.5)
-              << shown.NameOf(*window) << "." << widget->objectName().toStdString()
+              << entry.name << "." << widget->objectName().toStdString()
               << (scheme == Scheme::Light ? " light" : " dark") << (enabled ? "" : " disabled");
           ++texts;
         }
@@ -104,7 +102,7 @@ TEST(LooksTest, EveryTextStandsOutOnItsGround) {
 
 TEST(LooksTest, TheMainWindowFitsALowScreen) {
   EveryWindow shown(Scheme::Light);
-  const QSize least = shown.WidgetOf(shown.windows.main).minimumSizeHint();
+  const QSize least = shown.mirror.BindingOf(shown.windows.main)->Widget().minimumSizeHint();
   EXPECT_LE(least.width(), 1024);
   EXPECT_LE(least.height(), 640);
 }
@@ -116,7 +114,7 @@ TEST(LooksTest, TheMainWindowKeepsItsArrangement) {
   SettingsStore settings(file);
   const WindowLayout layout(settings);
   EveryWindow shown(Scheme::Light);
-  auto& window = dynamic_cast<QMainWindow&>(shown.WidgetOf(shown.windows.main));
+  auto& window = dynamic_cast<QMainWindow&>(shown.mirror.BindingOf(shown.windows.main)->Widget());
   window.resize(1100, 700);
   auto& view = *window.findChild<QTableView*>();
   view.setColumnWidth(2, 77);

@@ -105,6 +105,37 @@ TEST_F(MirrorTest, KeyUpNeedsItsPressInTheSameControlAndNoWaitBetween) {
   EXPECT_EQ(keys, std::string(1, '\r'));
 }
 
+TEST_F(MirrorTest, ShortcutsWorkWhereTheirControlCanBeUsed) {
+  std::string heard;
+  events.On(main.mnuNew, Event::Click, [&](EventArgs&) { heard += "new "; });
+  events.On(main.iLbl, Event::Click, [&](EventArgs&) { heard += "ytd "; });
+  QWindow* const window = mirror.BindingOf(main)->Widget().windowHandle();
+  const auto press = [&] {
+    window->requestActivate();
+    QTest::qWait(0);
+    QTest::keySequence(window, QStringLiteral("Ctrl+N"));
+    QTest::keySequence(window, QStringLiteral("Ctrl+Shift+Y"));
+    QTest::qWait(0);
+    return std::exchange(heard, {});
+  };
+  EXPECT_EQ(press(), "new ytd ");
+  input.Enter([this] { main.mnuNew.enabled = main.iLbl.enabled = false; });
+  EXPECT_EQ(press(), "");
+  input.Enter([this] { main.mnuNew.enabled = main.iLbl.enabled = true; });
+  input.Enter([&] {
+    const WaitScope request(mirror);
+    EXPECT_EQ(press(), "");
+  });
+  input.Enter([this] { desk.Show(payment, Modality::Modeless, Attention::KeepsMainDisabled); });
+  EXPECT_EQ(press(), "");
+  // Nothing in that window has the focus: its own keys still work.
+  input.Enter([this] { desk.ClearFocus(payment); });
+  QTest::keyClick(mirror.BindingOf(payment)->Widget().windowHandle(), Qt::Key_Escape);
+  QTest::qWait(0);
+  EXPECT_FALSE(desk.IsShown(payment));
+  EXPECT_EQ(press(), "new ytd ");
+}
+
 TEST_F(MirrorTest, InputDuringAWaitIsThrownAway) {
   QPushButton& button = Widget<QPushButton>(main.Command1);
   mirror.Begin();

@@ -10,6 +10,8 @@ struct frmSplash : Window {
     caption = "Benevix";
     width = 7200;
     height = 4800;
+    Image2[0].shortcut = kEnterShortcut;
+    Image2[1].shortcut = kEscapeShortcut;
   }
 
   PictureBox Image1;

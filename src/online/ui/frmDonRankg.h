@@ -10,6 +10,7 @@ struct frmDonRankg : Window {
     caption = " Donors Ranking";
     width = 6000;
     height = 3600;
+    Command1.shortcut = kEnterShortcut;
   }
 
   Label Label1{"What name would you like to use for your entry on the Donors Ranking?"};

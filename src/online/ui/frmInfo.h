@@ -19,6 +19,7 @@ struct frmInfo : Window {
     Label1.holder = "Picture1";
     Label1.height = kPanelHeight;
     VScroll1.holder = "Picture1";
+    Label3.shortcut = "Ctrl+T";
   }
 
   // Shows a page in place of the text panel, never under the title of the page before.

@@ -12,6 +12,10 @@ struct frmMail : Window {
     height = 6600;
     Text1[1].multiLine = true;
     Command1[2].enabled = false;
+    // Not by Enter: what is sent cannot be called back.
+    Command1[0].shortcut = "Ctrl+Return";
+    Command1[1].shortcut = kEscapeShortcut;
+    Command1[2].shortcut = "Ctrl+P";
   }
 
   // 3 the sender's e-mail, 4 the organization's name; the others name the fields.

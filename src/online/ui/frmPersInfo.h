@@ -17,6 +17,8 @@ struct frmPersInfo : Window {
     caption = " Contact Information";
     width = 7200;
     height = 6600;
+    Command1[0].shortcut = kEnterShortcut;
+    Command1[1].shortcut = kEscapeShortcut;
   }
 
   Label Label1[contact_field::kCount] = {Label("Full Name"), Label("Address"),     Label("City"),

@@ -17,6 +17,8 @@ struct frmPrefsTranslate : Window {
     caption = " Translation Preferences";
     width = 6000;
     height = 4200;
+    Command2.shortcut = kEnterShortcut;
+    Command1.shortcut = kEscapeShortcut;
     Text1[translate_field::kFromLanguage].text = "en";
   }
 

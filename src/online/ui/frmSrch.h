@@ -11,6 +11,7 @@ struct frmSrch : Window {
     width = 4800;
     height = 2400;
     Option1[0].value = true;
+    Command1.shortcut = kEnterShortcut;
   }
 
   Label Label1{"Word"};

@@ -17,6 +17,8 @@ struct frmTellAFriend : Window {
     caption = " Tell a friend about Benevix";
     width = 6000;
     height = 4200;
+    Command1[0].shortcut = kEnterShortcut;
+    Command1[1].shortcut = kEscapeShortcut;
   }
 
   Label Label1[4] = {Label("Your Friend's Name"), Label("Friend's E-mail"), Label("Your Name"),

@@ -10,6 +10,7 @@ struct frmWait : Window {
     caption = " Contacting Remote Server";
     width = 5400;
     height = 1800;
+    closesByEscape = false;
   }
 
   Label Label2{"Retrieving Information. Please wait..."};

@@ -9,6 +9,8 @@ struct frmWizard : Window {
   frmWizard() {
     width = 6600;
     height = 4200;
+    Command1.shortcut = kEnterShortcut;
+    Command2.shortcut = "F1";
   }
 
   PictureBox Image1;

@@ -18,6 +18,8 @@ struct frmPayOpt : Window {
     width = 6600;
     height = 3600;
     Command1[0].enabled = false;
+    Command1[0].shortcut = kEnterShortcut;
+    Command1[1].shortcut = "F1";
   }
 
   Label Label1{

@@ -4,6 +4,10 @@
 
 namespace benevix {
 
+// What the two indicators tell while they are off.
+inline constexpr const char* kNoNews = "No news";
+inline constexpr const char* kNoAmounts = "No amounts";
+
 // The main window.
 struct frmBVX : Window {
   frmBVX() {
@@ -32,6 +36,35 @@ struct frmBVX : Window {
     mnuWhatis.visible = false;
     lclist.items[0];
     qhelp1.items[0];
+    Shape2.meaning = kNoAmounts;
+    Shape5.meaning = kNoNews;
+    GiveShortcuts();
+  }
+
+  // A command that has a menu item carries it there.
+  void GiveShortcuts() {
+    closesByEscape = false;
+    ListView1.shortcut = "Ctrl+L";
+    Label12.shortcut = "Ctrl+Shift+N";
+    iLbl.shortcut = "Ctrl+Shift+Y";
+    mnuNew.shortcut = "Ctrl+N";
+    mnuPrntSession.shortcut = "Ctrl+P";
+    mnuHistory.shortcut = "Ctrl+H";
+    mnuPrtHistory.shortcut = "Ctrl+Shift+P";
+    mnuUpdateList.shortcut = "F5";
+    mnuExit.shortcut = "Ctrl+Q";
+    mnuCls.shortcut = "Ctrl+Shift+Del";
+    mnuCorrect.shortcut = "F2";
+    mnuDistribFavs.shortcut = "Ctrl+Shift+D";
+    mnuFavAddTop.shortcut = "Ctrl+D";
+    mnuChgPayMethod.shortcut = "Ctrl+Shift+M";
+    mnuSettings.shortcut = "Ctrl+I";
+    mnuSearch.shortcut = "Ctrl+F";
+    mnuMoreInfo.shortcut = "Ctrl+T";
+    mnuContactThem.shortcut = "Ctrl+M";
+    mnuGotheirWeb.shortcut = "Ctrl+G";
+    mnuRecallSession.shortcut = "Ctrl+R";
+    mnuHelp.shortcut = "F1";
   }
 
   Label Label1[4] = {Label("Budget"), Label("Balance"), Label("Donation"), Label("Funds")};
@@ -164,6 +197,7 @@ void visit(frmBVX& window, F&& f) {
   f("Frame2", window.Frame2);
   f("Label10", window.Label10);
   f("Option3", window.Option3);
+  f("ListView1", window.ListView1);
   f("Frame1", window.Frame1);
   f("Option1", window.Option1);
   f("Combo1", window.Combo1);
@@ -175,7 +209,6 @@ void visit(frmBVX& window, F&& f) {
   f("Check2", window.Check2);
   f("Frame9", window.Frame9);
   f("iLbl", window.iLbl);
-  f("ListView1", window.ListView1);
   f("Command1(1)", window.Command1);
   f("Label6", window.Label6);
   f("Label12", window.Label12);

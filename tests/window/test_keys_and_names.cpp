@@ -1,0 +1,199 @@
+// What a user of the keyboard or of a screen reader meets, in every window.
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <gtest/gtest.h>
+#include <set>
+
+#include "every_window.h"
+
+namespace benevix {
+namespace {
+
+class WindowsTest : public testing::Test, protected EveryWindow {
+ protected:
+  WindowsTest() : EveryWindow(Scheme::Light) {}
+
+  WindowBinding& BindingOf(const Desk::Entry& entry) { return *mirror.BindingOf(*entry.window); }
+};
+
+// What only holds others needs no name.
+bool IsContainer(QAccessible::Role role) {
+  const std::set<QAccessible::Role> containers = {
+      QAccessible::Client, QAccessible::Border,   QAccessible::Pane, QAccessible::LayeredPane,
+      QAccessible::Window, QAccessible::Splitter, QAccessible::Grip, QAccessible::Separator};
+  return containers.count(role) != 0;
+}
+
+std::string Describe(QAccessibleInterface& item) {
+  const QObject* const object = item.object();
+  return (object == nullptr
+              ? std::string("?")
+              : object->metaObject()->className() + (" " + object->objectName().toStdString())) +
+         " of role " + std::to_string(item.role());
+}
+
+void ExpectNames(QAccessibleInterface& item) {
+  EXPECT_NE(item.role(), QAccessible::NoRole) << Describe(item);
+  const auto* const label = qobject_cast<const QLabel*>(item.object());
+  const bool saysNothing = label != nullptr && label->text().isEmpty() && label->pixmap().isNull();
+  if (!IsContainer(item.role()) && (!saysNothing || item.role() == QAccessible::Link)) {
+    EXPECT_FALSE(item.text(QAccessible::Name).isEmpty()) << Describe(item);
+  }
+  if (item.role() == QAccessible::Table) return;
+  for (int i = 0; i < item.childCount(); ++i) {
+    QAccessibleInterface* const child = item.child(i);
+    if (child != nullptr && !child->state().invisible) ExpectNames(*child);
+  }
+}
+
+TEST_F(WindowsTest, EveryControlHasANameARoleAndAValue) {
+  for (const Desk::Entry& entry : desk.Entries()) {
+    SCOPED_TRACE(entry.name);
+    ExpectNames(*QAccessible::queryAccessibleInterface(&BindingOf(entry).Widget()));
+    for (const NamedControl& control : entry.controls) {
+      QWidget* const widget = BindingOf(entry).WidgetOf(control.Base());
+      if (widget == nullptr) continue;
+      QAccessibleInterface& item = *QAccessible::queryAccessibleInterface(widget);
+      EXPECT_FALSE(item.text(QAccessible::Name).isEmpty()) << Describe(item);
+      if (control.Base().shortcut[0] != 0) {
+        EXPECT_FALSE(IsContainer(item.role())) << Describe(item);
+      }
+    }
+  }
+  const auto value = [this](const Control& control) {
+    QWidget* const widget = mirror.BindingOf(windows.main)->WidgetOf(control);
+    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Value).toStdString();
+  };
+  input.Enter([this] { windows.main.Text1[0].Write("100"); });
+  EXPECT_EQ(value(windows.main.Text1[0]), "100");
+  EXPECT_EQ(value(windows.main.Shape5), kNoNews);
+}
+
+TEST_F(WindowsTest, TheListSpeaksItsHeadingsCellsAndSelectedRow) {
+  input.Enter([this] { windows.main.ListView1.selected = 2; });
+  QWidget* const view = mirror.BindingOf(windows.main)->WidgetOf(windows.main.ListView1);
+  QAccessibleTableInterface* const table =
+      QAccessible::queryAccessibleInterface(view)->tableInterface();
+  ASSERT_NE(table, nullptr);
+  EXPECT_EQ(table->columnDescription(1), QStringLiteral("Organization"));
+  EXPECT_EQ(table->cellAt(1, 1)->text(QAccessible::Name), QStringLiteral("Organization 2"));
+  EXPECT_EQ(table->selectedRows(), QList<int>{1});
+}
+
+TEST_F(WindowsTest, LinksCanBePressedByAScreenReader) {
+  int clicks = 0;
+  events.On(windows.main.iLbl, Event::Click, [&](EventArgs&) { ++clicks; });
+  QWidget* const label = mirror.BindingOf(windows.main)->WidgetOf(windows.main.iLbl);
+  QAccessible::queryAccessibleInterface(label)->actionInterface()->doAction(
+      QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(clicks, 1);
+}
+
+// Tab goes the same way by the desk and by the toolkit, which leads out of pages.
+TEST_F(WindowsTest, BothFacesHaveOneTabOrder) {
+  for (const Desk::Entry& entry : desk.Entries()) {
+    std::vector<const QWidget*> logic;
+    for (const NamedControl& control : entry.controls) {
+      const QWidget* const widget = BindingOf(entry).WidgetOf(control.Base());
+      if (widget != nullptr && Desk::TakesFocus(control)) logic.push_back(widget);
+    }
+    std::vector<const QWidget*> toolkit;
+    QWidget& window = BindingOf(entry).Widget();
+    for (QWidget* at = window.nextInFocusChain(); at != &window; at = at->nextInFocusChain()) {
+      if (std::find(logic.begin(), logic.end(), at) != logic.end()) toolkit.push_back(at);
+    }
+    EXPECT_EQ(toolkit, logic) << entry.name;
+  }
+}
+
+bool Takes(QWidget& box, const QKeySequence& keys) {
+  QKeyEvent event(QEvent::ShortcutOverride, keys[0].key(), keys[0].keyboardModifiers());
+  event.ignore();
+  QCoreApplication::sendEvent(&box, &event);
+  return event.isAccepted();
+}
+
+TEST_F(WindowsTest, ShortcutsAreUniqueAndLeaveTheBoxesTheirKeys) {
+  QLineEdit line;
+  QPlainTextEdit lines;
+  for (const Desk::Entry& entry : desk.Entries()) {
+    std::set<QString> seen;
+    for (const NamedControl& control : entry.controls) {
+      const QKeySequence keys(QLatin1String(control.Base().shortcut));
+      if (keys.isEmpty()) continue;
+      const QString name = keys.toString();
+      EXPECT_TRUE(seen.insert(name).second) << entry.name << " " << name.toStdString();
+      if (name == kEnterShortcut || name == kEscapeShortcut) continue;
+      EXPECT_FALSE(Takes(line, keys) || Takes(lines, keys))
+          << entry.name << " " << name.toStdString();
+    }
+  }
+}
+
+void ExpectOwnLetters(const std::vector<QString>& texts, const std::string& where) {
+  std::set<QKeySequence> seen;
+  for (const QString& text : texts) {
+    const QKeySequence keys = QKeySequence::mnemonic(text);
+    EXPECT_FALSE(keys.isEmpty()) << where << ": " << text.toStdString() << " has no letter";
+    EXPECT_TRUE(seen.insert(keys).second) << where << ": " << text.toStdString();
+  }
+}
+
+void ExpectOwnLettersInMenus(const QMenu& menu) {
+  std::vector<QString> texts;
+  for (const QAction* const action : menu.actions()) {
+    if (!action->text().isEmpty()) texts.push_back(action->text());
+    if (action->menu() != nullptr) ExpectOwnLettersInMenus(*action->menu());
+  }
+  ExpectOwnLetters(texts, menu.title().toStdString());
+}
+
+TEST_F(WindowsTest, LettersOfAltAndOfEachMenuAreUnique) {
+  for (const Desk::Entry& entry : desk.Entries()) {
+    QWidget& window = BindingOf(entry).Widget();
+    std::vector<QString> texts;
+    for (const QPushButton* const button : window.findChildren<QPushButton*>()) {
+      texts.push_back(button->text());
+    }
+    for (const QLabel* const label : window.findChildren<QLabel*>()) {
+      const bool leads = label->buddy() != nullptr && label->buddy()->focusPolicy() != Qt::NoFocus;
+      if (leads) texts.push_back(label->text());
+    }
+    for (const QMenu* const menu : window.findChildren<QMenu*>()) {
+      if (menu->parent() == window.findChild<QMenuBar*>()) ExpectOwnLettersInMenus(*menu);
+    }
+    if (const auto* const main = qobject_cast<QMainWindow*>(&window)) {
+      for (const QAction* const title : main->menuBar()->actions()) texts.push_back(title->text());
+    }
+    ExpectOwnLetters(texts, entry.name);
+  }
+  // Of two captions that mark the same letter the first keeps it.
+  const QAction* const favorites =
+      mirror.BindingOf(windows.main)->ActionOf({"TFavs", -1, &windows.main.TFavs}, -1);
+  EXPECT_EQ(favorites->text(), QStringLiteral("F&avorites"));
+}
+
+TEST_F(WindowsTest, WhatEnterPressesLooksLikeIt) {
+  for (const Desk::Entry& entry : desk.Entries()) {
+    for (const NamedControl& control : entry.controls) {
+      if (control.As<Button>() == nullptr ||
+          control.Base().shortcut != std::string_view(kEnterShortcut)) {
+        continue;
+      }
+      const QWidget* const widget = BindingOf(entry).WidgetOf(control.Base());
+      EXPECT_EQ(widget->property("look").toString(), QStringLiteral("primary")) << entry.name;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace benevix
