@@ -1,5 +1,3 @@
-#include "window/list_binding.h"
-
 #include <QEvent>
 #include <QHeaderView>
 #include <QMenu>
@@ -8,6 +6,7 @@
 #include <QTableView>
 
 #include "database/organization_list.h"
+#include "window/bound.h"
 #include "window/list_delegate.h"
 #include "window/list_model.h"
 #include "window/texts.h"
@@ -121,7 +120,7 @@ class ListBinding : public QObject, public Binding {
 
 }  // namespace
 
-std::unique_ptr<Binding> MakeListBinding(ListView& list, QWidget& widget, BindingContext& context) {
+std::unique_ptr<Binding> Bind(ListView& list, QWidget& widget, BindingContext& context) {
   auto* const view = qobject_cast<QTableView*>(&widget);
   if (view == nullptr) return nullptr;
   return std::make_unique<ListBinding>(list, *view, context);
