@@ -25,8 +25,8 @@ struct BindingContext {
 class Binding {
  public:
   virtual ~Binding() = default;
-  // The letter that Alt reaches the control by; for those whose caption can show one.
-  [[nodiscard]] virtual bool TakesMnemonic() const { return false; }
+  // The caption of a control that Alt and a letter can reach, else empty; and that letter.
+  [[nodiscard]] virtual QString MnemonicCaption() const { return {}; }
   virtual void SetMnemonic(QChar /*letter*/) {}
   virtual void Apply() = 0;
   [[nodiscard]] virtual QWidget* Widget() const = 0;

@@ -32,7 +32,7 @@ class ButtonBinding : public Bound<Button, QPushButton> {
     if (widget_.text() != text) widget_.setText(text);
   }
 
-  [[nodiscard]] bool TakesMnemonic() const override { return true; }
+  [[nodiscard]] QString MnemonicCaption() const override { return ToQString(control_.caption); }
   void SetMnemonic(QChar letter) override { mnemonic_ = letter; }
 
  private:

@@ -26,7 +26,7 @@ class LabelBinding : public Bound<Label, QLabel> {
     ApplyBase(control_, widget_);
     const QString caption = Drawn(control_.caption);
     const QString text =
-        TakesMnemonic() ? WithMnemonic(caption, mnemonic_) : WithoutMnemonic(caption);
+        LeadsToABox() ? WithMnemonic(caption, mnemonic_) : WithoutMnemonic(caption);
     if (widget_.text() != text) {
       widget_.setText(text);
       if (IsFree()) widget_.adjustSize();
@@ -37,13 +37,16 @@ class LabelBinding : public Bound<Label, QLabel> {
     if (IsFree()) Place();
   }
 
-  // The letter goes to the box that the label names.
-  [[nodiscard]] bool TakesMnemonic() const override {
-    return widget_.buddy() != nullptr && widget_.buddy()->focusPolicy() != Qt::NoFocus;
+  [[nodiscard]] QString MnemonicCaption() const override {
+    return LeadsToABox() ? ToQString(control_.caption) : QString();
   }
   void SetMnemonic(QChar letter) override { mnemonic_ = letter; }
 
  private:
+  [[nodiscard]] bool LeadsToABox() const {
+    return widget_.buddy() != nullptr && widget_.buddy()->focusPolicy() != Qt::NoFocus;
+  }
+
   // A label in a panel without a layout is moved by the program.
   [[nodiscard]] bool IsFree() const {
     return widget_.parentWidget() != nullptr && widget_.parentWidget()->layout() == nullptr &&

@@ -1,6 +1,7 @@
 #include "window/menu_binding.h"
 
 #include <QCursor>
+#include <QShortcut>
 #include <algorithm>
 #include <memory>
 #include <string_view>
@@ -34,6 +35,9 @@ MenuBinding::MenuBinding(const Desk::Entry& entry, QMenuBar& bar, BindingContext
     }
   }
   for (const auto& [name, menu] : menus_) GiveMnemonics(name);
+  auto* const toMenus = new QShortcut(QKeySequence(Qt::Key_F10), &bar);
+  QObject::connect(toMenus, &QShortcut::activated, &bar,
+                   [&bar] { bar.setActiveAction(bar.actions().value(0)); });
 }
 
 QStringList MenuBinding::Titles() const {
@@ -97,7 +101,7 @@ void MenuBinding::AddItem(const NamedControl& control, bool holds) {
   action->setObjectName(QString::fromStdString(control.name));
   action->setShortcut(QKeySequence(QLatin1String(item.shortcut)));
   action->setAutoRepeat(false);
-  items_.push_back({&item, action, menu, item.popUps, {}});
+  items_.push_back({&item, action, menu, item.popUps});
 }
 
 void MenuBinding::AddArray(MenuArray& array) {

@@ -27,11 +27,11 @@ class MenuBinding {
 
  private:
   struct Item {
-    MenuItem* item;
-    QAction* action;
-    QMenu* menu;  // null for an item that holds none
-    int popUps;
-    QChar mnemonic;
+    MenuItem* item = nullptr;
+    QAction* action = nullptr;
+    QMenu* menu = nullptr;  // null for an item that holds none
+    int popUps = 0;
+    QChar mnemonic = {};
   };
   struct Array {
     MenuArray* array;

@@ -92,15 +92,11 @@ void WindowBinding::GiveMnemonics() {
   QStringList captions = menus_ ? menus_->Titles() : QStringList();
   const auto titles = captions.size();
   std::vector<Binding*> takers;
-  for (const bool button : {true, false}) {  // a button's mark goes before a label's
-    for (const Bound& bound : bound_) {
-      const bool isButton = bound.control->As<Button>() != nullptr;
-      if (isButton != button || !bound.binding->TakesMnemonic()) continue;
-      takers.push_back(bound.binding.get());
-      const Label* const label = bound.control->As<Label>();
-      captions.append(
-          ToQString(label != nullptr ? label->caption : bound.control->As<Button>()->caption));
-    }
+  for (const Bound& bound : bound_) {
+    const QString caption = bound.binding->MnemonicCaption();
+    if (caption.isEmpty()) continue;
+    takers.push_back(bound.binding.get());
+    captions.append(caption);
   }
   const std::vector<QChar> letters = Mnemonics(captions);
   const auto own = letters.begin() + titles;
