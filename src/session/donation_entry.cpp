@@ -172,7 +172,10 @@ void DonationEntry::OverLimit(const Row& row) {
                      "With the present options the maximum donation is: $" + Maximum(row).ToText() +
                          ".   Would you like to adjust the Budget instead?   ",
                      BoxIcon::Information, BoxButtons::YesNo);
-  if (answer != BoxAnswer::Yes) return;
+  if (answer != BoxAnswer::Yes) {
+    ++main_.Text1[2].selections;  // the next amount replaces the refused one
+    return;
+  }
   const Currency rise = WholeDollars(lacks);
   const Currency raised = values_.Balance + rise;
   values_.Budget += rise;  // both or, when one overflows, none

@@ -170,4 +170,11 @@ int ThemeStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
   }
 }
 
+int ThemeStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* answer) const {
+  // The buttons of a question look like all others.
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
 }  // namespace benevix

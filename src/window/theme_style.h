@@ -22,6 +22,8 @@ class ThemeStyle : public QProxyStyle {
                                    const QWidget* widget) const override;
   [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
                                 const QWidget* widget) const override;
+  [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                              QStyleHintReturn* answer) const override;
 };
 
 }  // namespace benevix
