@@ -153,7 +153,7 @@ TEST_F(HttpClientTest, LimitCutsOff) {
   options_.limit = body.size();
   EXPECT_EQ(Open(), body);
   EXPECT_EQ(last, body.size());
-  server_.respond = [&](httplib::Stream& stream) {
+  server_.respond = [body](httplib::Stream& stream) {
     for (stream.write(kOK + "\r\n"); stream.write(body) > 0;) continue;
   };
   EXPECT_EQ(Open(), "");
