@@ -28,14 +28,14 @@ std::string FeesText(std::size_t option, const Charge& charge) {
 }  // namespace
 
 Charge ChargeWith(int option, const SessionValues& values, const FeeRates& rates,
-                  const frmBVX& main) {
+                  Currency serviceFees, bool roundUp) {
   FeeRates published = rates;
   published.CardRate = rates.PublishedCardRate;
   published.CardFixed = rates.PublishedCardFixed;
   Charge charge;
-  charge.amount = Currency::FromText(
-      PaymentAmount(values, published, main.ListView1, option, main.mnuRound.checked));
-  charge.serviceFees = ServiceFeeTotal(main.ListView1);
+  charge.amount =
+      Currency::FromText(PaymentAmount(values, published, serviceFees, option, roundUp));
+  charge.serviceFees = serviceFees;
   charge.methodFee = charge.amount - values.TotalDonated - charge.serviceFees;
   return charge;
 }
@@ -43,12 +43,13 @@ Charge ChargeWith(int option, const SessionValues& values, const FeeRates& rates
 void Charges::Show() {
   ByMethod charges;
   try {
+    const Currency serviceFees = ServiceFeeTotal(main_.ListView1);
     if (values_.TotalDonated != Currency()) {
       for (int option = 0; auto& charge : charges) {
-        charge = ChargeWith(option++, values_, rates_, main_);
+        charge = ChargeWith(option++, values_, rates_, serviceFees, main_.mnuRound.checked);
       }
     }
-    ShowUse(charges);
+    ShowUse(serviceFees, charges);
   } catch (const RuntimeError&) {
     charges = {};
     main_.BudgetUse = MoneyBar();
@@ -59,7 +60,7 @@ void Charges::Show() {
 }
 
 // Fees that come on top of the Budget stand behind what is left of it.
-void Charges::ShowUse(const ByMethod& charges) {
+void Charges::ShowUse(Currency serviceFees, const ByMethod& charges) {
   using Part = MoneyBar::Part;
   MoneyBar& bar = main_.BudgetUse;
   bar = MoneyBar();
@@ -75,7 +76,7 @@ void Charges::ShowUse(const ByMethod& charges) {
   const Part left{Part::Use::Left, "Left", values_.Balance};
   bar.parts.push_back({Part::Use::Given, "Given", values_.TotalDonated});
   if (!deducts) bar.parts.push_back(left);
-  bar.parts.push_back({Part::Use::ServiceFees, "Service fees", ServiceFeeTotal(main_.ListView1)});
+  bar.parts.push_back({Part::Use::ServiceFees, "Service fees", serviceFees});
   bar.parts.push_back({Part::Use::MethodFee, kMethodFees[method], methodFee});
   if (deducts) bar.parts.push_back(left);
 

@@ -19,7 +19,7 @@ struct Charge {
 // The session as it stands, paid with the method, by the rates that the server published. Raises
 // RuntimeError on overflow.
 Charge ChargeWith(int option, const SessionValues& values, const FeeRates& rates,
-                  const frmBVX& main);
+                  Currency serviceFees, bool roundUp);
 
 // Shows, before anything is finalized, how the Budget is used and what each payment method would
 // charge. All of it follows from the session; nothing is kept.
@@ -34,7 +34,7 @@ class Charges {
  private:
   using ByMethod = std::array<std::optional<Charge>, 3>;
 
-  void ShowUse(const ByMethod& charges);
+  void ShowUse(Currency serviceFees, const ByMethod& charges);
   void ShowCharge(std::size_t option, const std::optional<Charge>& charge);
 
   frmBVX& main_;

@@ -71,8 +71,8 @@ Finalization::Prepared Finalization::Prepare(int option) {
   prepared.session.budget = values_.Budget;
   prepared.session.charged =
       ChargedTotal(values_, rates_, main.ListView1, option, main.mnuAddFees.checked);
-  prepared.session.amountText =
-      PaymentAmount(values_, rates_, main.ListView1, option, main.mnuRound.checked);
+  prepared.session.amountText = PaymentAmount(values_, rates_, ServiceFeeTotal(main.ListView1),
+                                              option, main.mnuRound.checked);
   return prepared;
 }
 

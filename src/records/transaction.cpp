@@ -56,9 +56,9 @@ const std::string& Payee(const FeeRates& rates, int option) {
   return option == payment::kFundsTransfer ? rates.RatesField7 : rates.RatesField6;
 }
 
-std::string PaymentAmount(const SessionValues& values, const FeeRates& rates, const ListView& list,
+std::string PaymentAmount(const SessionValues& values, const FeeRates& rates, Currency serviceFees,
                           int option, bool roundUp) {
-  const Currency given = values.TotalDonated + ServiceFeeTotal(list);
+  const Currency given = values.TotalDonated + serviceFees;
   double amount = given.ToDouble();
   if (Payee(rates, option) == rates.RatesField6) {
     if (option == payment::kCreditCard) {

@@ -35,7 +35,7 @@ Currency ChargedTotal(const SessionValues& values, const FeeRates& rates, const 
 
 // What is to be paid, "###.#0", rounded up to whole dollars when asked for. The payee decides
 // between funds transfer and the rest: equal accounts are charged as the first one.
-std::string PaymentAmount(const SessionValues& values, const FeeRates& rates, const ListView& list,
+std::string PaymentAmount(const SessionValues& values, const FeeRates& rates, Currency serviceFees,
                           int option, bool roundUp);
 
 // The account that the payment goes to.
