@@ -37,7 +37,7 @@ void OrganizationInformation::MoreInfo() {
   viewer.PutText(page);
   viewer.Picture1.visible = true;
   desk_.SetFocus(viewer.VScroll1);  // so that the arrow keys move the text
-  waits_.DoEvents();  // the text is measured as it is drawn
+  waits_.DoEvents();                // the text is measured as it is drawn
   viewer.MeasureText();
 }
 
