@@ -31,11 +31,9 @@ Text Shown(const QString& text) {
 }
 
 // Where the mnemonic's mark is drawn is not the caption's business.
-Text Caption(QString shown, const Text& designed) {
-  if (designed &&
-      Drawn(*designed).remove(QLatin1Char('&')) == QString(shown).remove(QLatin1Char('&'))) {
-    return designed;
-  }
+Text Caption(const QString& shown, const Text& designed) {
+  const auto unmarked = [](QString text) { return text.remove(QLatin1Char('&')); };
+  if (designed && unmarked(Drawn(*designed)) == unmarked(shown)) return designed;
   return Shown(shown);
 }
 
