@@ -38,6 +38,13 @@ void DisableSandbox() {
   qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
 }
 
+// What the toolkit and the engine find to say about the screen and their start is not the story.
+void QuietToolkit() {
+  const char* const variable = "QT_LOGGING_RULES";
+  if (qEnvironmentVariableIsSet(variable)) return;
+  qputenv(variable, "*.debug=false;*.info=false;*.warning=false");
+}
+
 void Print(const QString& text) {
   std::printf("%s\n", qUtf8Printable(text));
 }
@@ -86,16 +93,13 @@ int main(int argc, char** argv) {
     const QGuiApplication app(argc, argv);
     return 0;
   }
+  QuietToolkit();
   if (ProbeDisplay(argc, argv)) {
     const QCoreApplication app(argc, argv);
     return Demonstrate(true);
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");
   DisableSandbox();
-  // What the toolkit and the engine find to say about the missing screen is not the story.
-  if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES")) {
-    qputenv("QT_LOGGING_RULES", "*.debug=false;*.info=false;*.warning=false");
-  }
   const QApplication app(argc, argv);
   // The toolkit sets the user's locale, in which a number may have a comma.
   std::setlocale(LC_NUMERIC, "C");

@@ -51,6 +51,7 @@ void Finalization::Run(int option, std::string& heading) {
   lastRecord_ = prepared.session;
   main.mnuPrntSession.enabled = true;
   ShowHint(main, hint::kFinalized);
+  desk_.SetFocus(main.ListView1);  // one more Enter must not pay once more
   main.Command1.tag.clear();
 }
 

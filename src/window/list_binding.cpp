@@ -31,6 +31,8 @@ class ListBinding : public QObject, public Binding {
                      [this](const QModelIndex& current) {
                        // The mouse is followed to its release instead.
                        if (context_.applying || pressed_ || !current.isValid()) return;
+                       // The view's own place, taken when the focus comes, is nobody's choice.
+                       if (!view_.selectionModel()->isSelected(current)) return;
                        context_.input.SelectRow(list_, current.row() + 1, MouseButton::Left, true);
                      });
   }
@@ -102,6 +104,7 @@ class ListBinding : public QObject, public Binding {
     }
     const int unit = view_.fontMetrics().averageCharWidth();
     const int widths[] = {12, 46, 16, 14, 16, 20};  // characters
+    header.setMinimumSectionSize(8 * unit);
     for (int i = 0; i < 6; ++i) header.resizeSection(i, widths[i] * unit);
     for (int i = 6; i < ListView::kColumns; ++i) header.resizeSection(i, 14 * unit);
     header.setSectionResizeMode(column::kOrganization, QHeaderView::Stretch);

@@ -5,9 +5,11 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTableView>
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "../list_of_a_test.h"
 #include "controls/desk.h"
 #include "controls/input.h"
 #include "core/wait_notice.h"
@@ -134,6 +136,16 @@ TEST_F(MirrorTest, ShortcutsWorkWhereTheirControlCanBeUsed) {
   QTest::qWait(0);
   EXPECT_FALSE(desk.IsShown(payment));
   EXPECT_EQ(press(), "new ytd ");
+}
+
+TEST_F(MirrorTest, TheFocusAloneChoosesNoRow) {
+  auto& view = Widget<QTableView>(main.ListView1);
+  input.Enter([this] { main.ListView1.SetRows(std::make_shared<RowsOfATest>()); });
+  view.setFocus(Qt::TabFocusReason);
+  ASSERT_TRUE(view.hasFocus());
+  EXPECT_EQ(main.ListView1.selected, 0);
+  QTest::keyClick(&view, Qt::Key_Down);
+  EXPECT_GT(main.ListView1.selected, 0);
 }
 
 TEST_F(MirrorTest, InputDuringAWaitIsThrownAway) {
