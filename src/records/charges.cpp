@@ -22,6 +22,7 @@ std::string FeesText(std::size_t option, const Charge& charge) {
   if (charge.methodFee != Currency()) {
     text += std::string(", ") + kMethodFees[option] + " " + Money(charge.methodFee);
   }
+  if (charge.rounding != Currency()) text += ", rounding " + Money(charge.rounding);
   return text;
 }
 
@@ -32,11 +33,14 @@ Charge ChargeWith(int option, const SessionValues& values, const FeeRates& rates
   FeeRates published = rates;
   published.CardRate = rates.PublishedCardRate;
   published.CardFixed = rates.PublishedCardFixed;
+  const auto amount = [&](bool rounded) {
+    return Currency::FromText(PaymentAmount(values, published, serviceFees, option, rounded));
+  };
   Charge charge;
-  charge.amount =
-      Currency::FromText(PaymentAmount(values, published, serviceFees, option, roundUp));
+  charge.amount = amount(roundUp);
   charge.serviceFees = serviceFees;
-  charge.methodFee = charge.amount - values.TotalDonated - charge.serviceFees;
+  charge.rounding = charge.amount - amount(false);
+  charge.methodFee = charge.amount - charge.rounding - values.TotalDonated - serviceFees;
   return charge;
 }
 

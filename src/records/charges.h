@@ -13,7 +13,8 @@ namespace benevix {
 struct Charge {
   Currency amount;
   Currency serviceFees;  // part of the amount
-  Currency methodFee;    // the rest that is not given: card fee, charge for e-checks, rounding
+  Currency methodFee;    // card fee, charge for e-checks
+  Currency rounding;     // up to whole dollars, when asked for
 };
 
 // The session as it stands, paid with the method, by the rates that the server published. Raises
