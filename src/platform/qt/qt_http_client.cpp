@@ -20,7 +20,8 @@ namespace {
 constexpr int kMostRedirects = 10;
 constexpr int kDefaultTimeout = 5;          // seconds
 constexpr int kLongestTimeout = 1'000'000;  // seconds; in milliseconds still an int
-constexpr qint64 kReadBuffer = qint64{1} << 20;
+// Much may come at once, however small the buffer asked for; the progress is told piece by piece.
+constexpr qint64 kPiece = qint64{1} << 20;
 
 struct Answer {
   std::string bytes;
@@ -120,18 +121,21 @@ Answer Get(const QUrl& url, const QNetworkProxy& proxy, const HttpOptions& optio
   EmptyBody body;
   const std::unique_ptr<QNetworkReply> reply(
       manager.sendCustomRequest(Request(url, timeout), "GET", &body));
-  reply->setReadBufferSize(kReadBuffer);
+  reply->setReadBufferSize(kPiece);
 
   Answer answer;
   bool tooLong = false;
   std::exception_ptr raised;  // must not pass through the toolkit's loop
-  const auto take = [&] {
+  // Whether some more of the answer was taken.
+  const auto takePiece = [&] {
     const auto available = static_cast<std::size_t>(reply->bytesAvailable());
-    if (tooLong || raised || available == 0) return;
+    if (tooLong || raised || available == 0) return false;
     tooLong = available > options.limit - answer.bytes.size();
     try {
       if (!tooLong) {
-        answer.bytes += reply->readAll().toStdString();
+        const QByteArray piece = reply->read(kPiece);
+        if (piece.isEmpty()) return false;
+        answer.bytes.append(piece.constData(), static_cast<std::size_t>(piece.size()));
         const auto total = reply->header(QNetworkRequest::ContentLengthHeader).toULongLong();
         if (options.progress) options.progress(answer.bytes.size(), total);
       }
@@ -139,6 +143,10 @@ Answer Get(const QUrl& url, const QNetworkProxy& proxy, const HttpOptions& optio
       raised = std::current_exception();
     }
     if (tooLong || raised) reply->abort();
+    return !tooLong && !raised;
+  };
+  const auto take = [&] {
+    while (takePiece()) continue;
   };
   QEventLoop loop;
   QObject::connect(reply.get(), &QNetworkReply::readyRead, &loop, take);
