@@ -21,7 +21,7 @@ void OrganizationDatabase::LoadOrganizationList() {
 
 std::optional<float> ListFileVersion(const std::string& file) {
   std::ifstream in(PathOf(file), std::ios::binary);
-  if (!in) throw RuntimeError(file + ": cannot be read");
+  if (!in) throw RuntimeError(FromUtf8(file) + ": cannot be read");
   for (std::string line; std::getline(in, line);) {
     if (const auto version = HeaderVersion(line)) return version;
   }

@@ -17,21 +17,55 @@ class ReportsTest : public testing::Test {
     service_.SetPrinter("Letter");
     it_.Enter();
   }
-  // Prints the history file as the menu does; gives what is on the paper behind its head.
-  PrintedPages PrintHistory(int jobs) {
-    it_.program.TheInput().ChooseMenu(it_.program.TheWindows().main.mnuPrtHistory);
+  // Prints by a menu item; gives what is on the paper behind its head.
+  PrintedPages Print(MenuItem& item, const std::string& title, int jobs) {
+    EXPECT_TRUE(it_.program.TheInput().ChooseMenu(item));
     PrintedPages pages(service_.Printed(jobs));
     pages.ExpectLine(40, " -- Benevix  Copyright Quorl -- ");
     for (int i = 0; i < 2; ++i) pages.ExpectLine(1, "");
-    pages.ExpectLine(50, "Benevix - Sessions History");
+    pages.ExpectLine(50, "Benevix - " + title);
     for (int i = 0; i < 2; ++i) pages.ExpectLine(1, "");
     return pages;
+  }
+  PrintedPages PrintHistory(int jobs) {
+    return Print(windows_.main.mnuPrtHistory, "Sessions History", jobs);
+  }
+  void ExpectTail(PrintedPages& pages) {
+    pages.ExpectLine(
+        1, " ------------------------- End Doc ------ 03-05-2003 @ 12:34:56 ------------- " +
+               it_.world.info.deployment.serverBase + " ------------- ");
+    pages.ExpectEnd();
+  }
+  void TypeAndEnter(TextBox& box, const std::string& text) {
+    Input& input = it_.program.TheInput();
+    EXPECT_TRUE(input.Type(box, text));
+    EXPECT_TRUE(input.Key(box, keys::kEnter));
   }
 
   PrintService& service_ = PrintService::Instance();
   QtPrinter printer_;
   ProgramOfATest it_{&printer_};
+  Windows& windows_ = it_.program.TheWindows();
 };
+
+TEST_F(ReportsTest, ASessionIsPrintedAsTheHistoryTellsIt) {
+  it_.world.site.Put("53rv3r/ctact.dat", {.text = "mail?,us"});
+  it_.world.site.Put("mail", {.text = "Thank You"});
+  for (TextBox& box : windows_.contact.Text1) box.text = "x";
+  windows_.main.Combo1.text = "Ann Lee";
+  Input& input = it_.program.TheInput();
+  TypeAndEnter(windows_.main.Text1[0], "50");
+  input.Choose(windows_.payment.Option1[payment::kFundsTransfer]);
+  input.Click(windows_.payment.Command1[0]);
+  input.SelectRow(windows_.main.ListView1, 2, MouseButton::Left);
+  TypeAndEnter(windows_.main.Text1[2], "50");
+  input.Click(windows_.main.Command1);
+  PrintedPages pages = Print(windows_.main.mnuPrntSession, "Current Session", 1);
+  const std::string told = Got(it_.world.info.Resource("history.dat"));
+  EXPECT_NE(told.find("Organization: Water For All -  Amount: $50.00"), std::string::npos);
+  for (const std::string_view line : Lines(told)) pages.ExpectLine(1, std::string(line));
+  ExpectTail(pages);
+}
 
 TEST_F(ReportsTest, AMissingHistoryEndsThePrintoutAndTheNextOneOfSeveralPagesStandsAlone) {
   PrintHistory(1).ExpectEnd();
@@ -46,10 +80,7 @@ TEST_F(ReportsTest, AMissingHistoryEndsThePrintoutAndTheNextOneOfSeveralPagesSta
   EXPECT_GE(pages.Count(), 5U);
   for (const std::string_view line : Lines(text)) pages.ExpectLine(7, std::string(line));
   pages.ExpectLine(1, "");
-  pages.ExpectLine(
-      1, " ------------------------- End Doc ------ 03-05-2003 @ 12:34:56 ------------- " +
-             it_.world.info.deployment.serverBase + " ------------- ");
-  pages.ExpectEnd();
+  ExpectTail(pages);
 }
 
 }  // namespace

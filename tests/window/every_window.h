@@ -3,19 +3,12 @@
 #include <QApplication>
 #include <QTest>
 
+#include "../list_of_a_test.h"
 #include "program/program.h"
 #include "window/mirror.h"
 #include "window/theme.h"
 
 namespace benevix {
-
-class TwoRows : public RowSource {
- public:
-  [[nodiscard]] int Count() const override { return 2; }
-  [[nodiscard]] std::string Text(int row, int column) const override {
-    return column == 1 ? "Organization " + std::to_string(row) : "";
-  }
-};
 
 // All windows of the program on the screen at once, each with everything in it shown and enabled,
 // and with texts where the program would write some.
@@ -38,7 +31,7 @@ class EveryWindow {
     desk.Add("frmSrch", windows.search);
     mirror.Attach(desk, input);
     input.Enter([this] {
-      windows.main.ListView1.SetRows(std::make_shared<TwoRows>());
+      windows.main.ListView1.SetRows(std::make_shared<RowsOfATest>());
       for (Desk::Entry& entry : desk.Entries()) {
         for (const NamedControl& control : entry.controls) Open(control);
         desk.Show(*entry.window);

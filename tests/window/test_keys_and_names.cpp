@@ -85,7 +85,7 @@ TEST_F(WindowsTest, TheListSpeaksItsHeadingsCellsAndSelectedRow) {
       QAccessible::queryAccessibleInterface(view)->tableInterface();
   ASSERT_NE(table, nullptr);
   EXPECT_EQ(table->columnDescription(1), QStringLiteral("Organization"));
-  EXPECT_EQ(table->cellAt(1, 1)->text(QAccessible::Name), QStringLiteral("Organization 2"));
+  EXPECT_EQ(table->cellAt(1, 1)->text(QAccessible::Name), QStringLiteral("Org 2"));
   EXPECT_EQ(table->selectedRows(), QList<int>{1});
 }
 
