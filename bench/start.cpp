@@ -8,11 +8,11 @@
 
 #include "base/runtime_error.h"
 #include "benevix/machine.h"
+#include "mirror/look/theme.h"
+#include "mirror/mirror/mirror.h"
+#include "mirror/mirror/qt_message_boxes.h"
 #include "program/program.h"
 #include "shown.h"
-#include "window/mirror.h"
-#include "window/qt_message_boxes.h"
-#include "window/theme.h"
 
 namespace {
 

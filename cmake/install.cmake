@@ -5,7 +5,7 @@ install(TARGETS benevix_page_viewer LIBRARY DESTINATION plugins)
 install(FILES resources/deployment.ini DESTINATION .)
 install(DIRECTORY resources/ DESTINATION Resources
   FILES_MATCHING PATTERN "*.dat" PATTERN "*.res" PATTERN "*.html")
-install(FILES src/window/images/benevix.svg DESTINATION .)
+install(FILES src/mirror/look/images/benevix.svg DESTINATION .)
 install(DIRECTORY site/ DESTINATION site)
 install(DIRECTORY packaging/ DESTINATION share/man/man1 FILES_MATCHING PATTERN "*.1")
 install(SCRIPT cmake/install_links.cmake)

@@ -41,7 +41,7 @@ package_install(TARGETS benevix_page_viewer
 package_install(FILES resources/deployment.ini DESTINATION etc/benevix)
 package_install(FILES resources/help.html resources/qhelp.html resources/sharedb.dat
                       resources/wlist.res DESTINATION usr/share/benevix/Resources)
-package_install(FILES src/window/images/benevix.svg
+package_install(FILES src/mirror/look/images/benevix.svg
   DESTINATION usr/share/icons/hicolor/scalable/apps)
 package_install(FILES packaging/example.benevix.benevix.metainfo.xml
   DESTINATION usr/share/metainfo)

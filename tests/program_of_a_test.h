@@ -2,9 +2,9 @@
 
 #include <functional>
 
-#include "benevix-play/world.h"
 #include "boxes_of_a_test.h"
 #include "platform/qt/qt_http_client.h"
+#include "player/world.h"
 #include "program/program.h"
 
 namespace benevix {

@@ -9,11 +9,11 @@
 #include <cstdio>
 
 #include "base/runtime_error.h"
-#include "benevix-play/keys.h"
-#include "benevix-play/page_picture.h"
-#include "benevix-play/targets.h"
 #include "database/organization_list.h"
-#include "window/texts.h"
+#include "mirror/look/texts.h"
+#include "player/keys.h"
+#include "player/page_picture.h"
+#include "player/targets.h"
 
 namespace benevix {
 namespace {
@@ -54,8 +54,8 @@ QString Field(const QString& address, const QString& name) {
 Demonstration::Demonstration(const RunFolder& folder, DemonstrationSite& site)
     : folder_(folder),
       site_(site),
-      face_(answers_, folder.Pictures().toStdString()),
-      machine_(folder.Program().toStdString(), face_.TheWaits(), face_.Boxes()),
+      frontEnd_(answers_, folder.Pictures().toStdString()),
+      machine_(folder.Program().toStdString(), frontEnd_.TheWaits(), frontEnd_.Boxes()),
       program_(machine_.TheSurroundings()) {}
 
 void Demonstration::Play() {
@@ -63,7 +63,7 @@ void Demonstration::Play() {
   Tell("The demonstration site answers at " + site_.Address());
   QDir(folder_.Pictures()).removeRecursively();
   QDir().mkpath(folder_.Pictures());
-  face_.Start(program_);
+  frontEnd_.Start(program_);
   program_.Main();
   Enter();
   TypeBudget();
@@ -83,14 +83,15 @@ void Demonstration::Enter() {
   Must(program_.TheDesk().IsShown(program_.TheWindows().main), "the main window opens");
   Must(program_.Run().ServerOK, "the site says that the server is well");
   if (program_.TheDesk().IsShown(program_.TheWindows().wizard)) {
-    Must(face_.Close(program_.TheDesk().Find(program_.TheWindows().wizard)), "the wizard closes");
+    Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheWindows().wizard)),
+         "the wizard closes");
   }
   Tell("Entered; the list has " + Shown(kList + ".Count") + " rows");
 }
 
 void Demonstration::TypeBudget() {
-  Must(face_.Type(FindControl(program_, kBudgetBox), "200"), "a Budget is typed");
-  Must(face_.Press(FindControl(program_, kBudgetBox), kEnterKey), "Enter is pressed");
+  Must(frontEnd_.Type(FindControl(program_, kBudgetBox), "200"), "a Budget is typed");
+  Must(frontEnd_.Press(FindControl(program_, kBudgetBox), kEnterKey), "Enter is pressed");
   Must(program_.Values().Budget == Currency::FromWhole(200), "the Budget is 200");
   Tell("Budget $" + Shown(kBudgetBox + ".Text") + " typed; Balance $" +
        Shown(kBalanceBox + ".Text"));
@@ -107,9 +108,10 @@ void Demonstration::ChoosePayment() {
 
 void Demonstration::Give(int row, const std::string& amount) {
   const QString name = Shown(CellPath(row, column::kOrganization));
-  Must(face_.Select(FindControl(program_, kList), row, MouseButton::Left), name + " is selected");
-  Must(face_.Type(FindControl(program_, kDonationBox), amount), "a donation is typed");
-  Must(face_.Press(FindControl(program_, kDonationBox), kEnterKey), "Enter is pressed");
+  Must(frontEnd_.Select(FindControl(program_, kList), row, MouseButton::Left),
+       name + " is selected");
+  Must(frontEnd_.Type(FindControl(program_, kDonationBox), amount), "a donation is typed");
+  Must(frontEnd_.Press(FindControl(program_, kDonationBox), kEnterKey), "Enter is pressed");
   const QString given = Shown(CellPath(row, column::kAmount));
   Must(given.toDouble() == std::stod(amount), "the list shows the amount");
   Tell("Given $" + given + " to " + name + " (" + Shown(CellPath(row, column::kType)) + ")");
@@ -135,7 +137,7 @@ void Demonstration::FinalizeSession() {
   WaitForPage("the payment page is shown");
   Tell("The payment page is shown");
   TakePicture("payment-page");
-  Must(face_.Close(program_.TheDesk().Find(program_.TheWindows().info)), "the viewer closes");
+  Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheWindows().info)), "the viewer closes");
 }
 
 void Demonstration::ShowHistory() {
@@ -150,15 +152,16 @@ void Demonstration::ShowHistory() {
     TellMore(line);
   }
   TakePicture("history");
-  Must(face_.Close(program_.TheDesk().Find(program_.TheWindows().info)), "the viewer closes");
+  Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheWindows().info)), "the viewer closes");
 }
 
 void Demonstration::Leave() {
   TakePicture("end");
-  Must(face_.Close(program_.TheDesk().Find(program_.TheWindows().main)), "the main window closes");
+  Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheWindows().main)),
+       "the main window closes");
   Must(program_.TheDesk().Ended(), "the program ends");
   program_.Finish();
-  face_.Stop();
+  frontEnd_.Stop();
   Tell("Left");
 }
 
@@ -178,12 +181,12 @@ void Demonstration::Must(bool done, const QString& what) {
 }
 
 void Demonstration::Click(const std::string& path) {
-  Must(face_.Click(FindControl(program_, path)), "a click on " + ToQString(path));
+  Must(frontEnd_.Click(FindControl(program_, path)), "a click on " + ToQString(path));
 }
 
 QString Demonstration::Shown(const std::string& path) {
   const Named named = Find(program_, path);
-  const auto text = face_.Read(named.target, named.property);
+  const auto text = frontEnd_.Read(named.target, named.property);
   Must(text.has_value(), ToQString(path) + " is there");
   return ToQString(*text);
 }
@@ -211,7 +214,7 @@ void Demonstration::WaitForPage(const QString& what) {
 
 void Demonstration::TakePicture(const std::string& name) {
   const std::string numbered = std::to_string(pictures_.size() + 1) + "-" + name;
-  Must(face_.Shot(numbered), "a picture is taken");
+  Must(frontEnd_.Shot(numbered), "a picture is taken");
   pictures_.append(ToQString(numbered) + ".png");
 }
 

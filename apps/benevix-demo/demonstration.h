@@ -5,9 +5,9 @@
 #include <functional>
 #include <string>
 
-#include "benevix-play/window_face.h"
 #include "benevix/machine.h"
 #include "demonstration_site.h"
+#include "player/windows_front_end.h"
 #include "program/program.h"
 #include "run_folder.h"
 
@@ -37,7 +37,7 @@ class Demonstration {
   // Fails unless it is so; a message box that nobody expects fails too.
   void Must(bool done, const QString& what);
   void Click(const std::string& path);
-  // What a property shows; see the face.
+  // What a property shows; see the front end.
   [[nodiscard]] QString Shown(const std::string& path);
   // The first row below a country's heading, countries counted from 1.
   [[nodiscard]] int RowOfOrganization(int country);
@@ -48,7 +48,7 @@ class Demonstration {
   const RunFolder& folder_;
   DemonstrationSite& site_;
   BoxAnswers answers_;
-  WindowFace face_;
+  WindowsFrontEnd frontEnd_;
   Machine machine_;
   Program program_;
   QStringList pictures_;

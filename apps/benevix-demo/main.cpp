@@ -10,8 +10,8 @@
 #include "base/text.h"
 #include "demonstration.h"
 #include "demonstration_site.h"
+#include "mirror/page_viewer/administrator.h"
 #include "run_folder.h"
-#include "window/page_viewer/administrator.h"
 
 namespace {
 

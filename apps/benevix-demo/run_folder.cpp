@@ -7,9 +7,9 @@
 #include <array>
 
 #include "base/runtime_error.h"
+#include "core/codec.h"
 #include "core/settings_store.h"
-#include "database/codec.h"
-#include "online/contact_information.h"
+#include "people/contact_information.h"
 #include "platform/qt/settings_file.h"
 
 namespace benevix {

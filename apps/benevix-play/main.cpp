@@ -7,10 +7,10 @@
 #include <memory>
 #include <optional>
 
-#include "logic_face.h"
-#include "play_file.h"
-#include "run_files.h"
-#include "window_face.h"
+#include "player/logic_front_end.h"
+#include "player/play_file.h"
+#include "player/run_files.h"
+#include "player/windows_front_end.h"
 
 namespace benevix {
 namespace {
@@ -72,13 +72,13 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& count, char** arguments, 
   return std::make_unique<QCoreApplication>(count, arguments);
 }
 
-FaceMaker MakerOf(const Options& options) {
+FrontEndMaker MakerOf(const Options& options) {
   if (options.windows) {
     return [shots = options.shots.toStdString()](BoxAnswers& answers) {
-      return MakeWindowFace(answers, shots);
+      return MakeWindowsFrontEnd(answers, shots);
     };
   }
-  return [](BoxAnswers& answers) { return std::make_unique<LogicFace>(answers); };
+  return [](BoxAnswers& answers) { return std::make_unique<LogicFrontEnd>(answers); };
 }
 
 int Main(int count, char** arguments) {

@@ -17,7 +17,7 @@
 #include <thread>
 #include <vector>
 
-#include "loopback_server.h"
+#include "loopback/loopback_server.h"
 #include "site.h"
 
 namespace benevix {

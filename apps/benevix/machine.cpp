@@ -5,9 +5,9 @@
 #include <QScreen>
 
 #include "benevix/users_folder.h"
+#include "mirror/look/texts.h"
 #include "platform/linux/program_folder.h"
 #include "platform/qt/deployment_file.h"
-#include "window/texts.h"
 
 namespace benevix {
 namespace {

@@ -7,11 +7,11 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "benevix/machine.h"
+#include "mirror/look/theme.h"
+#include "mirror/mirror/mirror.h"
+#include "mirror/mirror/qt_message_boxes.h"
+#include "mirror/mirror/window_layout.h"
 #include "program/program.h"
-#include "window/mirror.h"
-#include "window/qt_message_boxes.h"
-#include "window/theme.h"
-#include "window/window_layout.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "controls/desk.h"
-#include "online/ui/frmWait.h"
+#include "forms/frmWait.h"
 #include "platform/waits.h"
 
 namespace benevix {

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "database/codec.h"
+#include "core/codec.h"
 #include "platform/files.h"
 
 namespace benevix {

@@ -9,7 +9,7 @@
 #include "core/run_values.h"
 #include "core/settings_store.h"
 #include "database/organization_list.h"
-#include "session/ui/frmBVX.h"
+#include "forms/frmBVX.h"
 
 namespace benevix {
 

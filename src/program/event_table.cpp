@@ -159,9 +159,9 @@ void Program::ConnectPayment() {
 
 void Program::ConnectViewer() {
   frmInfo& info = windows_.info;
-  events_.On(info, Event::Load, Plain([this] { infoViewer_.Form_Load(); }));
-  events_.On(info, Event::Unload, Plain([this] { infoViewer_.Form_Unload(); }));
-  events_.On(info.VScroll1, Event::Scroll, Plain([this] { infoViewer_.VScroll1_Scroll(); }));
+  events_.On(info, Event::Load, Plain([this] { informationViewer_.Form_Load(); }));
+  events_.On(info, Event::Unload, Plain([this] { informationViewer_.Form_Unload(); }));
+  events_.On(info.VScroll1, Event::Scroll, Plain([this] { informationViewer_.VScroll1_Scroll(); }));
   events_.On(info.Label3, Event::Click, Plain([this] { translation_.Label3_Click(); }));
 
   frmPrefsTranslate& translate = windows_.translate;

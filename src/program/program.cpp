@@ -1,7 +1,7 @@
 #include "program/program.h"
 
 #include "base/runtime_error.h"
-#include "core/quick_help.h"
+#include "help/quick_help.h"
 #include "session/hints.h"
 #include "session/new_session.h"
 
@@ -46,7 +46,7 @@ Program::Program(Surroundings surroundings)
       help_(windows_.info, windows_.main, desk_, messages_, surroundings_.info),
       news_(windows_.main, windows_.info, desk_, server_, messages_, surroundings_.info,
             [this] { DownloadUpdater(); }),
-      infoViewer_(windows_.info, windows_.main),
+      informationViewer_(windows_.info, windows_.main),
       contact_(windows_.contact, windows_.ranking, desk_, settings_, codec_, messages_,
                surroundings_,
                {[this](const std::string& name) { PutOwnName(windows_.main, name); },

@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "records/transaction.h"
 #include "session/hints.h"
+#include "session/payment_amount.h"
 
 namespace benevix {
 

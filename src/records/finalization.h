@@ -3,16 +3,16 @@
 #include <string>
 
 #include "controls/desk.h"
+#include "core/codec.h"
 #include "core/messages.h"
 #include "core/settings_store.h"
-#include "database/codec.h"
-#include "online/server_files.h"
-#include "online/ui/frmInfo.h"
-#include "online/ui/frmPersInfo.h"
+#include "forms/frmBVX.h"
+#include "forms/frmInfo.h"
+#include "forms/frmPayOpt.h"
+#include "forms/frmPersInfo.h"
 #include "records/history.h"
-#include "records/ui/frmPayOpt.h"
+#include "server/server_files.h"
 #include "session/session_values.h"
-#include "session/ui/frmBVX.h"
 
 namespace benevix {
 

@@ -4,7 +4,7 @@
 
 #include "controls/desk.h"
 #include "core/messages.h"
-#include "online/ui/frmInfo.h"
+#include "forms/frmInfo.h"
 #include "platform/surroundings.h"
 #include "records/session_record.h"
 

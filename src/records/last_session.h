@@ -7,9 +7,9 @@
 #include "controls/desk.h"
 #include "core/settings_store.h"
 #include "database/organization_database.h"
+#include "forms/frmBVX.h"
 #include "platform/program_info.h"
 #include "session/session_values.h"
-#include "session/ui/frmBVX.h"
 
 namespace benevix {
 

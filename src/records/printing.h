@@ -4,10 +4,10 @@
 #include <string>
 
 #include "controls/desk.h"
-#include "online/ui/frmWait.h"
+#include "forms/frmBVX.h"
+#include "forms/frmWait.h"
 #include "platform/surroundings.h"
 #include "records/finalization.h"
-#include "session/ui/frmBVX.h"
 
 namespace benevix {
 

@@ -4,8 +4,8 @@
 
 #include "controls/desk.h"
 #include "core/messages.h"
+#include "forms/frmBVX.h"
 #include "session/session_values.h"
-#include "session/ui/frmBVX.h"
 
 namespace benevix {
 

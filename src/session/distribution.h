@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/messages.h"
+#include "forms/frmBVX.h"
 #include "session/donation_entry.h"
 #include "session/favorites.h"
 #include "session/session_values.h"
-#include "session/ui/frmBVX.h"
 
 namespace benevix {
 

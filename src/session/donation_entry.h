@@ -4,10 +4,10 @@
 
 #include "controls/desk.h"
 #include "core/messages.h"
-#include "online/ui/frmPersInfo.h"
-#include "records/ui/frmPayOpt.h"
+#include "forms/frmBVX.h"
+#include "forms/frmPayOpt.h"
+#include "forms/frmPersInfo.h"
 #include "session/session_values.h"
-#include "session/ui/frmBVX.h"
 
 namespace benevix {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "forms/frmBVX.h"
 #include "session/donation_entry.h"
-#include "session/ui/frmBVX.h"
 
 namespace benevix {
 

@@ -9,9 +9,9 @@
 #include "core/messages.h"
 #include "core/settings_store.h"
 #include "database/organization_database.h"
+#include "forms/frmBVX.h"
 #include "session/donation_entry.h"
 #include "session/list_view_events.h"
-#include "session/ui/frmBVX.h"
 
 namespace benevix {
 

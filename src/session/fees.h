@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "forms/frmBVX.h"
 #include "session/session_values.h"
-#include "session/ui/frmBVX.h"
 
 namespace benevix {
 

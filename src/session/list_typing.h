@@ -4,9 +4,9 @@
 
 #include "controls/events.h"
 #include "database/organization_database.h"
+#include "forms/frmBVX.h"
 #include "platform/clock.h"
 #include "session/list_view_events.h"
-#include "session/ui/frmBVX.h"
 
 namespace benevix {
 

@@ -5,7 +5,7 @@
 #include "controls/desk.h"
 #include "controls/events.h"
 #include "core/run_values.h"
-#include "session/ui/frmBVX.h"
+#include "forms/frmBVX.h"
 
 namespace benevix {
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "controls/events.h"
+#include "forms/frmBVX.h"
 #include "session/budget_entry.h"
 #include "session/donation_entry.h"
-#include "session/ui/frmBVX.h"
 
 namespace benevix {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/ui/frmBVX.h"
+#include "forms/frmBVX.h"
 
 namespace benevix {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "controls/desk.h"
+#include "forms/frmBVX.h"
 #include "session/session_values.h"
-#include "session/ui/frmBVX.h"
 
 namespace benevix {
 

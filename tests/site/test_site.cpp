@@ -5,9 +5,9 @@
 #include "../platform/surroundings_of_a_test.h"
 #include "base/number_text.h"
 #include "benevix-site/site.h"
-#include "online/translation.h"
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_shell.h"
+#include "server/translation.h"
 
 namespace benevix {
 namespace {

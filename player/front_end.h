@@ -1,0 +1,52 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "controls/desk.h"
+#include "platform/message_boxes.h"
+#include "platform/waits.h"
+#include "program/program.h"
+
+namespace benevix {
+
+// What a path names: a window, or one of its controls.
+struct Target {
+  Desk::Entry* window = nullptr;
+  const NamedControl* control = nullptr;  // null for the window itself
+  int element = -1;                       // of a menu array, -1 otherwise
+};
+
+// What differs between the faces: how the user's doings reach the program, and where what he sees
+// is read. Doings give false when they cannot be done. Texts are of the code page.
+class FrontEnd {
+ public:
+  virtual ~FrontEnd() = default;
+
+  // A run of the program begins: it is built, Main comes next.
+  virtual void Start(Program& program) = 0;
+  // The run is over; the program goes.
+  virtual void Stop() = 0;
+
+  virtual bool Click(const Target& target) = 0;
+  virtual bool Type(const Target& target, const std::string& text) = 0;
+  // A key of keys.h, or one character.
+  virtual bool Press(const Target& target, const std::string& key) = 0;
+  virtual bool Select(const Target& target, int row, MouseButton button) = 0;
+  virtual bool Pick(const Target& target, const std::string& entry) = 0;
+  virtual bool Leave(const Target& target) = 0;
+  virtual bool Hover(const Target& target) = 0;
+  virtual bool Scroll(const Target& target, int value) = 0;
+  // A timer that is not enabled, or no longer, does nothing.
+  virtual bool Tick(const Target& target, int times) = 0;
+  virtual bool Close(Desk::Entry& window) = 0;
+  virtual bool Shot(const std::string& name) = 0;
+
+  // The property's text; nothing when there is no such property, row or element.
+  virtual std::optional<std::string> Read(const Target& target, const std::string& property) = 0;
+
+  virtual MessageBoxes& Boxes() = 0;
+  virtual Waits& TheWaits() = 0;
+};
+
+}  // namespace benevix

@@ -1,0 +1,48 @@
+#include "player/page_picture.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QImage>
+#include <QPointer>
+#include <QWidget>
+
+namespace benevix {
+namespace {
+
+constexpr int kPatience = 30'000;  // milliseconds
+constexpr int kPause = 200;        // milliseconds between two looks
+
+void LetEventsRun(int milliseconds) {
+  const QDeadlineTimer end(milliseconds);
+  while (!end.hasExpired()) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 10);
+  }
+}
+
+bool IsBlank(const QImage& picture) {
+  constexpr int step = 3;  // pixels
+  for (int y = 0; y < picture.height(); y += step) {
+    for (int x = 0; x < picture.width(); x += step) {
+      if (picture.pixel(x, y) != picture.pixel(0, 0)) return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+bool AwaitPage(QWidget& window) {
+  const QPointer<QWidget> page(window.findChild<QWidget*>(QStringLiteral("wb1")));
+  QImage before;
+  const QDeadlineTimer end(kPatience);
+  while (page && page->isVisible()) {
+    const QImage now = page->grab().toImage();
+    if (now == before && !IsBlank(now)) return true;
+    if (end.hasExpired()) return false;
+    before = now;
+    LetEventsRun(kPause);
+  }
+  return true;
+}
+
+}  // namespace benevix

@@ -1,0 +1,173 @@
+#include "player/routines.h"
+
+#include <algorithm>
+#include <charconv>
+#include <functional>
+#include <map>
+
+#include "base/currency.h"
+#include "base/format.h"
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "core/shell_helpers.h"
+#include "player/line_kinds.h"
+#include "player/numbers.h"
+#include "player/stage.h"
+#include "program/start_up.h"
+#include "session/hints.h"
+
+namespace benevix {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+double Double(const std::string& text) {
+  const auto value = DoubleIn(text);
+  if (!value) throw CannotBeDone("\"" + text + "\" is no number");
+  return *value;
+}
+
+int Whole(const std::string& text) {
+  const auto value = WholeNumberIn(text);
+  if (!value) throw CannotBeDone("\"" + text + "\" is no whole number");
+  return *value;
+}
+
+std::int16_t Whole16(const std::string& text) {
+  return ToInt16(Whole(text));
+}
+
+std::uint8_t Whole8(const std::string& text) {
+  const int value = Whole(text);
+  if (value < 0 || value > 255) throw RuntimeError("Overflow");
+  return static_cast<std::uint8_t>(value);
+}
+
+// A plain decimal text of at most four decimals, exactly: a double has no room for the largest.
+Currency Money(const std::string& text) {
+  const auto point = std::min(text.find('.'), text.size());
+  std::string units = text.substr(0, point) + text.substr(std::min(point + 1, text.size()));
+  const std::size_t decimals = text.size() - std::min(point + 1, text.size());
+  if (decimals <= 4) units.append(4 - decimals, '0');
+  std::int64_t value = 0;
+  const auto read = std::from_chars(units.data(), units.data() + units.size(), value);
+  if (read.ec == std::errc::result_out_of_range) throw RuntimeError("Overflow");
+  if (decimals > 4 || read.ec != std::errc() || read.ptr != units.data() + units.size()) {
+    throw CannotBeDone("\"" + text + "\" is no currency text");
+  }
+  return Currency::FromUnits(value);
+}
+
+// Runs something of the program as an event would; its errors come out.
+void InProgram(Program& program, const std::function<void()>& what) {
+  bool ran = false;
+  std::optional<RuntimeError> raised;
+  program.TheInput().Enter([&] {
+    ran = true;
+    try {
+      what();
+    } catch (const RuntimeError& error) {
+      raised = error;
+    }
+  });
+  if (!ran) throw CannotBeDone("the program has ended");
+  if (raised) throw RuntimeError(*raised);
+}
+
+std::string CallCodec(Stage& stage, const Texts& arguments) {
+  const bool built = stage.Runs() || stage.HasEnded();
+  const TextCodec codec =
+      built ? stage.TheProgram().Codec() : TextCodec(stage.TheWorld().info.exeName);
+  std::string output;
+  codec.Codec(arguments[0], output, Whole16(arguments[1]), Whole16(arguments[2]));
+  return output;
+}
+
+std::string CallFormat(Stage&, const Texts& arguments) {
+  if (!IsNumeric(arguments[0])) return FormatText(arguments[0], arguments[1]);
+  return Format(Money(arguments[0]), arguments[1]);
+}
+
+std::string CallFormatSingle(Stage&, const Texts& arguments) {
+  if (!IsNumeric(arguments[0])) return FormatText(arguments[0], arguments[1]);
+  return FormatSingle(static_cast<float>(Double(arguments[0])), arguments[1]);
+}
+
+std::string CallShowHint(Stage& stage, const Texts& arguments) {
+  Program& program = stage.TheProgram();
+  const int step = Whole(arguments[0]);
+  InProgram(program, [&] { ShowHint(program.TheWindows().main, step); });
+  return "";
+}
+
+std::string CallShowMessage(Stage& stage, const Texts& arguments) {
+  Program& program = stage.TheProgram();
+  const std::uint8_t number = Whole8(arguments[0]), kind = Whole8(arguments[1]);
+  std::string extra = arguments[2];
+  InProgram(program, [&] { program.TheMessages().ShowMessage(number, kind, extra); });
+  return extra;
+}
+
+std::string CallLookupContacts(Stage& stage, const Texts& arguments) {
+  Program& program = stage.TheProgram();
+  std::string first, second;
+  InProgram(program, [&] { program.Contacts().LookupContacts(arguments[0], first, second); });
+  return first + ";" + second;
+}
+
+struct Routine {
+  std::size_t arguments = 0;
+  std::string (*call)(Stage& stage, const Texts& arguments);
+};
+
+const std::map<std::string, Routine>& Routines() {
+  static const std::map<std::string, Routine> routines = {
+      {"Codec", {3, CallCodec}},
+      {"Val", {1, [](Stage&, const Texts& a) { return DoubleToText(Val(a[0])); }}},
+      {"IsNumeric",
+       {1, [](Stage&, const Texts& a) { return std::string(IsNumeric(a[0]) ? "True" : "False"); }}},
+      {"Currency",
+       {1, [](Stage&, const Texts& a) { return Currency::FromDouble(Double(a[0])).ToText(); }}},
+      {"CurrencyProduct",
+       {2, [](Stage&, const Texts& a) { return Product(Money(a[0]), Money(a[1])).ToText(); }}},
+      {"WholeNumber",
+       {1, [](Stage&, const Texts& a) { return std::to_string(ToInt32(Double(a[0]))); }}},
+      {"Format", {2, CallFormat}},
+      {"FormatSingle", {2, CallFormatSingle}},
+      {"GetPlatformCode",
+       {0,
+        [](Stage& stage, const Texts&) {
+          return std::to_string(
+              GetPlatformCode(stage.TheProgram().TheSurroundings().info.platformId));
+        }}},
+      {"GetSpecialFolder",
+       {1,
+        [](Stage& stage, const Texts& a) {
+          return FromUtf8(GetSpecialFolder(stage.TheWorld().shell, Whole(a[0])));
+        }}},
+      {"LookupContacts", {1, CallLookupContacts}},
+      {"ShowHint", {1, CallShowHint}},
+      {"ShowMessage", {3, CallShowMessage}},
+  };
+  return routines;
+}
+
+}  // namespace
+
+std::optional<std::string> CallRoutine(Stage& stage, const std::string& routine,
+                                       const Texts& arguments) {
+  const auto found = Routines().find(routine);
+  if (found == Routines().end()) throw CannotBeDone("there is no routine " + routine);
+  if (found->second.arguments != arguments.size()) {
+    throw CannotBeDone(routine + " takes " + std::to_string(found->second.arguments) +
+                       " arguments");
+  }
+  try {
+    return found->second.call(stage, arguments);
+  } catch (const RuntimeError&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace benevix

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/qt/qt_http_client.h"
+#include "player/front_end.h"
+#include "player/world.h"
+#include "program/program.h"
+
+namespace benevix {
+
+// The program in its world, run after run, behind a front end.
+class Stage {
+ public:
+  Stage(World& world, FrontEnd& frontEnd);
+  ~Stage();
+  Stage(const Stage&) = delete;
+  Stage& operator=(const Stage&) = delete;
+
+  [[nodiscard]] World& TheWorld() { return world_; }
+  [[nodiscard]] FrontEnd& TheFrontEnd() { return frontEnd_; }
+
+  // Raises CannotBeDone while the program runs.
+  void Start();
+  // Ends the program as closing the main window would and starts it again. One that has ended, or
+  // stands at its splash, is only started.
+  void Restart();
+
+  [[nodiscard]] bool Runs() const { return program_ && !program_->TheDesk().Ended(); }
+  [[nodiscard]] bool HasEnded() const { return program_ && program_->TheDesk().Ended(); }
+  // The present run. Raises CannotBeDone when there is none yet.
+  [[nodiscard]] Program& TheProgram();
+
+  // To be called after every line: what a run leaves behind is taken up.
+  void AfterLine();
+
+  // The address that the page viewer was last sent to in the present run.
+  [[nodiscard]] const std::optional<std::string>& Navigated() const { return navigated_; }
+
+ private:
+  void Launch();
+
+  World& world_;
+  FrontEnd& frontEnd_;
+  QtHttpClient client_;
+  RecordingHttpClient http_;
+  std::unique_ptr<Program> program_;
+  bool finished_ = false;
+  std::optional<std::string> navigated_;
+};
+
+}  // namespace benevix

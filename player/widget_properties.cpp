@@ -1,0 +1,138 @@
+#include "player/widget_properties.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+
+#include "mirror/look/texts.h"
+#include "player/path.h"
+#include "player/properties.h"
+
+namespace benevix {
+namespace {
+
+using Text = std::optional<std::string>;
+
+Text Flag(bool value) {
+  return value ? "True" : "False";
+}
+
+// What the code page cannot say stays visible as a fault.
+Text Shown(const QString& text) {
+  const std::string bytes = FromQString(text);
+  return ToQString(bytes) == text ? bytes : text.toStdString();
+}
+
+// Where the mnemonic's mark is drawn is not the caption's business.
+Text Caption(const QString& shown, const Text& designed) {
+  const auto unmarked = [](QString text) { return text.remove(QLatin1Char('&')); };
+  if (designed && unmarked(Drawn(*designed)) == unmarked(shown)) return designed;
+  return Shown(shown);
+}
+
+Text ReadAction(const QAction& action, const std::string& property, const Text& fromStruct) {
+  if (property == "Caption") {
+    return Caption(action.text().replace(QLatin1String("&&"), QLatin1String("&")), fromStruct);
+  }
+  if (property == "Checked") return Flag(action.isChecked());
+  if (property == "Enabled") return Flag(action.isEnabled());
+  return fromStruct;
+}
+
+Text ReadList(const QTableView& view, const std::string& property, const Text& fromStruct) {
+  if (property == "Count") return std::to_string(view.model()->rowCount());
+  if (property == "Selected") return std::to_string(view.currentIndex().row() + 1);
+  if (property.rfind("Row(", 0) != 0 || !fromStruct) return fromStruct;
+  const auto parts = PathParts(property);
+  const int row = parts.at(0).index;
+  const int column = parts.at(1).name == "Text" ? 0 : parts.at(1).index;
+  return Shown(view.model()->index(row - 1, column).data().toString());
+}
+
+Text ReadCombo(const QComboBox& combo, const std::string& property, const Text& fromStruct) {
+  if (property == "Text") return Shown(combo.currentText());
+  if (property == "Count") return std::to_string(combo.count());
+  if (property.rfind("List(", 0) == 0 && fromStruct) {
+    return Shown(combo.itemText(PathParts(property).at(0).index));
+  }
+  return fromStruct;
+}
+
+Text ReadWidget(const QWidget& widget, const std::string& property, const Text& fromStruct) {
+  if (property == "Enabled") return Flag(widget.isEnabledTo(widget.parentWidget()));
+  if (property == "Visible") return Flag(!widget.isHidden());
+  if (property == "ToolTip") return Shown(widget.toolTip());
+  if (property == "Text") {
+    const auto* const multiLine = qobject_cast<const QPlainTextEdit*>(&widget);
+    if (multiLine != nullptr) {
+      return Shown(multiLine->toPlainText().replace(QLatin1String("\n"), QLatin1String("\r\n")));
+    }
+  }
+  if (const auto* const view = qobject_cast<const QTableView*>(&widget)) {
+    return ReadList(*view, property, fromStruct);
+  }
+  if (const auto* const combo = qobject_cast<const QComboBox*>(&widget)) {
+    return ReadCombo(*combo, property, fromStruct);
+  }
+  if (property == "Text") return Shown(WidgetText(widget));
+  if (property == "Caption") return Caption(WidgetText(widget), fromStruct);
+  if (property == "Value") {
+    if (const auto* const option = qobject_cast<const QRadioButton*>(&widget)) {
+      return Flag(option->isChecked());
+    }
+    if (const auto* const box = qobject_cast<const QCheckBox*>(&widget)) {
+      return box->isChecked() ? "1" : "0";
+    }
+  }
+  if (property == "FontBold") return Flag(widget.font().bold());
+  return fromStruct;
+}
+
+Text ReadWindow(const QWidget& widget, const std::string& property, const Text& fromStruct) {
+  if (property == "Caption") return Shown(widget.windowTitle());
+  if (property == "Shown") return Flag(widget.isVisible());
+  if (property == "Enabled") return Flag(widget.isEnabled());
+  if (property == "MousePointer") {
+    return widget.cursor().shape() == Qt::WaitCursor ? "Hourglass" : "Default";
+  }
+  return fromStruct;
+}
+
+}  // namespace
+
+QString WidgetText(const QWidget& widget) {
+  if (const auto* const edit = qobject_cast<const QLineEdit*>(&widget)) return edit->text();
+  if (const auto* const edit = qobject_cast<const QPlainTextEdit*>(&widget)) {
+    return edit->toPlainText();
+  }
+  if (const auto* const combo = qobject_cast<const QComboBox*>(&widget)) {
+    return combo->currentText();
+  }
+  if (const auto* const label = qobject_cast<const QLabel*>(&widget)) return label->text();
+  if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget)) {
+    return button->text();
+  }
+  if (const auto* const frame = qobject_cast<const QGroupBox*>(&widget)) return frame->title();
+  return {};
+}
+
+std::optional<std::string> ReadWidgetProperty(Program& program, WindowBinding* binding,
+                                              const Target& target, const std::string& property) {
+  const Text fromStruct = ReadProperty(program.TheDesk(), target, property);
+  if (binding == nullptr) return fromStruct;
+  if (target.control == nullptr) return ReadWindow(binding->Widget(), property, fromStruct);
+  if (const QAction* const action = binding->ActionOf(*target.control, target.element)) {
+    return ReadAction(*action, property, fromStruct);
+  }
+  const QWidget* const widget = binding->WidgetOf(target.control->Base());
+  return widget == nullptr || !fromStruct ? fromStruct : ReadWidget(*widget, property, fromStruct);
+}
+
+}  // namespace benevix

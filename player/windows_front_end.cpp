@@ -1,0 +1,255 @@
+#include "player/windows_front_end.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTableView>
+#include <QTest>
+
+#include "mirror/look/texts.h"
+#include "player/keys.h"
+#include "player/page_picture.h"
+#include "player/widget_properties.h"
+
+namespace benevix {
+namespace {
+
+// A key goes to the window, which hands it to whoever has the focus.
+void SendKey(QWidget& widget, int key, const QString& text,
+             Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+  QWindow* const window = widget.window()->windowHandle();
+  if (window == nullptr) return;
+  const QPointer<QWindow> alive(window);
+  QTest::simulateEvent(window, true, key, modifiers, text, false, -1);
+  if (alive) QTest::simulateEvent(alive, false, key, modifiers, text, false, -1);
+}
+
+void SendCharacter(QWidget& widget, QChar c) {
+  if (c == QLatin1Char('\n')) return SendKey(widget, Qt::Key_Return, QStringLiteral("\r"));
+  SendKey(widget, c.toUpper().unicode(), QString(c));
+}
+
+void SendNamedKey(QWidget& widget, const std::string& key) {
+  if (key == kEnterKey) return SendKey(widget, Qt::Key_Return, QStringLiteral("\r"));
+  if (key == kTabKey) return SendKey(widget, Qt::Key_Tab, QStringLiteral("\t"));
+  if (key == kEscapeKey) return SendKey(widget, Qt::Key_Escape, QStringLiteral("\x1b"));
+  if (key == kBackspaceKey) return SendKey(widget, Qt::Key_Backspace, QStringLiteral("\b"));
+  const QString text = ToQString(key);
+  if (!text.isEmpty()) SendCharacter(widget, text[0]);
+}
+
+void ClickAt(QWidget& widget, QPoint position, Qt::MouseButton button = Qt::LeftButton) {
+  QWidget* const top = widget.window();
+  QTest::mouseClick(top->windowHandle(), button, Qt::NoModifier, widget.mapTo(top, position));
+}
+
+// What a click does something to: the kinds that scripts can click.
+bool IsClickable(const NamedControl& control) {
+  return control.As<Button>() != nullptr || control.As<OptionButton>() != nullptr ||
+         control.As<CheckBox>() != nullptr || control.As<Label>() != nullptr ||
+         control.As<PictureBox>() != nullptr;
+}
+
+// Where a click takes effect: options and check boxes answer on their mark and text only.
+QPoint ClickPoint(const QWidget& widget) {
+  const QPoint center = widget.rect().center();
+  const bool marked = widget.inherits("QRadioButton") || widget.inherits("QCheckBox");
+  return marked ? QPoint(std::min(10, center.x()), center.y()) : center;
+}
+
+}  // namespace
+
+BoxAnswer WindowsFrontEnd::AnsweredBoxes::Show(const std::string& title, const std::string& text,
+                                               BoxIcon icon, BoxButtons buttons) {
+  const BoxAnswer answer = answers_.Take({title, text, icon, buttons});
+  real_.onShown = [answer](QMessageBox& box) {
+    const auto wanted = answer == BoxAnswer::Yes  ? QMessageBox::Yes
+                        : answer == BoxAnswer::No ? QMessageBox::No
+                                                  : QMessageBox::Ok;
+    if (QAbstractButton* const button = box.button(wanted)) {
+      ClickAt(*button, button->rect().center());
+    }
+  };
+  return real_.Show(title, text, icon, buttons);
+}
+
+WindowsFrontEnd::WindowsFrontEnd(BoxAnswers& answers, std::string shots)
+    : mirror_(DesktopScheme(), Mirror::Timers::Hold),
+      boxes_(mirror_, answers),
+      shots_(std::move(shots)) {
+  ApplyTheme(*qApp, DesktopScheme());
+}
+
+void WindowsFrontEnd::Start(Program& program) {
+  program_ = &program;
+  mirror_.Attach(program.TheDesk(), program.TheInput());
+}
+
+void WindowsFrontEnd::Stop() {
+  mirror_.Detach();
+  program_ = nullptr;
+  Settle();
+}
+
+void WindowsFrontEnd::Settle() {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QCoreApplication::processEvents();
+}
+
+QWidget* WindowsFrontEnd::WidgetOf(const Target& target) const {
+  const WindowBinding* const binding = mirror_.BindingOf(*target.window->window);
+  if (binding == nullptr || target.control == nullptr) return nullptr;
+  return binding->WidgetOf(target.control->Base());
+}
+
+QWidget* WindowsFrontEnd::Reach(const Target& target) {
+  while (QWidget* const popUp = QApplication::activePopupWidget()) popUp->close();
+  Settle();
+  QWidget* const widget = WidgetOf(target);
+  if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) return nullptr;
+  if (!program_->TheDesk().IsUsable(*target.window, target.control->Base())) return nullptr;
+  widget->window()->activateWindow();
+  Settle();
+  return widget;
+}
+
+bool WindowsFrontEnd::ClickMenu(const Target& target) {
+  const WindowBinding* const binding = mirror_.BindingOf(*target.window->window);
+  QAction* const action =
+      binding == nullptr ? nullptr : binding->ActionOf(*target.control, target.element);
+  if (action == nullptr || !action->isEnabled()) return false;
+  if (!program_->TheDesk().IsUsable(*target.window, target.control->Base())) return false;
+  action->trigger();
+  Settle();
+  return true;
+}
+
+bool WindowsFrontEnd::Click(const Target& target) {
+  if (IsMenu(*target.control)) return ClickMenu(target);
+  QWidget* const widget = IsClickable(*target.control) ? Reach(target) : nullptr;
+  if (widget == nullptr) return false;
+  ClickAt(*widget, ClickPoint(*widget));
+  Settle();
+  return true;
+}
+
+bool WindowsFrontEnd::FocusByMouse(const Target& target, QWidget& widget) {
+  const Desk& desk = program_->TheDesk();
+  if (desk.FocusOf(*target.window->window) != &target.control->Base()) {
+    ClickAt(widget, widget.rect().center());
+    Settle();
+  }
+  return desk.FocusOf(*target.window->window) == &target.control->Base();
+}
+
+bool WindowsFrontEnd::Type(const Target& target, const std::string& text) {
+  QWidget* const widget = Reach(target);
+  if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
+  const QPointer<QWidget> alive(widget);
+  if (WidgetText(*widget) != QString()) {
+    SendKey(*widget, Qt::Key_A, QString(), Qt::ControlModifier);
+    SendKey(*widget, Qt::Key_Delete, QString());
+  }
+  QString typed = ToQString(text);
+  typed.remove(QLatin1Char('\r'));
+  for (const QChar c : typed) {
+    if (!alive) break;
+    SendCharacter(*alive, c);
+  }
+  Settle();
+  return true;
+}
+
+bool WindowsFrontEnd::Press(const Target& target, const std::string& key) {
+  QWidget* const widget = Desk::TakesFocus(*target.control) ? Reach(target) : nullptr;
+  if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
+  SendNamedKey(*widget, key);
+  Settle();
+  return true;
+}
+
+bool WindowsFrontEnd::Select(const Target& target, int row, MouseButton button) {
+  auto* const view = qobject_cast<QTableView*>(Reach(target));
+  if (view == nullptr || row < 1 || row > view->model()->rowCount()) return false;
+  const QModelIndex index = view->model()->index(row - 1, 1);
+  view->scrollTo(index);
+  ClickAt(*view->viewport(), view->visualRect(index).center(),
+          button == MouseButton::Right ? Qt::RightButton : Qt::LeftButton);
+  Settle();
+  return true;
+}
+
+bool WindowsFrontEnd::Pick(const Target& target, const std::string& entry) {
+  auto* const combo = qobject_cast<QComboBox*>(Reach(target));
+  if (combo == nullptr || !FocusByMouse(target, *combo)) return false;
+  combo->hidePopup();
+  const int index = combo->findText(ToQString(entry), Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (index < 0) return false;
+  combo->setCurrentIndex(index);
+  Q_EMIT combo->activated(index);
+  Settle();
+  return true;
+}
+
+bool WindowsFrontEnd::Leave(const Target& target) {
+  QWidget* const widget = Desk::TakesFocus(*target.control) ? Reach(target) : nullptr;
+  if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
+  const bool left = program_->TheInput().Leave(target.control->Base());
+  Settle();
+  return left;
+}
+
+bool WindowsFrontEnd::Hover(const Target& target) {
+  QWidget* const widget = Reach(target);
+  if (widget == nullptr) return false;
+  QWidget* const top = widget->window();
+  QTest::mouseMove(top->windowHandle(), widget->mapTo(top, widget->rect().center()));
+  Settle();
+  return true;
+}
+
+bool WindowsFrontEnd::Scroll(const Target& target, int value) {
+  auto* const bar = qobject_cast<QScrollBar*>(Reach(target));
+  if (bar == nullptr || value < bar->minimum() || value > bar->maximum()) return false;
+  bar->setValue(value);
+  Settle();
+  return true;
+}
+
+bool WindowsFrontEnd::Tick(const Target& target, int times) {
+  Timer* const timer = target.control->As<Timer>();
+  if (timer == nullptr || !target.window->loaded || program_->TheDesk().Ended()) return false;
+  for (int i = 0; i < times && program_->TheInput().Tick(*timer); ++i) Settle();
+  return true;
+}
+
+bool WindowsFrontEnd::Close(Desk::Entry& window) {
+  WindowBinding* const binding = mirror_.BindingOf(*window.window);
+  if (binding == nullptr || !program_->TheDesk().IsUsable(*window.window)) return false;
+  binding->Widget().close();
+  Settle();
+  return true;
+}
+
+bool WindowsFrontEnd::Shot(const std::string& name) {
+  if (shots_.empty()) return true;
+  Settle();
+  const auto& shown = program_->TheDesk().Shown();
+  WindowBinding* const binding = shown.empty() ? nullptr : mirror_.BindingOf(*shown.back());
+  if (binding == nullptr || !AwaitPage(binding->Widget())) return false;
+  const QDir folder(QString::fromStdString(shots_));
+  return folder.mkpath(QStringLiteral(".")) &&
+         binding->Widget().grab().save(folder.filePath(ToQString(name) + ".png"));
+}
+
+std::optional<std::string> WindowsFrontEnd::Read(const Target& target,
+                                                 const std::string& property) {
+  return ReadWidgetProperty(*program_, mirror_.BindingOf(*target.window->window), target, property);
+}
+
+}  // namespace benevix

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QTemporaryDir>
+#include <string>
+
+#include "platform/linux/linux_files.h"
+#include "platform/program_info.h"
+#include "player/recorded.h"
+#include "player/world_boxes.h"
+#include "player/world_clock.h"
+#include "player/world_random.h"
+#include "player/world_records.h"
+#include "player/world_settings.h"
+#include "player/world_site.h"
+
+namespace benevix {
+
+// Everything around the program in a script, fresh with each.
+class World {
+  QTemporaryDir folder_;
+
+ public:
+  World();
+
+  // {site}, {pay} and {folder} replaced.
+  [[nodiscard]] std::string Fill(std::string text) const;
+
+  // A path of the program folder, or of the shell folder `programs` or `desktop`, with either kind
+  // of slash, as the system wants it.
+  [[nodiscard]] std::string ProgramFile(const std::string& path) const;
+  [[nodiscard]] std::string ShellFile(const std::string& folder, const std::string& path) const;
+
+  // What the next start of the program is told.
+  ProgramInfo info;
+
+  WorldSite site;
+  WorldSettings settings;
+  StandingClock clock;
+  GivenRandomNumbers random;
+  RecordingShell shell;
+  RecordingPrinter printer;
+  LinuxFiles files;
+  BoxAnswers boxes;
+  Recorded<std::string> requests;
+
+ private:
+  [[nodiscard]] std::string Inside(const std::string& name) const {
+    return folder_.filePath(QString::fromStdString(name)).toStdString();
+  }
+};
+
+// Whether the addresses are the same but for the kind of their slashes.
+bool SameAddress(std::string a, std::string b);
+
+}  // namespace benevix

@@ -1,0 +1,66 @@
+#include "mirror/bindings/list_delegate.h"
+
+#include <QPainter>
+#include <QTableView>
+
+#include "database/organization_list.h"
+#include "mirror/bindings/list_model.h"
+
+namespace benevix {
+namespace {
+
+constexpr int kInset = 8;  // before and behind a text
+constexpr int kEdge = 4;   // the bar at the edge of a row with a donation
+
+}  // namespace
+
+ListDelegate::ListDelegate(Scheme scheme, QObject* parent)
+    : QStyledItemDelegate(parent), colors_(ListColorsOf(scheme)) {}
+
+void ListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
+  const auto kind = index.data(ListModel::kKindRole).value<ListModel::Kind>();
+  if (kind == ListModel::Kind::Heading) return PaintHeading(*painter, option, index);
+
+  QStyleOptionViewItem cell = option;
+  initStyleOption(&cell, index);
+  const bool selected = option.state.testFlag(QStyle::State_Selected);
+  const bool given = kind == ListModel::Kind::Given;
+  painter->fillRect(option.rect, selected ? option.palette.color(QPalette::Highlight)
+                                 : given  ? colors_.given
+                                          : option.palette.color(QPalette::Base));
+  const auto* const view = qobject_cast<const QTableView*>(option.widget);
+  const int first = view != nullptr ? view->columnAt(0) : 0;
+  if (given && index.column() == first) {
+    painter->fillRect(QRect(option.rect.topLeft(), QSize(kEdge, option.rect.height())),
+                      colors_.edge);
+  }
+  painter->setFont(cell.font);
+  painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
+  const QRect room = option.rect.adjusted(kInset, 0, -kInset, 0);
+  const QString text = cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, room.width());
+  painter->drawText(room, static_cast<int>(cell.displayAlignment) | Qt::TextSingleLine, text);
+}
+
+// Every cell shows its part of the one text.
+void ListDelegate::PaintHeading(QPainter& painter, const QStyleOptionViewItem& option,
+                                const QModelIndex& index) const {
+  const auto* const view = qobject_cast<const QTableView*>(option.widget);
+  const bool selected = option.state.testFlag(QStyle::State_Selected);
+  painter.save();
+  painter.setClipRect(option.rect);
+  painter.fillRect(option.rect,
+                   selected ? option.palette.color(QPalette::Highlight) : colors_.heading);
+  QStyleOptionViewItem cell = option;
+  initStyleOption(&cell, index);
+  painter.setFont(cell.font);
+  painter.setPen(selected ? option.palette.color(QPalette::HighlightedText) : colors_.headingText);
+  const int start = view != nullptr ? view->columnViewportPosition(column::kCountry) : 0;
+  const QRect row(start + kInset, option.rect.top(), option.rect.right() - start,
+                  option.rect.height());
+  painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                   index.siblingAtColumn(column::kCountry).data().toString());
+  painter.restore();
+}
+
+}  // namespace benevix

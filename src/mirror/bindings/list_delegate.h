@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+#include "mirror/look/theme.h"
+
+namespace benevix {
+
+// Draws the organizations: a country's heading runs over the whole row, and a row with a donation
+// stands out by its ground and a bar at its edge.
+class ListDelegate : public QStyledItemDelegate {
+ public:
+  explicit ListDelegate(Scheme scheme, QObject* parent = nullptr);
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+
+ private:
+  void PaintHeading(QPainter& painter, const QStyleOptionViewItem& option,
+                    const QModelIndex& index) const;
+
+  ListColors colors_;
+};
+
+}  // namespace benevix

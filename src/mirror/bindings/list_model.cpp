@@ -1,0 +1,76 @@
+#include "mirror/bindings/list_model.h"
+
+#include <QFont>
+
+#include "database/organization_list.h"
+#include "mirror/look/texts.h"
+
+namespace benevix {
+
+void ListModel::Refresh() {
+  if (list_.rows.get() != rows_) {
+    beginResetModel();
+    rows_ = list_.rows.get();
+    count_ = list_.Count();
+    changes_ = list_.changes;
+    endResetModel();
+  } else if (list_.changes != changes_ && count_ > 0) {
+    changes_ = list_.changes;
+    Q_EMIT dataChanged(index(0, 0), index(count_ - 1, ListView::kColumns - 1));
+  }
+}
+
+int ListModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : count_;
+}
+
+int ListModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : ListView::kColumns;
+}
+
+ListModel::Kind ListModel::KindOf(int row) const {
+  if (list_.cells.count(row) != 0) return Kind::Given;
+  return list_.Text(row).empty() ? Kind::Organization : Kind::Heading;
+}
+
+QVariant ListModel::data(const QModelIndex& index, int role) const {
+  const int row = index.row() + 1;
+  switch (role) {
+    case Qt::DisplayRole:
+      return Drawn(list_.SubItem(row, index.column()));
+    case Qt::TextAlignmentRole: {
+      const int column = index.column();
+      const bool number = column == column::kAmount || column >= column::kFee;
+      return QVariant::fromValue(
+          Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
+    }
+    case kKindRole:
+      return QVariant::fromValue(KindOf(row));
+    case Qt::FontRole: {
+      const Kind kind = KindOf(row);
+      const bool named =
+          index.column() == column::kOrganization || index.column() == column::kAmount;
+      if (kind == Kind::Organization || (kind == Kind::Given && !named)) return {};
+      QFont font;
+      font.setBold(true);
+      return font;
+    }
+    default:
+      return {};
+  }
+}
+
+QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::DisplayRole) {
+    return ToQString(list_.columns[static_cast<std::size_t>(section)]);
+  }
+  if (role == Qt::TextAlignmentRole) {
+    const bool number = section == column::kAmount || section >= column::kFee;
+    return QVariant::fromValue(
+        Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
+  }
+  return {};
+}
+
+}  // namespace benevix

@@ -1,0 +1,162 @@
+// Boxes that text is typed into.
+
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTimer>
+
+#include "base/text.h"
+#include "mirror/bindings/bound.h"
+#include "mirror/bindings/typed_text.h"
+#include "mirror/look/texts.h"
+
+namespace benevix {
+namespace {
+
+class TextBoxBinding : public Bound<TextBox, QLineEdit> {
+ public:
+  TextBoxBinding(TextBox& box, QLineEdit& edit, BindingContext& context)
+      : Bound(box, edit, context), theme_(edit.palette()), selections_(box.selections) {
+    edit.setValidator(std::make_unique<TypedText>(
+                          &edit, [&box] { return ToQString(box.text); },
+                          [&box, &context](QChar c) {
+                            const int byte = CodePageByte(c.unicode());
+                            return byte >= ' ' &&
+                                   context.input.Accepts(box, static_cast<char>(byte));
+                          },
+                          [&context] { return context.applying; })
+                          .release());
+    QObject::connect(&edit, &QLineEdit::textEdited, &edit, [&](const QString& text) {
+      context_.input.Type(control_, FromQString(text));
+    });
+  }
+
+  void Apply() override {
+    ApplyBase(control_, widget_);
+    const QString text = ToQString(control_.text);
+    if (widget_.text() != text) widget_.setText(text);
+    const TextBox design;
+    QPalette palette = theme_;
+    SetText(palette, QPalette::Text, control_.foreColor, design.foreColor, context_.scheme);
+    SetGround(palette, QPalette::Base, control_.backColor, design.backColor, context_.scheme);
+    ApplyPalette(widget_, palette);
+    QFont font = widget_.font();
+    if (font.bold() != control_.fontBold) {
+      font.setBold(control_.fontBold);
+      widget_.setFont(font);
+    }
+    if (selections_ != control_.selections) {
+      selections_ = control_.selections;
+      SelectAll();
+    }
+  }
+
+ private:
+  void SelectAll() {
+    widget_.selectAll();
+    // The press that gave the focus goes on to place the caret.
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+      QTimer::singleShot(0, &widget_, &QLineEdit::selectAll);
+    }
+  }
+
+  QPalette theme_;
+  int selections_;
+};
+
+// A box of several lines; the code page writes their ends as CR LF.
+class MultiLineBinding : public Bound<TextBox, QPlainTextEdit> {
+ public:
+  MultiLineBinding(TextBox& box, QPlainTextEdit& edit, BindingContext& context)
+      : Bound(box, edit, context) {
+    QObject::connect(&edit, &QPlainTextEdit::textChanged, &edit, [this] {
+      if (context_.applying) return;
+      std::string text = FromQString(widget_.toPlainText());
+      for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += 2) {
+        text.insert(at, 1, '\r');
+      }
+      // What the code page lacks is not taken; Apply takes it out of the widget again.
+      if (text != control_.text) {
+        context_.input.Type(control_, text);
+      } else {
+        ApplyText();
+      }
+    });
+  }
+
+  void Apply() override {
+    ApplyBase(control_, widget_);
+    ApplyText();
+  }
+
+ private:
+  void ApplyText() {
+    QString text = ToQString(control_.text);
+    text.remove(QLatin1Char('\r'));
+    if (widget_.toPlainText() == text) return;
+    const QSignalBlocker quiet(widget_);
+    const int position = widget_.textCursor().position();
+    widget_.setPlainText(text);
+    QTextCursor cursor = widget_.textCursor();
+    cursor.setPosition(std::min(position, static_cast<int>(text.size())));
+    widget_.setTextCursor(cursor);
+  }
+};
+
+class ComboBinding : public Bound<ComboBox, QComboBox> {
+ public:
+  ComboBinding(ComboBox& combo, QComboBox& widget, BindingContext& context)
+      : Bound(combo, widget, context) {
+    QObject::connect(&widget, &QComboBox::activated, &widget, [this](int index) {
+      if (!context_.applying) context_.input.Pick(control_, index);
+    });
+    if (!combo.editable) return;
+    widget.lineEdit()->setAccessibleName(widget.accessibleName());
+    widget.setCompleter(nullptr);
+    widget.setValidator(std::make_unique<TypedText>(
+                            &widget, [&combo] { return ToQString(combo.text); },
+                            [](QChar c) { return CodePageByte(c.unicode()) >= ' '; },
+                            [&context] { return context.applying; })
+                            .release());
+    QObject::connect(
+        widget.lineEdit(), &QLineEdit::textEdited, &widget,
+        [this](const QString& text) { context_.input.Type(control_, FromQString(text)); });
+  }
+
+  void Apply() override {
+    ApplyBase(control_, widget_);
+    ApplyList();
+    const QString text = ToQString(control_.text);
+    if (widget_.currentText() == text) return;
+    if (control_.editable) {
+      widget_.setEditText(text);
+    } else {
+      widget_.setCurrentIndex(widget_.findText(text));
+    }
+  }
+
+ private:
+  void ApplyList() {
+    if (listed_ == control_.list) return;
+    listed_ = control_.list;
+    widget_.clear();
+    for (const std::string& entry : listed_) widget_.addItem(ToQString(entry));
+    widget_.setCurrentIndex(-1);
+  }
+
+  std::vector<std::string> listed_;
+};
+
+}  // namespace
+
+std::unique_ptr<Binding> Bind(TextBox& box, QWidget& widget, BindingContext& context) {
+  if (box.multiLine) return BindTo<MultiLineBinding, QPlainTextEdit>(box, widget, context);
+  return BindTo<TextBoxBinding, QLineEdit>(box, widget, context);
+}
+
+std::unique_ptr<Binding> Bind(ComboBox& combo, QWidget& widget, BindingContext& context) {
+  return BindTo<ComboBinding, QComboBox>(combo, widget, context);
+}
+
+}  // namespace benevix

@@ -1,0 +1,74 @@
+#include "mirror/mirror/window_layout.h"
+
+#include <QHeaderView>
+#include <QMainWindow>
+#include <QScreen>
+#include <QSplitter>
+#include <QTableView>
+
+#include "core/settings_store.h"
+#include "mirror/look/texts.h"
+
+namespace benevix {
+namespace {
+
+const std::string kPath = kSettingsPath + "\\Window";
+constexpr int kWidest = 10000;  // pixels of a column or a pane
+
+// The numbers of a saved text, or none when there are not `count` of them from 0 to kWidest.
+QList<int> Numbers(SettingsStore& settings, const char* name, qsizetype count) {
+  QList<int> numbers;
+  const QString text = ToQString(settings.GetString(Root::CurrentUser, kPath, name));
+  for (const QString& word : text.split(QLatin1Char(','))) {
+    bool isNumber = false;
+    numbers.append(word.toInt(&isNumber));
+    if (!isNumber || numbers.last() < 0 || numbers.last() > kWidest) return {};
+  }
+  return numbers.size() == count ? numbers : QList<int>();
+}
+
+void SaveNumbers(SettingsStore& settings, const char* name, const QList<int>& numbers) {
+  QStringList words;
+  for (const int number : numbers) words.append(QString::number(number));
+  settings.SaveString(Root::CurrentUser, kPath, name, words.join(QLatin1Char(',')).toStdString());
+}
+
+}  // namespace
+
+void WindowLayout::Restore(QMainWindow& window) const {
+  const QList<int> size = Numbers(settings_, "Size", 3);  // width, height, whether maximized
+  if (!size.isEmpty()) {
+    window.resize(QSize(size[0], size[1]).boundedTo(window.screen()->availableSize()));
+    if (size[2] != 0) window.setWindowState(Qt::WindowMaximized);
+  }
+  if (auto* const splitter = window.findChild<QSplitter*>()) {
+    const QList<int> sizes = Numbers(settings_, "Splitter", splitter->count());
+    if (!sizes.isEmpty()) splitter->setSizes(sizes);
+  }
+  if (auto* const view = window.findChild<QTableView*>()) {
+    QHeaderView& header = *view->horizontalHeader();
+    const QList<int> widths = Numbers(settings_, "Columns", header.count());
+    for (qsizetype i = 0; i < widths.size(); ++i) {
+      const int column = static_cast<int>(i);
+      header.setSectionHidden(column, widths[i] == 0);
+      if (widths[i] != 0) header.resizeSection(column, widths[i]);
+    }
+  }
+}
+
+void WindowLayout::Save(const QMainWindow& window) const {
+  const QSize size = window.isMaximized() ? window.normalGeometry().size() : window.size();
+  SaveNumbers(settings_, "Size", {size.width(), size.height(), window.isMaximized() ? 1 : 0});
+  if (const auto* const splitter = window.findChild<QSplitter*>()) {
+    SaveNumbers(settings_, "Splitter", splitter->sizes());
+  }
+  if (const auto* const view = window.findChild<QTableView*>()) {
+    QList<int> widths;
+    for (int column = 0; column < view->horizontalHeader()->count(); ++column) {
+      widths.append(view->horizontalHeader()->sectionSize(column));  // 0 when it is hidden
+    }
+    SaveNumbers(settings_, "Columns", widths);
+  }
+}
+
+}  // namespace benevix

@@ -1,0 +1,102 @@
+#include "mirror/page_viewer/guarded_page.h"
+
+#include <QAction>
+#include <QDesktopServices>
+#include <QWebEngineCertificateError>
+#include <QWebEngineDownloadRequest>
+#include <QWebEngineFileSystemAccessRequest>
+#include <QWebEngineNewWindowRequest>
+#include <QWebEngineProfile>
+#include <QWebEngineQuotaRequest>
+#include <QWebEngineRegisterProtocolHandlerRequest>
+#include <QWebEngineSettings>
+
+#include "mirror/page_viewer/text_file_scheme.h"
+
+namespace benevix {
+namespace {
+
+void Confine(QWebEngineSettings& settings) {
+  using Settings = QWebEngineSettings;
+  constexpr Settings::WebAttribute off[] = {
+      Settings::LocalContentCanAccessRemoteUrls,
+      Settings::LocalContentCanAccessFileUrls,
+      Settings::PluginsEnabled,
+      Settings::PdfViewerEnabled,
+      Settings::JavascriptCanAccessClipboard,
+      Settings::JavascriptCanPaste,
+      Settings::FullScreenSupportEnabled,
+      Settings::ScreenCaptureEnabled,
+      Settings::AllowRunningInsecureContent,
+      Settings::AllowGeolocationOnInsecureOrigins,
+      Settings::AllowWindowActivationFromJavaScript,
+      Settings::HyperlinkAuditingEnabled,
+      Settings::DnsPrefetchEnabled,
+      Settings::NavigateOnDropEnabled,
+      Settings::WebGLEnabled,
+      Settings::AutoLoadIconsForPage,
+  };
+  for (const auto attribute : off) settings.setAttribute(attribute, false);
+  settings.setAttribute(Settings::WebRTCPublicInterfacesOnly, true);
+  // Asked for by the user, they come to acceptNavigationRequest, which lets none pass.
+  settings.setUnknownUrlSchemePolicy(Settings::AllowUnknownUrlSchemesFromUserInteraction);
+  settings.setDefaultTextEncoding("windows-1252");
+}
+
+bool IsWeb(const QUrl& url) {
+  return url.scheme() == "http" || url.scheme() == "https";
+}
+
+}  // namespace
+
+GuardedPage::GuardedPage(QWebEngineProfile* profile, QObject* parent)
+    : QWebEnginePage(profile, parent) {
+  Confine(*settings());
+  connect(profile, &QWebEngineProfile::downloadRequested, this,
+          [](QWebEngineDownloadRequest* download) { download->cancel(); });
+  // What wants a window of its own gets this one, if the user asked for it.
+  connect(this, &QWebEnginePage::newWindowRequested, this, [this](auto& request) {
+    const QUrl to = request.requestedUrl();
+    if (!request.isUserInitiated()) return;
+    if (acceptNavigationRequest(to, NavigationTypeLinkClicked, true)) setUrl(to);
+  });
+  connect(this, &QWebEnginePage::featurePermissionRequested, this,
+          [this](const QUrl& origin, QWebEnginePage::Feature feature) {
+            setFeaturePermission(origin, feature, PermissionDeniedByUser);
+          });
+  connect(this, &QWebEnginePage::quotaRequested, this, [](auto request) { request.reject(); });
+  connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
+          [](auto request) { request.reject(); });
+  connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
+          [](auto request) { request.reject(); });
+  connect(this, &QWebEnginePage::certificateError, this,
+          [](QWebEngineCertificateError error) { error.rejectCertificate(); });
+  // The menu of the page offers nothing that is refused.
+  for (const WebAction refused :
+       {OpenLinkInNewWindow, OpenLinkInNewTab, OpenLinkInNewBackgroundTab, DownloadLinkToDisk,
+        DownloadImageToDisk, DownloadMediaToDisk, SavePage, ViewSource}) {
+    action(refused)->setVisible(false);
+  }
+}
+
+bool GuardedPage::acceptNavigationRequest(const QUrl& to, NavigationType type, bool isMainFrame) {
+  if (IsWeb(to)) return true;
+  const QString scheme = to.scheme();
+  if (scheme == "mailto" && type == NavigationTypeLinkClicked) QDesktopServices::openUrl(to);
+  if (!isMainFrame) return scheme == "about" || scheme == "data" || scheme == "blob";
+  const QUrl file = TextFileScheme::FileAddress(to);
+  return file.isLocalFile() && MayShowFile(file, type);
+}
+
+// The program's own asking comes as typed; its pages may lead on to their neighbours.
+bool GuardedPage::MayShowFile(const QUrl& file, NavigationType type) const {
+  if (type == NavigationTypeTyped || type == NavigationTypeReload ||
+      type == NavigationTypeBackForward) {
+    return true;
+  }
+  const QUrl from = TextFileScheme::FileAddress(url());
+  constexpr auto folder = QUrl::RemoveFilename | QUrl::RemoveFragment | QUrl::RemoveQuery;
+  return from.isLocalFile() && file.adjusted(folder) == from.adjusted(folder);
+}
+
+}  // namespace benevix

@@ -1,0 +1,131 @@
+#include "mirror/page_viewer/page_view_host.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QLabel>
+#include <QPluginLoader>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "base/runtime_error.h"
+#include "mirror/page_viewer/administrator.h"
+#include "mirror/page_viewer/page_address.h"
+
+namespace benevix {
+namespace {
+
+// Null when the plug-in is missing or does not fit the program.
+PageViewFactory* LoadFactory() {
+  QStringList folders = QCoreApplication::libraryPaths();
+  folders.prepend(QCoreApplication::applicationDirPath() + "/plugins");
+  for (const QString& folder : folders) {
+    QPluginLoader loader(folder + "/benevix_page_viewer");
+    if (auto* factory = qobject_cast<PageViewFactory*>(loader.instance())) return factory;
+  }
+  return nullptr;
+}
+
+// The engine ends the whole program when it is to run unconfined and was not told so.
+bool EngineMayRun() {
+  return !RunsAsAdministrator() || qEnvironmentVariableIsSet("QTWEBENGINE_DISABLE_SANDBOX");
+}
+
+}  // namespace
+
+PageViewHost::PageViewHost(QWidget* container, QLabel* hostLine)
+    : container_(container), hostLine_(hostLine) {
+  if (container->layout() == nullptr) new QVBoxLayout(container);
+  container->layout()->setContentsMargins(0, 0, 0, 0);
+}
+
+PageViewHost::~PageViewHost() {
+  Clear();
+}
+
+// Each page has a view of its own, so that it starts at its top or its anchor and without what the
+// page before it has left.
+void PageViewHost::Navigate(const std::string& address) {
+  Clear();
+  if (address.empty()) return;
+  try {
+    ShowPage(PageAddress(address));
+  } catch (const RuntimeError& error) {
+    ShowNotice(QString::fromStdString(error.what()));
+  }
+}
+
+void PageViewHost::Clear() {
+  view_.reset();
+  delete notice_;
+  address_.clear();
+  if (hostLine_ != nullptr) hostLine_->clear();
+}
+
+void PageViewHost::ShowPage(const QUrl& address) {
+  SetAddress(address);
+  if (!EngineMayRun()) {
+    ShowNotice(
+        QStringLiteral("The page viewer does not run for the system's administrator, because a "
+                       "page could do harm with these rights. Please start the program as another "
+                       "user, or open the page in your browser."));
+    return;
+  }
+  PageViewFactory* factory = LoadFactory();
+  if (factory == nullptr) {
+    ShowNotice(
+        QStringLiteral("The page viewer is not installed or does not fit this version of the "
+                       "program. You can open the page in your browser."));
+    return;
+  }
+  PageViewEvents events;
+  events.shown = [this](const QUrl& shown) { SetAddress(shown); };
+  events.stopped = [this] {
+    view_.reset();
+    ShowNotice(QStringLiteral("The page has stopped working. You can open it in your browser."));
+  };
+  view_ = factory->Show(address, container_, std::move(events));
+  Put(view_->Widget());
+}
+
+void PageViewHost::SetAddress(const QUrl& address) {
+  address_ = address;
+  hostLine_->setText(OriginText(address));
+}
+
+void PageViewHost::ShowNotice(const QString& text) {
+  auto* notice = new QWidget(container_);
+  notice->setObjectName("pageNotice");
+  auto* label = new QLabel(text, notice);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  label->setAlignment(Qt::AlignCenter);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+  auto* column = new QVBoxLayout(notice);
+  column->setSpacing(16);
+  column->setContentsMargins(32, 0, 32, 0);
+  column->addStretch();
+  column->addWidget(label);
+  if (!address_.isEmpty()) {
+    auto* button = new QPushButton(QStringLiteral("&Open in the browser"), notice);
+    QObject::connect(button, &QPushButton::clicked, label, [label, address = address_] {
+      if (QDesktopServices::openUrl(address)) return;
+      label->setText(QStringLiteral("No browser could be opened. The page's address is:\n\n") +
+                     address.toString(QUrl::FullyEncoded));
+    });
+    column->addWidget(button, 0, Qt::AlignHCenter);
+  }
+  column->addStretch();
+  notice_ = notice;
+  Put(notice);
+}
+
+void PageViewHost::Put(QWidget* widget) {
+  container_->layout()->addWidget(widget);
+  container_->setFocusProxy(widget);
+  widget->show();
+  // The keys that scroll work at once, unless the user is busy elsewhere in the window.
+  if (container_->window()->focusWidget() == nullptr) widget->setFocus();
+}
+
+}  // namespace benevix

@@ -1,0 +1,67 @@
+#include "mirror/page_viewer/web_engine_page_view.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+#include <QQuickWindow>
+#include <QWebEngineView>
+#include <QtWebEngineQuick>
+
+#include "mirror/page_viewer/guarded_page.h"
+
+namespace benevix {
+namespace {
+
+void BringUpEngine() {
+  TextFileScheme::Register();
+  QtWebEngineQuick::initialize();
+  // Drawing without the graphics card spares the window, which is shown already, from being made
+  // anew around the view, and the program from faults of drivers.
+  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+
+  // Pages that have a dark dress are to wear it when the program does. The engine takes that as a
+  // flag only, which programs that are started later must not inherit.
+  const char* const variable = "QTWEBENGINE_CHROMIUM_FLAGS";
+  const QByteArray flags = qgetenv(variable);
+  if (QGuiApplication::palette().window().color().lightness() < 128) {
+    qputenv(variable, flags + " --force-dark-mode");
+  }
+  const QWebEngineProfile first;  // reads the flags
+  if (flags.isNull()) {
+    qunsetenv(variable);
+  } else {
+    qputenv(variable, flags);
+  }
+}
+
+}  // namespace
+
+WebEnginePageView::WebEnginePageView(const QUrl& address, QWidget* parent,
+                                     const PageViewEvents& events)
+    : textFile_(address), view_(new QWebEngineView(parent)) {
+  profile_.installUrlSchemeHandler(TextFileScheme::kName, &textFile_);
+  auto* page = new GuardedPage(&profile_, view_);
+  view_->setPage(page);
+  connect(page, &QWebEnginePage::urlChanged, this,
+          [shown = events.shown](const QUrl& url) { shown(TextFileScheme::FileAddress(url)); });
+  // Queued, because the view is thrown away in answer.
+  connect(page, &QWebEnginePage::renderProcessTerminated, this, events.stopped,
+          Qt::QueuedConnection);
+  page->setUrl(TextFileScheme::PageAddress(address));
+}
+
+WebEnginePageView::~WebEnginePageView() {
+  delete view_;
+}
+
+QWidget* WebEnginePageView::Widget() {
+  return view_;
+}
+
+std::unique_ptr<PageView> WebEnginePageViewFactory::Show(const QUrl& address, QWidget* parent,
+                                                         PageViewEvents events) {
+  if (!engineIsUp_) BringUpEngine();
+  engineIsUp_ = true;
+  return std::make_unique<WebEnginePageView>(address, parent, std::move(events));
+}
+
+}  // namespace benevix

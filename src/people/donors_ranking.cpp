@@ -1,0 +1,50 @@
+#include "people/donors_ranking.h"
+
+#include <string_view>
+
+#include "base/lines.h"
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+
+namespace benevix {
+namespace {
+
+constexpr int kMyName = 0;
+constexpr int kBoth = 2;
+
+}  // namespace
+
+void DonorsRanking::Form_Load() {
+  Choose(window_.Option1, kMyName);
+  window_.Text1.enabled = false;
+  try {
+    const std::string stored = codec_.Unscramble(settings_.GetUserString("RankOpt"));
+    std::string_view rest = stored;
+    const double option = Val(CutField(rest, ','));
+    if (stored.empty() || option < kMyName || option > kBoth) return;
+    Choose(window_.Option1, static_cast<std::size_t>(option));
+    window_.Text1.Write(std::string(rest));
+    window_.Text1.enabled = !window_.Option1[kMyName].value;
+  } catch (const RuntimeError&) {
+    // A choice that cannot be read is made again.
+  }
+}
+
+void DonorsRanking::Option1_Click(int index) {
+  if (index == kMyName) window_.Text1.Write("");
+  window_.Text1.enabled = index != kMyName;
+}
+
+void DonorsRanking::Command1_Click() {
+  const int option = Chosen(window_.Option1);
+  if (option != kMyName && Trim(window_.Text1.text).empty()) {
+    messages_.Show("Business Name is required");
+    return;
+  }
+  settings_.SaveUserString("RankOpt",
+                           codec_.Scramble(std::to_string(option) + "," + window_.Text1.text));
+  desk_.Unload(window_);
+}
+
+}  // namespace benevix

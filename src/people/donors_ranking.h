@@ -1,0 +1,31 @@
+#pragma once
+
+#include "controls/desk.h"
+#include "core/codec.h"
+#include "core/messages.h"
+#include "core/settings_store.h"
+#include "forms/frmDonRankg.h"
+
+namespace benevix {
+
+// The name of the donor's entry in the ranking, kept scrambled in the setting `RankOpt`: the
+// option's index, ",", the business name.
+class DonorsRanking {
+ public:
+  DonorsRanking(frmDonRankg& window, Desk& desk, SettingsStore& settings, const TextCodec& codec,
+                Messages& messages)
+      : window_(window), desk_(desk), settings_(settings), codec_(codec), messages_(messages) {}
+
+  void Form_Load();
+  void Option1_Click(int index);
+  void Command1_Click();
+
+ private:
+  frmDonRankg& window_;
+  Desk& desk_;
+  SettingsStore& settings_;
+  const TextCodec& codec_;
+  Messages& messages_;
+};
+
+}  // namespace benevix

@@ -1,0 +1,89 @@
+#include "people/messenger.h"
+
+#include "base/runtime_error.h"
+#include "database/organization_list.h"
+
+namespace benevix {
+namespace {
+
+constexpr int kSend = 0;
+constexpr int kClose = 1;
+constexpr int kPrint = 2;
+constexpr int kSender = 3;        // of Label1
+constexpr int kOrganization = 4;  // of Label1
+
+}  // namespace
+
+void Messenger::WriteTo(const std::string& recipient) {
+  window_.Command1[kSend].tag = recipient;
+  const auto& details = others_.contact.Text1;
+  if (details[contact_field::kEMail].text.empty() ||
+      details[contact_field::kFullName].text.empty()) {
+    return others_.askForContact();
+  }
+  Show();
+}
+
+void Messenger::Show() {
+  desk_.Show(window_, Modality::Modeless, Attention::KeepsMainDisabled);
+  desk_.SetFocus(window_.Text1[0]);
+}
+
+void Messenger::Form_Load() {
+  const ListView& list = others_.main.ListView1;
+  window_.caption = info_.deployment.product + " Mail ";
+  window_.Label1[kSender].caption = others_.contact.Text1[contact_field::kEMail].text;
+  window_.Label1[kOrganization].caption = list.SubItem(list.selected, column::kOrganization);
+}
+
+void Messenger::Command1_Click(int index) {
+  window_.topmost = false;
+  switch (index) {
+    case kSend:
+      return Send();
+    case kClose:
+      return Close();
+    case kPrint:
+      return others_.print(window_.Label1[kSender].caption, window_.Label1[kOrganization].caption,
+                           window_.Text1[0].text, window_.Text1[1].text);
+    default:
+      return;
+  }
+}
+
+void Messenger::Send() {
+  const std::string recipient = window_.Command1[kSend].tag;
+  if (recipient.empty()) return;
+  window_.mousePointer = MousePointer::Hourglass;
+  const auto contactData = server_.GetContactData();
+  if (!contactData) {
+    messages_.ShowMessage(message::kServiceUnavailable, message_kind::kFailedToConnect);
+    window_.mousePointer = MousePointer::Default;
+    return;
+  }
+  const std::string& base = info_.deployment.serverBase;
+  std::string answer;
+  try {
+    answer = server_.OpenURL(
+        base + contactData->script + "email=" + window_.Label1[kSender].caption +
+        "&recipient=" + recipient + "&subject=" + window_.Text1[0].text +
+        "&=" + window_.Text1[1].text + ".\r\n This message was sent courtesy of Benevix " + base);
+  } catch (const RuntimeError&) {
+    // No answer is no thanks.
+  }
+  const bool sent = answer.find("Thank You") != std::string::npos;
+  if (sent) {
+    messages_.ShowMessage(message::kNoticeSent, message_kind::kNone);
+    window_.Command1[kPrint].enabled = true;
+  } else {
+    messages_.ShowMessage(message::kMailFailed, message_kind::kFailedToConnect);
+  }
+  window_.mousePointer = MousePointer::Default;
+  if (!sent) desk_.Unload(window_);
+}
+
+void Messenger::Close() {
+  desk_.Unload(window_);
+}
+
+}  // namespace benevix

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "controls/desk.h"
+#include "core/messages.h"
+#include "forms/frmBVX.h"
+#include "forms/frmMail.h"
+#include "forms/frmPersInfo.h"
+#include "platform/surroundings.h"
+#include "server/server_files.h"
+
+namespace benevix {
+
+// Writes a message to an organization through the server's mail script.
+class Messenger {
+ public:
+  struct Others {
+    const frmPersInfo& contact;
+    const frmBVX& main;
+    std::function<void()> askForContact;  // the user's own details come first
+    // From, to, subject and message.
+    std::function<void(const std::string&, const std::string&, const std::string&,
+                       const std::string&)>
+        print;
+  };
+
+  Messenger(frmMail& window, Desk& desk, ServerFiles& server, Messages& messages,
+            const ProgramInfo& info, Others others)
+      : window_(window),
+        desk_(desk),
+        server_(server),
+        messages_(messages),
+        info_(info),
+        others_(std::move(others)) {}
+
+  // Opens for a recipient; without the user's name or e-mail the contact window comes first.
+  void WriteTo(const std::string& recipient);
+  // Shows the window with the focus in the subject; the main window waits.
+  void Show();
+
+  void Form_Load();
+  void Command1_Click(int index);
+  void Close();
+
+ private:
+  void Send();
+
+  frmMail& window_;
+  Desk& desk_;
+  ServerFiles& server_;
+  Messages& messages_;
+  const ProgramInfo& info_;
+  Others others_;
+};
+
+}  // namespace benevix

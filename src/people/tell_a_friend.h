@@ -1,0 +1,43 @@
+#pragma once
+
+#include "controls/desk.h"
+#include "core/codec.h"
+#include "core/messages.h"
+#include "core/settings_store.h"
+#include "forms/frmTellAFriend.h"
+#include "platform/program_info.h"
+#include "server/server_files.h"
+
+namespace benevix {
+
+// Sends a friend a recommendation; the sender's name and address are remembered scrambled.
+class TellAFriend {
+ public:
+  TellAFriend(frmTellAFriend& window, Desk& desk, SettingsStore& settings, const TextCodec& codec,
+              ServerFiles& server, Messages& messages, const ProgramInfo& info)
+      : window_(window),
+        desk_(desk),
+        settings_(settings),
+        codec_(codec),
+        server_(server),
+        messages_(messages),
+        info_(info) {}
+
+  void Form_Load();
+  void Command1_Click(int index);
+
+ private:
+  void Send();
+  [[nodiscard]] std::string Request(const std::string& script) const;
+  [[nodiscard]] std::string Remembered(const std::string& name);
+
+  frmTellAFriend& window_;
+  Desk& desk_;
+  SettingsStore& settings_;
+  const TextCodec& codec_;
+  ServerFiles& server_;
+  Messages& messages_;
+  const ProgramInfo& info_;
+};
+
+}  // namespace benevix

@@ -1,0 +1,93 @@
+#include "server/list_update.h"
+
+#include "base/lines.h"
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+#include "core/wait_notice.h"
+#include "database/organization_list.h"
+
+namespace benevix {
+namespace {
+
+bool IsUsable(const std::string& answer) {
+  return !answer.empty() && answer.find('<') == std::string::npos;
+}
+
+}  // namespace
+
+std::string ListUpdate::Download(const std::string& path, HttpOptions options) {
+  WaitNotice notice(wait_, desk_, surroundings_.waits);
+  options.limit = kDownloadLimit;
+  options.progress = notice.Progress();
+  return fetch_(path, options);
+}
+
+void ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
+  try {
+    std::string reply;
+    try {
+      reply = fetch_("53rv3r/dbcurrver.dat", {});
+    } catch (const RuntimeError&) {
+      // No answer counts as an empty one.
+    }
+    const auto noServer = [&] {
+      if (!silent) messages_.ShowMessage(message::kNoServer, message_kind::kFailedToConnect);
+    };
+    if (!IsUsable(reply)) return noServer();
+    const float version = ToSingle(Val(reply));
+    if (version == run_.DBVersion && !silent) {
+      messages_.ShowMessage(message::kNoUpdates, message_kind::kNone);
+    }
+    if (version < run_.DBVersion && !silent) {
+      messages_.ShowMessage(message::kLocalListNewer, message_kind::kInputError);
+    }
+    if (version <= run_.DBVersion || !download) return;
+
+    const std::string temporary = surroundings_.info.Resource("$shrdb.dat");
+    surroundings_.files.Replace(temporary, "");
+    const std::string list = Download("downloads/db" + reply);
+    if (!IsUsable(list)) return noServer();
+    surroundings_.files.Replace(temporary, list);
+    if (silent) {
+      ready = true;
+    } else {
+      messages_.ShowMessage(message::kUpdateDownloaded, message_kind::kNone);
+    }
+  } catch (const RuntimeError&) {
+    // Transfer and file errors end the check without a message.
+  }
+}
+
+bool ListUpdate::InstallList() {
+  Files& files = surroundings_.files;
+  const ProgramInfo& info = surroundings_.info;
+  const std::string temporary = info.Resource("$shrdb.dat");
+  const bool isList = files.ReadAll(temporary).starts_with(kListHeader);
+  if (isList) {
+    files.Remove(info.Resource("sharedb.dat"));
+    files.Copy(temporary, info.Resource("/shareddb.dat"));
+  }
+  files.Remove(temporary);
+  return isList;
+}
+
+bool ListUpdate::DownloadUpdater() {
+  std::string program;
+  try {
+    HttpOptions options;
+    options.needsOk = true;
+    program = Download("downloads/updater.exe", options);
+  } catch (const RuntimeError&) {
+    // Told below, like an empty answer.
+  }
+  if (program.empty() || program[0] == '<') {
+    messages_.ShowMessage(message::kServerBusy, message_kind::kFailedToConnect);
+    return false;
+  }
+  const std::string file = surroundings_.info.folder + "/updater.exe";
+  surroundings_.files.Replace(file, program);
+  surroundings_.shell.StartProgram(file);
+  return true;
+}
+
+}  // namespace benevix

@@ -1,0 +1,88 @@
+#include "server/translation.h"
+
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "database/organization_list.h"
+
+namespace benevix {
+namespace {
+
+using namespace translate_field;
+
+}  // namespace
+
+void Translation::Label3_Click() {
+  windows_.viewer.Label3.tag = "Yes";
+  desk_.Show(windows_.preferences);
+}
+
+void Translation::Form_Load() {
+  auto& boxes = windows_.preferences.Text1;
+  const std::string service = settings_.GetUserString("LangService");
+  boxes[kMyLanguage].Write(settings_.GetUserString("Language"));
+  boxes[kService].Write(service.empty() ? surroundings_.info.deployment.translationName : service);
+  boxes[kAddressKey].Write(settings_.GetUserString("comdService"));
+}
+
+void Translation::Close() {
+  const auto& boxes = windows_.preferences.Text1;
+  settings_.SaveUserString("Language", boxes[kMyLanguage].text);
+  settings_.SaveUserString("LangService", boxes[kService].text);
+  settings_.SaveUserString("comdService", boxes[kAddressKey].text);
+  desk_.Unload(windows_.preferences);
+}
+
+std::string Translation::RequestAddress() const {
+  const Deployment& deployment = surroundings_.info.deployment;
+  const auto& boxes = windows_.preferences.Text1;
+  const bool builtIn = LowerCase(boxes[kService].text) == LowerCase(deployment.translationName);
+  const ListView& list = windows_.main.ListView1;
+  // Another service is asked in its own words.
+  const std::string prefix =
+      builtIn ? deployment.translationBase + "?sequence=core&language=" : boxes[kService].text;
+  return prefix + boxes[kFromLanguage].text + "/" + boxes[kMyLanguage].text +
+         (builtIn ? "&url=" : boxes[kAddressKey].text) + deployment.serverBase + "infoDB/" +
+         list.SubItem(list.selected, column::kId) + ".dat";
+}
+
+std::string Translation::Fetch() const {
+  const HttpControl& control = windows_.main.Inet2;
+  HttpOptions options;
+  options.proxy = control.proxy;
+  options.timeout = control.requestTimeout;
+  try {
+    return surroundings_.http.OpenURL(RequestAddress(), options);
+  } catch (const RuntimeError&) {
+    return {};
+  }
+}
+
+void Translation::Translate() {
+  frmInfo& viewer = windows_.viewer;
+  if (viewer.Label3.tag != "Yes") return;
+  windows_.preferences.mousePointer = MousePointer::Hourglass;
+  const std::string page = JudgeTranslation(Fetch());
+  windows_.preferences.mousePointer = MousePointer::Default;
+  const std::string file = surroundings_.info.Resource("tmp.html");
+  surroundings_.files.Replace(file, page + "\r\n");
+  viewer.ShowPage(FromUtf8(file), viewer.caption);
+  viewer.Label3.tag.clear();
+  viewer.Label3.visible = false;
+  desk_.Unload(windows_.preferences);
+}
+
+std::string JudgeTranslation(const std::string& answer) {
+  if (answer.empty()) return "Request timed out";
+  std::string text = answer;
+  const auto bracket = text.find('>');
+  if (bracket != std::string::npos) text.erase(0, bracket + 1);
+  if (LowerCase(text).find("error") != std::string::npos || text.find("404") != std::string::npos) {
+    return "Language not supported";
+  }
+  if (text.empty() || text.find('<') != std::string::npos) {
+    return "The service could not be contacted";
+  }
+  return text;
+}
+
+}  // namespace benevix

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+
+#include "controls/desk.h"
+#include "core/settings_store.h"
+#include "forms/frmBVX.h"
+#include "forms/frmInfo.h"
+#include "forms/frmPrefsTranslate.h"
+#include "platform/surroundings.h"
+
+namespace benevix {
+
+// Translates an organization's information page through an online service, and shows the answer.
+class Translation {
+ public:
+  struct Windows {
+    frmPrefsTranslate& preferences;
+    frmInfo& viewer;
+    frmBVX& main;
+  };
+
+  Translation(Windows windows, Desk& desk, SettingsStore& settings, Surroundings& surroundings)
+      : windows_(windows), desk_(desk), settings_(settings), surroundings_(surroundings) {}
+
+  // The viewer's TRANSLATE.
+  void Label3_Click();
+  void Form_Load();
+  void Translate();
+  // Keeps the preferences and closes.
+  void Close();
+
+ private:
+  [[nodiscard]] std::string RequestAddress() const;
+  // The service's answer, or empty when none came.
+  [[nodiscard]] std::string Fetch() const;
+
+  Windows windows_;
+  Desk& desk_;
+  SettingsStore& settings_;
+  Surroundings& surroundings_;
+};
+
+// What is shown for a service's answer: the page behind its first ">", or a sentence that says what
+// went wrong.
+std::string JudgeTranslation(const std::string& answer);
+
+}  // namespace benevix

@@ -1,0 +1,91 @@
+#include "server/year_to_date.h"
+
+#include "base/lines.h"
+#include "base/runtime_error.h"
+#include "database/organization_list.h"
+
+namespace benevix {
+
+void YearToDate::DownloadYtd() {
+  run_.YtdState = 0;
+  try {
+    const std::string table = fetch_("53rv3r/ytdt.dat", {});
+    if (table.empty() || table[0] == '<') return;
+    surroundings_.files.Replace(File(), table + "\r\n");
+    run_.YtdState = 1;
+  } catch (const RuntimeError&) {
+    // Without a table the program goes on.
+  }
+}
+
+void YearToDate::ShowYtd() {
+  std::string table;
+  try {
+    table = surroundings_.files.ReadAll(File());
+  } catch (const RuntimeError&) {
+    return;
+  }
+  // The table is the server's text in one line of ours: only CR LF ends it.
+  std::string_view rest = table;
+  while (!rest.empty()) {
+    const auto end = rest.find("\r\n");
+    std::string amounts;
+    const Lookup lookup = FindRecord(rest.substr(0, end), amounts);
+    if (lookup == Lookup::Found) {
+      ShowAmounts(amounts);
+      return SetMark(Mark::Found);
+    }
+    if (lookup == Lookup::Broken) {
+      run_.YtdState = 2;
+      break;
+    }
+    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 2);
+  }
+  SetMark(Mark::NoData);
+}
+
+YearToDate::Lookup YearToDate::FindRecord(std::string_view text, std::string& amounts) const {
+  constexpr std::size_t shortest = 13;
+  const std::string id = main_.ListView1.SubItem(main_.ListView1.selected, column::kId);
+  while (text.size() >= shortest) {
+    const std::string_view record = CutField(text, '\n');
+    const auto comma = record.find(',');
+    if (comma == std::string_view::npos) return Lookup::Broken;
+    if (record.substr(0, comma) != id) continue;
+    amounts = record.substr(comma + 1);
+    return Lookup::Found;
+  }
+  return Lookup::NotFound;
+}
+
+void YearToDate::ShowAmounts(std::string_view amounts) {
+  for (int i = 0; i < 4; ++i) {
+    const std::string_view amount = i < 3 ? CutField(amounts, ',') : amounts;
+    window_.Label2[i].caption = "$ " + (amount.empty() ? "N/A" : std::string(amount));
+  }
+}
+
+void YearToDate::SetMark(Mark mark) {
+  const bool found = mark == Mark::Found;
+  main_.iLbl.foreColor = found ? colors::kBlack : colors::kButtonShadow;
+  main_.Shape2.fillColor = found ? colors::kGreen : colors::kLightGrey;
+  main_.Shape2.meaning = found ? "Amounts are known" : kNoAmounts;
+}
+
+void YearToDate::iLbl_Click() {
+  if (desk_.IsShown(window_)) return desk_.Unload(window_);
+  desk_.Load(window_);
+  if (run_.YtdState != 0 && main_.ListView1.selected != 0) ShowYtd();
+  desk_.Show(window_);
+}
+
+void YearToDate::RemoveYtd() {
+  if (run_.YtdState == 0) return;
+  try {
+    surroundings_.files.Remove(File());
+  } catch (const RuntimeError&) {
+    // The next download replaces it.
+  }
+}
+
+}  // namespace benevix

@@ -1,0 +1,104 @@
+#include "session/charges.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/format.h"
+#include "base/runtime_error.h"
+#include "session/payment_amount.h"
+
+namespace benevix {
+namespace {
+
+// By payment method.
+constexpr std::array kMethodFees = {"Card fees", "Transfer fees", "e-check fee"};
+
+std::string Money(Currency amount) {
+  return Format(amount, kSumPattern);
+}
+
+std::string FeesText(std::size_t option, const Charge& charge) {
+  std::string text = "Service fees " + Money(charge.serviceFees);
+  if (charge.methodFee != Currency()) {
+    text += std::string(", ") + kMethodFees[option] + " " + Money(charge.methodFee);
+  }
+  if (charge.rounding != Currency()) text += ", rounding " + Money(charge.rounding);
+  return text;
+}
+
+}  // namespace
+
+Charge ChargeWith(int option, const SessionValues& values, const FeeRates& rates,
+                  Currency serviceFees, bool roundUp) {
+  FeeRates published = rates;
+  published.CardRate = rates.PublishedCardRate;
+  published.CardFixed = rates.PublishedCardFixed;
+  const auto amount = [&](bool rounded) {
+    return Currency::FromText(PaymentAmount(values, published, serviceFees, option, rounded));
+  };
+  Charge charge;
+  charge.amount = amount(roundUp);
+  charge.serviceFees = serviceFees;
+  charge.rounding = charge.amount - amount(false);
+  charge.methodFee = charge.amount - charge.rounding - values.TotalDonated - serviceFees;
+  return charge;
+}
+
+void Charges::Show() {
+  ByMethod charges;
+  try {
+    const Currency serviceFees = ServiceFeeTotal(main_.ListView1);
+    if (values_.TotalDonated != Currency()) {
+      for (int option = 0; auto& charge : charges) {
+        charge = ChargeWith(option++, values_, rates_, serviceFees, main_.mnuRound.checked);
+      }
+    }
+    ShowUse(serviceFees, charges);
+  } catch (const RuntimeError&) {
+    charges = {};
+    main_.BudgetUse = MoneyBar();
+  }
+  for (std::size_t option = 0; option < charges.size(); ++option) {
+    ShowCharge(option, charges[option]);
+  }
+}
+
+// Fees that come on top of the Budget stand behind what is left of it.
+void Charges::ShowUse(Currency serviceFees, const ByMethod& charges) {
+  using Part = MoneyBar::Part;
+  MoneyBar& bar = main_.BudgetUse;
+  bar = MoneyBar();
+  const auto method = static_cast<std::size_t>(std::max(Chosen(payment_.Option1), 0));
+  const bool deducts = main_.mnuDeductFees.checked;
+  Currency methodFee;
+  if (deducts) {
+    methodFee = CardFeeTotal(main_.ListView1);
+    if (values_.SessionFeeTaken) methodFee += rates_.SessionFee;
+  } else if (charges[method] && Chosen(payment_.Option1) >= 0) {
+    methodFee = charges[method]->methodFee;
+  }
+  const Part left{Part::Use::Left, "Left", values_.Balance};
+  bar.parts.push_back({Part::Use::Given, "Given", values_.TotalDonated});
+  if (!deducts) bar.parts.push_back(left);
+  bar.parts.push_back({Part::Use::ServiceFees, "Service fees", serviceFees});
+  bar.parts.push_back({Part::Use::MethodFee, kMethodFees[method], methodFee});
+  if (deducts) bar.parts.push_back(left);
+
+  bar.toolTip = "Budget " + Money(values_.Budget);
+  for (const Part& part : bar.parts) bar.toolTip += ", " + part.caption + " " + Money(part.amount);
+}
+
+void Charges::ShowCharge(std::size_t option, const std::optional<Charge>& charge) {
+  const std::string amount = charge ? Money(charge->amount) : "-";
+  const std::string fees = charge ? FeesText(option, *charge) : "once something is given";
+  const bool chosen = payment_.Option1[option].value;
+  main_.ChargeAmount[option].caption = amount;
+  main_.ChargeAmount[option].foreColor = chosen ? colors::kActiveTitleBar : Label().foreColor;
+  main_.ChargeFees[option].caption = fees;
+  payment_.ChargeAmount[option].caption = amount;
+  payment_.ChargeAmount[option].visible = charge.has_value();
+  payment_.ChargeFees[option].caption = fees;
+  payment_.ChargeFees[option].visible = charge.has_value();
+}
+
+}  // namespace benevix

@@ -1,0 +1,47 @@
+#include "session/payment_options.h"
+
+#include "base/number_text.h"
+
+namespace benevix {
+
+void PaymentOptions::AskOnce() {
+  if (Chosen(window_.Option1) >= 0) return;
+  desk_.Show(window_, Modality::Modeless, Attention::KeepsMainDisabled);
+}
+
+void PaymentOptions::Ask() {
+  desk_.Show(window_);
+}
+
+void PaymentOptions::Option1_Click() {
+  window_.Command1[0].enabled = true;
+}
+
+void PaymentOptions::Command1_Click(int index) {
+  if (index == 0) {
+    Continue();
+  } else {
+    follow_.showHelpPage("qhelp.html#Avoiding Credit Card Fees");
+  }
+}
+
+void PaymentOptions::Continue() {
+  window_.Command1[0].enabled = false;
+  main_.mnuChgPayMethod.enabled = false;
+  const int chosen = Chosen(window_.Option1);
+  if (chosen >= 0) main_.Label4.caption = window_.Option1[chosen].caption + " Payment method ";
+  main_.Label4.tag = "1";
+  main_.Timer1.tag.clear();
+  main_.Timer1.enabled = true;
+  desk_.Hide(window_);
+  if (Val(main_.Command1.tag) == 1) {
+    main_.Command1.tag.clear();
+    follow_.finalize();
+  }
+}
+
+void PaymentOptions::Form_Unload() {
+  main_.Command1.tag.clear();
+}
+
+}  // namespace benevix

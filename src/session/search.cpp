@@ -1,0 +1,67 @@
+#include "session/search.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "base/text.h"
+
+namespace benevix {
+namespace {
+
+bool Contains(std::string_view text, std::string_view word) {
+  return std::search(text.begin(), text.end(), word.begin(), word.end(), SameLetter) != text.end();
+}
+
+}  // namespace
+
+void Search::Command1_Click() {
+  const std::string& word = window_.Text1.text;
+  if (word.empty() || database_.List() == nullptr) return;
+  const bool byName = window_.Option1[1].value;
+  int row = byName ? FindBeginning(word) : FindCountry(word);
+  if (row == 0 && byName) {
+    row = FindWithin(word);
+    if (row != 0) startRow_ = row + 1;
+  }
+  if (row != 0) select_(row);
+}
+
+int Search::FindCountry(const std::string& word) const {
+  const OrganizationList& list = *database_.List();
+  for (const int row : list.Headings()) {
+    if (BeginsWith(list.View(row, column::kCountry), word)) return row;
+  }
+  return 0;
+}
+
+int Search::FindBeginning(const std::string& word) const {
+  const OrganizationList& list = *database_.List();
+  // Only a word of a number can begin one.
+  const bool maybeId = word[0] == '-' || (word[0] >= '0' && word[0] <= '9');
+  int found = 0;
+  for (int row = 1; row <= list.Count() && found == 0; ++row) {
+    if (BeginsWith(list.View(row, column::kOrganization), word) ||
+        BeginsWith(list.View(row, column::kType), word) ||
+        (maybeId && BeginsWith(list.Text(row, column::kId), word))) {
+      found = row;
+    }
+  }
+  for (const auto& [row, cells] : main_.ListView1.cells) {
+    if (found != 0 && row >= found) break;
+    if (std::any_of(cells.begin(), cells.end(),
+                    [&](const std::string& cell) { return BeginsWith(cell, word); })) {
+      return row;
+    }
+  }
+  return found;
+}
+
+int Search::FindWithin(const std::string& word) const {
+  const OrganizationList& list = *database_.List();
+  for (int row = startRow_; row <= list.Count(); ++row) {
+    if (Contains(list.View(row, column::kOrganization), word)) return row;
+  }
+  return 0;
+}
+
+}  // namespace benevix

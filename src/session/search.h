@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+
+#include "database/organization_database.h"
+#include "forms/frmBVX.h"
+#include "forms/frmSrch.h"
+
+namespace benevix {
+
+// Finds a row of the list by the beginning of its texts, or by a part of its organization's name.
+class Search {
+ public:
+  // `select` scrolls a row into view and selects it.
+  Search(frmSrch& window, const frmBVX& main, const OrganizationDatabase& database,
+         std::function<void(int row)> select)
+      : window_(window), main_(main), database_(database), select_(std::move(select)) {}
+
+  // The search begins anew: the window was loaded or the word changed.
+  void Restart() { startRow_ = 1; }
+  void Command1_Click();
+
+ private:
+  [[nodiscard]] int FindCountry(const std::string& word) const;
+  // The first row one of whose sub-items begins with the word.
+  [[nodiscard]] int FindBeginning(const std::string& word) const;
+  // The first row from the start row whose name contains the word.
+  [[nodiscard]] int FindWithin(const std::string& word) const;
+
+  frmSrch& window_;
+  const frmBVX& main_;
+  const OrganizationDatabase& database_;
+  std::function<void(int row)> select_;
+  int startRow_ = 1;
+};
+
+}  // namespace benevix

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QApplication>
+#include <QTest>
+
+#include "../list_of_a_test.h"
+#include "mirror/look/theme.h"
+#include "mirror/mirror/mirror.h"
+#include "program/program.h"
+
+namespace benevix {
+
+// All windows of the program on the screen at once, each with everything in it shown and enabled,
+// and with texts where the program would write some.
+class EveryWindow {
+ public:
+  explicit EveryWindow(Scheme scheme) : mirror(scheme, Mirror::Timers::Hold) {
+    ApplyTheme(*qApp, scheme);
+    desk.Add("frmBVX", windows.main);
+    desk.Add("frmSplash", windows.splash);
+    desk.Add("frmPayOpt", windows.payment);
+    desk.Add("frmInfo", windows.info);
+    desk.Add("frmPersInfo", windows.contact);
+    desk.Add("frmDonRankg", windows.ranking);
+    desk.Add("frmWait", windows.wait);
+    desk.Add("frmWizard", windows.wizard);
+    desk.Add("frmYtdTag", windows.ytd);
+    desk.Add("frmMail", windows.mail);
+    desk.Add("frmTellAFriend", windows.tellAFriend);
+    desk.Add("frmPrefsTranslate", windows.translate);
+    desk.Add("frmSrch", windows.search);
+    mirror.Attach(desk, input);
+    input.Enter([this] {
+      windows.main.ListView1.SetRows(std::make_shared<RowsOfATest>());
+      for (Desk::Entry& entry : desk.Entries()) {
+        for (const NamedControl& control : entry.controls) Open(control);
+        desk.Show(*entry.window);
+      }
+    });
+    QTest::qWait(0);
+  }
+  ~EveryWindow() { mirror.Detach(); }
+  EveryWindow(const EveryWindow&) = delete;
+  EveryWindow& operator=(const EveryWindow&) = delete;
+
+  Windows windows;
+  EventTable events;
+  Desk desk{events};
+  Input input{desk, events};
+  Mirror mirror;
+
+ private:
+  static void Fill(std::string& text) {
+    if (text.empty()) text = "Text";
+  }
+
+  static void Open(const NamedControl& control) {
+    control.Base().enabled = true;
+    if (control.As<MenuItem>() == nullptr) control.Base().visible = true;
+    if (auto* const label = control.As<Label>()) Fill(label->caption);
+    if (auto* const option = control.As<OptionButton>()) Fill(option->caption);
+    if (auto* const box = control.As<TextBox>()) Fill(box->text);
+    if (auto* const combo = control.As<ComboBox>()) combo->list = {combo->text = "Text"};
+  }
+};
+
+}  // namespace benevix

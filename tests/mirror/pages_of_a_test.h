@@ -1,0 +1,138 @@
+#pragma once
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLibrary>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <httplib.h>
+#include <mutex>
+#include <thread>
+
+#include "mirror/page_viewer/page_view_host.h"
+
+namespace benevix {
+
+// A site on the loopback that counts who asked for what.
+template <class Server>
+class Site : public Server {
+ public:
+  template <class... Arguments>
+  explicit Site(Arguments... arguments)
+      : Server(arguments...), port_(Server::bind_to_any_port("127.0.0.1")) {
+    Server::set_keep_alive_max_count(1);  // an open connection would hold up the end
+    Server::set_pre_routing_handler([this](const httplib::Request& request, httplib::Response&) {
+      const std::lock_guard lock(mutex_);
+      asked_.push_back(request.target + " " + request.get_header_value("Cookie"));
+      return Server::HandlerResponse::Unhandled;
+    });
+  }
+  ~Site() override {
+    Server::stop();
+    if (thread_.joinable()) thread_.join();
+  }
+  void Page(const std::string& path, const std::string& html) {
+    Server::Get(path, [html](const httplib::Request&, httplib::Response& response) {
+      response.set_content(html, "text/html");
+    });
+  }
+  void Open() {
+    thread_ = std::thread([this] { Server::listen_after_bind(); });
+    while (!Server::is_running()) std::this_thread::yield();
+  }
+  [[nodiscard]] std::string Port() const { return std::to_string(port_); }
+  [[nodiscard]] std::string Host() const { return "127.0.0.1:" + Port(); }
+  [[nodiscard]] std::string Home() const { return "http://" + Host() + "/"; }
+  [[nodiscard]] bool WasAsked(const std::string& request) {
+    const std::lock_guard lock(mutex_);
+    return std::find(asked_.begin(), asked_.end(), request) != asked_.end();
+  }
+
+ private:
+  int port_;
+  std::thread thread_;
+  std::mutex mutex_;
+  std::vector<std::string> asked_;
+};
+
+// The page viewer in a window, whose pages can be asked for values.
+class PageViewerTest : public testing::Test {
+ protected:
+  PageViewerTest() {
+    auto* column = new QVBoxLayout(&window_);
+    column->addWidget(hostLine_);
+    column->addWidget(container_, 1);
+    window_.resize(720, 560);
+    window_.show();
+  }
+  [[nodiscard]] QObject* Engine(const char* className) const {
+    for (QObject* object : container_->findChildren<QObject*>()) {
+      if (object->inherits(className)) return object;
+    }
+    return nullptr;
+  }
+  void Show(const std::string& address) {
+    host_.Navigate(address);
+    QObject* view = Engine("QWebEngineView");
+    ASSERT_NE(view, nullptr) << Notice().toStdString();
+    EXPECT_TRUE(QSignalSpy(view, SIGNAL(loadFinished(bool))).wait(20000));
+  }
+  QString Value(const QString& expression) {
+    using Probe = QString (*)(QObject*, const QString&);
+    static const auto probe = reinterpret_cast<Probe>(QLibrary::resolve(PAGE_PROBE, "ValueInPage"));
+    QObject* page = Engine("QWebEnginePage");
+    return page == nullptr ? Notice() : probe(page, expression);
+  }
+  bool Becomes(const QString& expression, const QString& wanted) {
+    QString value;
+    if (QTest::qWaitFor([&] { return (value = Value(expression)) == wanted; }, 10000)) return true;
+    ADD_FAILURE() << qPrintable(expression) << " is " << qPrintable(value);
+    return false;
+  }
+  bool ShowsText(const QString& text) {
+    return Becomes("document.body&&document.body.innerText.trim()", text);
+  }
+  // As the user does it.
+  void ClickAt(int x, int y) {
+    auto* view = qobject_cast<QWidget*>(Engine("QWebEngineView"));
+    ASSERT_NE(view, nullptr);
+    QTest::mouseClick(view->focusProxy(), Qt::LeftButton, {}, QPoint(x, y));
+  }
+  [[nodiscard]] QString Notice() const {
+    const auto* notice = container_->findChild<QWidget*>("pageNotice");
+    return notice == nullptr ? QString() : notice->findChild<QLabel*>()->text();
+  }
+  std::string Put(const QString& name, const QByteArray& bytes) {
+    const QString path = folder_.filePath(name);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    return path.toStdString();
+  }
+  // Runs the running test again, in another program file or surroundings.
+  void RunAgain(const QString& program, const QProcessEnvironment& environment) {
+    const std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(program, {"--gtest_filter=*." + QString::fromStdString(name)});
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 0) << process.readAll().toStdString();
+  }
+
+  QTemporaryDir folder_;
+  Site<httplib::Server> site_;
+  QWidget window_;
+  QLabel* hostLine_ = new QLabel;
+  QWidget* container_ = new QWidget;
+  PageViewHost host_{container_, hostLine_};
+};
+
+}  // namespace benevix

@@ -1,0 +1,28 @@
+#include <gtest/gtest.h>
+
+#include "../platform/surroundings_of_a_test.h"
+#include "people/other_names.h"
+#include "platform/linux/linux_files.h"
+
+namespace benevix {
+namespace {
+
+TEST(OtherNames, AreLinesInTheOrderOfTyping) {
+  const TempFolder folder;
+  LinuxFiles files;
+  OtherNames names(files, folder / "names");
+  ComboBox combo;
+  combo.list = {"own"};
+  names.LoadOtherNames(combo);
+  for (const char* name : {"Smith, J\xF6rg", "B", "B"}) names.AppendOtherName(name);
+  EXPECT_EQ(Got(folder / "names"), "Smith, J\xF6rg\r\nB\r\nB\r\n");
+  Put(folder / "names", "Smith, J\xF6rg\r\n\r\nno end");
+  names.LoadOtherNames(combo);
+  OtherNames unreadable(files, folder / ".");
+  unreadable.LoadOtherNames(combo);
+  unreadable.AppendOtherName("lost without a word");
+  EXPECT_EQ(combo.list, (std::vector<std::string>{"own", "Smith, J\xF6rg", "", "no end"}));
+}
+
+}  // namespace
+}  // namespace benevix

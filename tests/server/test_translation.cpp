@@ -1,0 +1,22 @@
+#include <gtest/gtest.h>
+
+#include "../cases_of_a_test.h"
+#include "server/translation.h"
+
+namespace benevix {
+namespace {
+
+TEST(Translation, AnAnswerIsJudgedByWhatIsBehindItsFirstBracket) {
+  for (const auto& [answer, shown] : Cases(
+           {" => Request timed out", "<html>Une page => Une page", "Nur Text => Nur Text",
+            "Eine Seite > hier =>  hier", "<error 404>Seite => Seite",
+            // An error comes before what is left of a page.
+            "<p>An ERROR <b> => Language not supported", "plain 404 text => Language not supported",
+            "<p>Eine <b>Seite</b> => The service could not be contacted",
+            "nothing> => The service could not be contacted"})) {
+    EXPECT_EQ(JudgeTranslation(answer), shown);
+  }
+}
+
+}  // namespace
+}  // namespace benevix
