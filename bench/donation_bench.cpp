@@ -35,27 +35,27 @@ void Must(bool done, const char* what) {
 class Donor {
  public:
   explicit Donor(Program& program)
-      : input_(program.TheInput()), windows_(program.TheWindows()), values_(program.Values()) {}
+      : input_(program.TheInput()), forms_(program.TheForms()), values_(program.Values()) {}
 
   void Enter() {
-    Must(input_.Click(windows_.splash.Image2[0]), "enter");
-    windows_.contact.Text1[contact_field::kCountry].Write("U.S.A.");
-    Type(windows_.main.Text1[0], kBudget);
-    Must(input_.Choose(windows_.payment.Option1[payment::kCreditCard]), "choose a payment");
-    Must(input_.Click(windows_.payment.Command1[0]), "confirm the payment");
+    Must(input_.Click(forms_.Get<frmSplash>().Image2[0]), "enter");
+    forms_.Get<frmPersInfo>().Text1[contact_field::kCountry].Write("U.S.A.");
+    Type(forms_.Get<frmBVX>().Text1[0], kBudget);
+    Must(input_.Choose(forms_.Get<frmPayOpt>().Option1[payment::kCreditCard]), "choose a payment");
+    Must(input_.Click(forms_.Get<frmPayOpt>().Command1[0]), "confirm the payment");
   }
 
   // To the organizations of the list in their order; after `different` ones again to the first.
   void Give(int different) {
-    const ListView& list = windows_.main.ListView1;
+    const ListView& list = forms_.Get<frmBVX>().ListView1;
     const bool again = given_ >= different;
     if (given_ % different == 0) row_ = 0;
     do {
       ++row_;
     } while (!list.Text(row_).empty());
     const Currency before = values_.TotalDonated;
-    Must(input_.SelectRow(windows_.main.ListView1, row_, MouseButton::Left), "select a row");
-    Type(windows_.main.Text1[2], again ? "4" : "5");
+    Must(input_.SelectRow(forms_.Get<frmBVX>().ListView1, row_, MouseButton::Left), "select a row");
+    Type(forms_.Get<frmBVX>().Text1[2], again ? "4" : "5");
     Must((values_.TotalDonated > before) != again, "give");
     ++given_;
   }
@@ -68,7 +68,7 @@ class Donor {
   }
 
   Input& input_;
-  Windows& windows_;
+  Forms& forms_;
   const SessionValues& values_;
   int row_ = 0;
   int given_ = 0;
@@ -91,7 +91,7 @@ DonationTimes TimeDonationEntries(const std::string& folder, int given) {
     donor.Give(given);
     times.push_back(watch.Milliseconds());
   }
-  return {program.TheWindows().main.ListView1.Count(), given, Median(times)};
+  return {program.TheForms().Get<frmBVX>().ListView1.Count(), given, Median(times)};
 }
 
 }  // namespace benevix

@@ -28,8 +28,8 @@ int Run(const std::string& folder) {
   mirror.Attach(program.TheDesk(), program.TheInput());
   TellWhenShown();
   program.Main();
-  QTimer::singleShot(0, &mirror,
-                     [&] { program.TheInput().Click(program.TheWindows().splash.Image2[0]); });
+  QTimer::singleShot(
+      0, &mirror, [&] { program.TheInput().Click(program.TheForms().Get<frmSplash>().Image2[0]); });
   return QApplication::exec();
 }
 

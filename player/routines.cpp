@@ -97,7 +97,7 @@ std::string CallFormatSingle(Stage&, const Texts& arguments) {
 std::string CallShowHint(Stage& stage, const Texts& arguments) {
   Program& program = stage.TheProgram();
   const int step = Whole(arguments[0]);
-  InProgram(program, [&] { ShowHint(program.TheWindows().main, step); });
+  InProgram(program, [&] { ShowHint(program.TheForms().Get<frmBVX>(), step); });
   return "";
 }
 

@@ -22,7 +22,7 @@ void Stage::Start() {
 void Stage::Restart() {
   if (Runs()) {
     Desk& desk = program_->TheDesk();
-    frmBVX& main = program_->TheWindows().main;
+    frmBVX& main = program_->TheForms().Get<frmBVX>();
     if (desk.IsLoaded(main)) program_->TheInput().Enter([&] { desk.Unload(main); });
     AfterLine();
   }
@@ -48,7 +48,7 @@ Program& Stage::TheProgram() {
 
 void Stage::AfterLine() {
   if (!program_) return;
-  const PageViewer& viewer = program_->TheWindows().info.wb1;
+  const PageViewer& viewer = program_->TheForms().Get<frmInfo>().wb1;
   if (viewer.navigations > 0) navigated_ = viewer.address;
   if (HasEnded() && !finished_) {
     finished_ = true;

@@ -32,7 +32,7 @@ struct ProgramOfATest {
   // Starts the program and passes its splash.
   void Enter() {
     program.Main();
-    program.TheInput().Click(program.TheWindows().splash.Image2[0]);
+    program.TheInput().Click(program.TheForms().Get<frmSplash>().Image2[0]);
   }
 
   World world;

@@ -80,10 +80,10 @@ void Demonstration::Play() {
 void Demonstration::Enter() {
   TakePicture("splash");
   Click("frmSplash.Image2(0)");
-  Must(program_.TheDesk().IsShown(program_.TheWindows().main), "the main window opens");
+  Must(program_.TheDesk().IsShown(program_.TheForms().Get<frmBVX>()), "the main window opens");
   Must(program_.Run().ServerOK, "the site says that the server is well");
-  if (program_.TheDesk().IsShown(program_.TheWindows().wizard)) {
-    Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheWindows().wizard)),
+  if (program_.TheDesk().IsShown(program_.TheForms().Get<frmWizard>())) {
+    Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheForms().Get<frmWizard>())),
          "the wizard closes");
   }
   Tell("Entered; the list has " + Shown(kList + ".Count") + " rows");
@@ -95,14 +95,16 @@ void Demonstration::TypeBudget() {
   Must(program_.Values().Budget == Currency::FromWhole(200), "the Budget is 200");
   Tell("Budget $" + Shown(kBudgetBox + ".Text") + " typed; Balance $" +
        Shown(kBalanceBox + ".Text"));
-  Must(program_.TheDesk().IsShown(program_.TheWindows().payment), "the payment options open");
+  Must(program_.TheDesk().IsShown(program_.TheForms().Get<frmPayOpt>()),
+       "the payment options open");
   TakePicture("payment-options");
 }
 
 void Demonstration::ChoosePayment() {
   Click("frmPayOpt.Option1(0)");
   Click("frmPayOpt.Command1(0)");
-  Must(!program_.TheDesk().IsShown(program_.TheWindows().payment), "the payment options close");
+  Must(!program_.TheDesk().IsShown(program_.TheForms().Get<frmPayOpt>()),
+       "the payment options close");
   Tell("Payment: " + Shown("frmPayOpt.Option1(0).Caption"));
 }
 
@@ -122,7 +124,7 @@ void Demonstration::Give(int row, const std::string& amount) {
 
 void Demonstration::FinalizeSession() {
   Click("frmBVX.Command1(1)");
-  Must(program_.TheDesk().IsShown(program_.TheWindows().info), "the payment page opens");
+  Must(program_.TheDesk().IsShown(program_.TheForms().Get<frmInfo>()), "the payment page opens");
   const QString address = Shown("frmInfo.wb1.Address");
   Must(address.startsWith(site_.Address() + "xclick/business="), "the page is the payment's");
   Tell("Finalized: transaction " + Field(address, "item_number"));
@@ -137,7 +139,8 @@ void Demonstration::FinalizeSession() {
   WaitForPage("the payment page is shown");
   Tell("The payment page is shown");
   TakePicture("payment-page");
-  Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheWindows().info)), "the viewer closes");
+  Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheForms().Get<frmInfo>())),
+       "the viewer closes");
 }
 
 void Demonstration::ShowHistory() {
@@ -152,12 +155,13 @@ void Demonstration::ShowHistory() {
     TellMore(line);
   }
   TakePicture("history");
-  Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheWindows().info)), "the viewer closes");
+  Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheForms().Get<frmInfo>())),
+       "the viewer closes");
 }
 
 void Demonstration::Leave() {
   TakePicture("end");
-  Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheWindows().main)),
+  Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheForms().Get<frmBVX>())),
        "the main window closes");
   Must(program_.TheDesk().Ended(), "the program ends");
   program_.Finish();
@@ -192,7 +196,7 @@ QString Demonstration::Shown(const std::string& path) {
 }
 
 int Demonstration::RowOfOrganization(int country) {
-  const ListView& list = program_.TheWindows().main.ListView1;
+  const ListView& list = program_.TheForms().Get<frmBVX>().ListView1;
   int row = 1;
   for (; row < list.Count(); ++row) {
     if (!list.Text(row).empty() && --country == 0) break;

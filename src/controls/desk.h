@@ -33,11 +33,11 @@ class Desk {
 
   explicit Desk(const EventTable& events) : events_(events) {}
 
-  // The first window added is the main window.
+  // Takes a window struct that bears its name as kName. The first one added is the main window.
   template <class W>
-  void Add(const char* name, W& window) {
-    entries_.push_back({name, &window, ControlsOf(window), false, false, false, false, 0, nullptr,
-                        [&window] { window = W(); }});
+  void Add(W& window) {
+    entries_.push_back({W::kName, &window, ControlsOf(window), false, false, false, false, 0,
+                        nullptr, [&window] { window = W(); }});
   }
 
   void Load(Window& window);

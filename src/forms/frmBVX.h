@@ -10,6 +10,8 @@ inline constexpr const char* kNoAmounts = "No amounts";
 
 // The main window.
 struct frmBVX : Window {
+  static constexpr const char* kName = "frmBVX";
+
   frmBVX() {
     caption = "BENEVIX";
     width = 15360;

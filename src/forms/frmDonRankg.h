@@ -6,6 +6,8 @@ namespace benevix {
 
 // Asks under which name the donor is listed in the donors ranking.
 struct frmDonRankg : Window {
+  static constexpr const char* kName = "frmDonRankg";
+
   frmDonRankg() {
     caption = " Donors Ranking";
     width = 6000;

@@ -9,6 +9,8 @@ namespace benevix {
 
 // The information viewer: a text panel or a page.
 struct frmInfo : Window {
+  static constexpr const char* kName = "frmInfo";
+
   frmInfo() {
     caption = kTitle;
     topmost = true;

@@ -6,6 +6,8 @@ namespace benevix {
 
 // The messenger: a message to an organization.
 struct frmMail : Window {
+  static constexpr const char* kName = "frmMail";
+
   frmMail() {
     caption = " BVX Messenger";
     width = 7800;

@@ -12,6 +12,8 @@ inline constexpr int kECheck = 2;
 
 // Asks for the session's form of payment.
 struct frmPayOpt : Window {
+  static constexpr const char* kName = "frmPayOpt";
+
   frmPayOpt() {
     caption = " Payment Options";
     topmost = true;

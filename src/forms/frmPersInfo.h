@@ -13,6 +13,8 @@ inline constexpr int kCount = 7;
 
 // The user's own contact details.
 struct frmPersInfo : Window {
+  static constexpr const char* kName = "frmPersInfo";
+
   frmPersInfo() {
     caption = " Contact Information";
     width = 7200;

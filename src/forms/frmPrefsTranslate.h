@@ -13,6 +13,8 @@ inline constexpr int kAddressKey = 3;
 
 // Into which language an information page is translated, and by which service.
 struct frmPrefsTranslate : Window {
+  static constexpr const char* kName = "frmPrefsTranslate";
+
   frmPrefsTranslate() {
     caption = " Translation Preferences";
     width = 6000;

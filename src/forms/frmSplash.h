@@ -6,6 +6,8 @@ namespace benevix {
 
 // The first window: from it the user enters or leaves.
 struct frmSplash : Window {
+  static constexpr const char* kName = "frmSplash";
+
   frmSplash() {
     caption = "Benevix";
     width = 7200;

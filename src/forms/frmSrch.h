@@ -6,6 +6,8 @@ namespace benevix {
 
 // Finds a row of the organization list by a word.
 struct frmSrch : Window {
+  static constexpr const char* kName = "frmSrch";
+
   frmSrch() {
     caption = " Find";
     width = 4800;

@@ -13,6 +13,8 @@ inline constexpr int kOwnMail = 3;
 
 // Sends a friend a recommendation of the program.
 struct frmTellAFriend : Window {
+  static constexpr const char* kName = "frmTellAFriend";
+
   frmTellAFriend() {
     caption = " Tell a friend about Benevix";
     width = 6000;

@@ -6,6 +6,8 @@ namespace benevix {
 
 // Stands while a long request runs; its timer takes it away at the latest.
 struct frmWait : Window {
+  static constexpr const char* kName = "frmWait";
+
   frmWait() {
     caption = " Contacting Remote Server";
     width = 5400;

@@ -6,6 +6,8 @@ namespace benevix {
 
 // Asks a first-time user for the two modes, page by page.
 struct frmWizard : Window {
+  static constexpr const char* kName = "frmWizard";
+
   frmWizard() {
     width = 6600;
     height = 4200;

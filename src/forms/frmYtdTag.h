@@ -6,6 +6,8 @@ namespace benevix {
 
 // What the selected organization has received.
 struct frmYtdTag : Window {
+  static constexpr const char* kName = "frmYtdTag";
+
   frmYtdTag() {
     caption = " Status";
     width = 3600;

@@ -26,7 +26,7 @@ void Program::ConnectEvents() {
 }
 
 void Program::ConnectSplash() {
-  frmSplash& splash = windows_.splash;
+  frmSplash& splash = forms_.Get<frmSplash>();
   events_.On(splash, Event::Load, Plain([this] { startUp_.frmSplash_Load(); }));
   events_.On(splash, Event::Close, Plain([this] { desk_.End(); }));
   events_.On(splash.Image1, Event::MouseMove, Plain([this] { startUp_.Image1_MouseMove(); }));
@@ -37,7 +37,7 @@ void Program::ConnectSplash() {
 }
 
 void Program::ConnectMainWindow() {
-  frmBVX& main = windows_.main;
+  frmBVX& main = forms_.Get<frmBVX>();
   events_.On(main, Event::Load, Plain([this] { startUp_.frmBVX_Load(); }));
   events_.On(main, Event::Unload, Plain([this] { startUp_.frmBVX_Unload(); }));
 
@@ -54,7 +54,7 @@ void Program::ConnectMainWindow() {
              [this](int index, EventArgs&) { donorName_.Option1_Click(index); });
   events_.On(main.Combo1, Event::LostFocus, Plain([this] { donorName_.Combo1_LostFocus(); }));
   events_.On(main.Option3, Event::Click, [this](int index, EventArgs&) {
-    SetFeeMode(windows_.main, index == 0 ? FeeMode::Add : FeeMode::Deduct);
+    SetFeeMode(forms_.Get<frmBVX>(), index == 0 ? FeeMode::Add : FeeMode::Deduct);
   });
 
   events_.On(main.ListView1, Event::ItemClick,
@@ -65,7 +65,7 @@ void Program::ConnectMainWindow() {
              [this](EventArgs& args) { listView_.ListView1_KeyUp(args); });
   events_.On(main.Command1, Event::Click, Plain([this] { finalization_.Command1_Click(); }));
   events_.On(main.Command1, Event::MouseUp, [this](EventArgs& args) {
-    if (args.button == MouseButton::Right) ++windows_.main.mnuWhatis.popUps;
+    if (args.button == MouseButton::Right) ++forms_.Get<frmBVX>().mnuWhatis.popUps;
   });
   events_.On(main.Label11, Event::MouseUp, [this](int index, EventArgs&) {
     if (index == 0) {
@@ -82,7 +82,7 @@ void Program::ConnectMainWindow() {
 
 // File, Edit, Favorites and Preferences.
 void Program::ConnectSessionMenus() {
-  frmBVX& main = windows_.main;
+  frmBVX& main = forms_.Get<frmBVX>();
   const auto on = [this](const MenuItem& item, auto handler) {
     events_.On(item, Event::Click, Plain(handler));
   };
@@ -91,7 +91,7 @@ void Program::ConnectSessionMenus() {
   on(main.mnuHistory, [this] { history_.ShowHistory(); });
   on(main.mnuPrtHistory, [this] { printing_.mnuPrtHistory_Click(); });
   on(main.mnuUpdateList, [this] { listUpdateCommand_.Label11_MouseUp(); });
-  on(main.mnuExit, [this] { desk_.Unload(windows_.main); });
+  on(main.mnuExit, [this] { desk_.Unload(forms_.Get<frmBVX>()); });
 
   on(main.mnuCls, [this] { editCommands_.mnuCls_Click(); });
   on(main.mnuCorrect, [this] { editCommands_.mnuCorrect_Click(); });
@@ -116,11 +116,11 @@ void Program::ConnectSessionMenus() {
 
 // Resources, Help and the pop-ups.
 void Program::ConnectOtherMenus() {
-  frmBVX& main = windows_.main;
+  frmBVX& main = forms_.Get<frmBVX>();
   const auto on = [this](const MenuItem& item, auto handler) {
     events_.On(item, Event::Click, Plain(handler));
   };
-  on(main.mnuSearch, [this] { desk_.Show(windows_.search); });
+  on(main.mnuSearch, [this] { desk_.Show(forms_.Get<frmSrch>()); });
   events_.On(main.lclist, Event::Click,
              [this](EventArgs& args) { listView_.lclist_Click(args.index); });
   on(main.mnuShowWiz, [this] { wizard_.Show(); });
@@ -134,7 +134,7 @@ void Program::ConnectOtherMenus() {
     on(*item, [this] { information_.WebSite(); });
   }
   on(main.mnuRecallSession, [this] { lastSession_.mnuRecallSession_Click(); });
-  on(main.mnuSendCopy, [this] { desk_.Show(windows_.tellAFriend); });
+  on(main.mnuSendCopy, [this] { desk_.Show(forms_.Get<frmTellAFriend>()); });
 
   on(main.mnuAbout, [this] { help_.mnuAbout_Click(); });
   on(main.gotoBVXweb, [this] { help_.gotoBVXweb_Click(); });
@@ -147,7 +147,7 @@ void Program::ConnectOtherMenus() {
 }
 
 void Program::ConnectPayment() {
-  frmPayOpt& payment = windows_.payment;
+  frmPayOpt& payment = forms_.Get<frmPayOpt>();
   events_.On(payment, Event::Unload, Plain([this] { paymentOptions_.Form_Unload(); }));
   const auto chosen = [this](int, EventArgs&) { paymentOptions_.Option1_Click(); };
   events_.On(payment.Option1, Event::Click, chosen);
@@ -158,20 +158,20 @@ void Program::ConnectPayment() {
 }
 
 void Program::ConnectViewer() {
-  frmInfo& info = windows_.info;
+  frmInfo& info = forms_.Get<frmInfo>();
   events_.On(info, Event::Load, Plain([this] { informationViewer_.Form_Load(); }));
   events_.On(info, Event::Unload, Plain([this] { informationViewer_.Form_Unload(); }));
   events_.On(info.VScroll1, Event::Scroll, Plain([this] { informationViewer_.VScroll1_Scroll(); }));
   events_.On(info.Label3, Event::Click, Plain([this] { translation_.Label3_Click(); }));
 
-  frmPrefsTranslate& translate = windows_.translate;
+  frmPrefsTranslate& translate = forms_.Get<frmPrefsTranslate>();
   events_.On(translate, Event::Load, Plain([this] { translation_.Form_Load(); }));
   events_.On(translate.Command2, Event::Click, Plain([this] { translation_.Translate(); }));
   events_.On(translate.Command1, Event::Click, Plain([this] { translation_.Close(); }));
 }
 
 void Program::ConnectContact() {
-  frmPersInfo& contact = windows_.contact;
+  frmPersInfo& contact = forms_.Get<frmPersInfo>();
   events_.On(contact, Event::Load, Plain([this] { contact_.Form_Load(); }));
   events_.On(contact, Event::Close, Plain([this] { contact_.Cancel(); }));
   events_.On(contact.Command1, Event::Click,
@@ -179,39 +179,39 @@ void Program::ConnectContact() {
   events_.On(contact.Combo1, Event::Click, Plain([this] { contact_.Combo1_Click(); }));
   events_.On(contact.Check1, Event::MouseUp, Plain([this] { contact_.Check1_MouseUp(); }));
 
-  frmDonRankg& ranking = windows_.ranking;
+  frmDonRankg& ranking = forms_.Get<frmDonRankg>();
   events_.On(ranking, Event::Load, Plain([this] { ranking_.Form_Load(); }));
   events_.On(ranking.Option1, Event::Click,
              [this](int index, EventArgs&) { ranking_.Option1_Click(index); });
   events_.On(ranking.Command1, Event::Click, Plain([this] { ranking_.Command1_Click(); }));
 
-  frmMail& mail = windows_.mail;
+  frmMail& mail = forms_.Get<frmMail>();
   events_.On(mail, Event::Load, Plain([this] { messenger_.Form_Load(); }));
   events_.On(mail, Event::Close, Plain([this] { messenger_.Close(); }));
   events_.On(mail.Command1, Event::Click,
              [this](int index, EventArgs&) { messenger_.Command1_Click(index); });
 
-  frmTellAFriend& tellAFriend = windows_.tellAFriend;
+  frmTellAFriend& tellAFriend = forms_.Get<frmTellAFriend>();
   events_.On(tellAFriend, Event::Load, Plain([this] { tellAFriend_.Form_Load(); }));
   events_.On(tellAFriend.Command1, Event::Click,
              [this](int index, EventArgs&) { tellAFriend_.Command1_Click(index); });
 }
 
 void Program::ConnectSmallWindows() {
-  frmWait& wait = windows_.wait;
+  frmWait& wait = forms_.Get<frmWait>();
   events_.On(wait.Timer1, Event::Tick, Plain([this] {
-               windows_.wait.Timer1.enabled = false;
-               desk_.Unload(windows_.wait);
+               forms_.Get<frmWait>().Timer1.enabled = false;
+               desk_.Unload(forms_.Get<frmWait>());
              }));
 
-  frmWizard& wizard = windows_.wizard;
+  frmWizard& wizard = forms_.Get<frmWizard>();
   events_.On(wizard, Event::Load, Plain([this] { wizard_.Form_Load(); }));
   events_.On(wizard.Option1, Event::MouseUp,
              [this](int index, EventArgs&) { wizard_.Option1_MouseUp(index); });
   events_.On(wizard.Command1, Event::Click, Plain([this] { wizard_.Command1_Click(); }));
   events_.On(wizard.Command2, Event::Click, Plain([this] { wizard_.Command2_Click(); }));
 
-  frmSrch& search = windows_.search;
+  frmSrch& search = forms_.Get<frmSrch>();
   events_.On(search, Event::Load, Plain([this] { search_.Restart(); }));
   events_.On(search.Text1, Event::Change, Plain([this] { search_.Restart(); }));
   events_.On(search.Command1, Event::Click, Plain([this] { search_.Command1_Click(); }));

@@ -14,79 +14,70 @@ Program::Program(Surroundings surroundings)
       settings_(surroundings_.registry),
       messages_(surroundings_.boxes, surroundings_.info, run_),
       codec_(surroundings_.info.exeName),
-      server_(surroundings_, windows_.main, run_),
-      database_(windows_.main, run_, settings_, surroundings_.info.Resource("sharedb.dat")),
+      server_(surroundings_, forms_.Get<frmBVX>(), run_),
+      database_(forms_.Get<frmBVX>(), run_, settings_, surroundings_.info.Resource("sharedb.dat")),
       otherNames_(surroundings_.files, surroundings_.info.Resource("othernames.dat")),
-      listUpdate_(surroundings_, Fetch(), messages_, run_, windows_.wait, desk_),
-      budgetEntry_(windows_.main, values_, desk_, messages_, [this] { paymentOptions_.AskOnce(); }),
-      donationEntry_(windows_.main, values_, rates_, desk_, messages_,
-                     {windows_.contact, windows_.payment,
+      listUpdate_(surroundings_, Fetch(), messages_, run_, forms_.Get<frmWait>(), desk_),
+      budgetEntry_(forms_.Get<frmBVX>(), values_, desk_, messages_,
+                   [this] { paymentOptions_.AskOnce(); }),
+      donationEntry_(forms_.Get<frmBVX>(), values_, rates_, desk_, messages_,
+                     {forms_.Get<frmPersInfo>(), forms_.Get<frmPayOpt>(),
                       [this] { contact_.Open(ContactCaller::DonationEntry); }}),
-      mainWindow_(windows_.main, budgetEntry_, donationEntry_),
-      listView_(windows_.main, desk_, run_, [this] { yearToDate_.ShowYtd(); }),
-      listTyping_(windows_.main, database_, surroundings_.clock, listView_),
-      donorName_(windows_.main, desk_, otherNames_),
-      favorites_(windows_.main, settings_, database_, listView_),
-      editCommands_(windows_.main, donationEntry_),
-      distribution_(windows_.main, values_, favorites_, donationEntry_, messages_),
-      paymentOptions_(windows_.payment, windows_.main, desk_,
+      mainWindow_(forms_.Get<frmBVX>(), budgetEntry_, donationEntry_),
+      listView_(forms_.Get<frmBVX>(), desk_, run_, [this] { yearToDate_.ShowYtd(); }),
+      listTyping_(forms_.Get<frmBVX>(), database_, surroundings_.clock, listView_),
+      donorName_(forms_.Get<frmBVX>(), desk_, otherNames_),
+      favorites_(forms_.Get<frmBVX>(), settings_, database_, listView_),
+      editCommands_(forms_.Get<frmBVX>(), donationEntry_),
+      distribution_(forms_.Get<frmBVX>(), values_, favorites_, donationEntry_, messages_),
+      paymentOptions_(forms_.Get<frmPayOpt>(), forms_.Get<frmBVX>(), desk_,
                       {[this] {
                          std::string heading;
                          finalization_.Finalize(heading);
                        },
                        [this](const std::string& page) { help_.ShowPage(page); }}),
-      charges_(windows_.main, windows_.payment, values_, rates_),
-      history_(surroundings_, messages_, desk_, windows_.info),
-      finalization_({windows_.main, windows_.payment, windows_.contact, windows_.info}, values_,
-                    rates_, run_, desk_, server_, settings_, codec_, messages_, history_,
+      charges_(forms_.Get<frmBVX>(), forms_.Get<frmPayOpt>(), values_, rates_),
+      history_(surroundings_, messages_, desk_, forms_.Get<frmInfo>()),
+      finalization_({forms_.Get<frmBVX>(), forms_.Get<frmPayOpt>(), forms_.Get<frmPersInfo>(),
+                     forms_.Get<frmInfo>()},
+                    values_, rates_, run_, desk_, server_, settings_, codec_, messages_, history_,
                     surroundings_),
-      yearToDate_(surroundings_, Fetch(), run_, windows_.main, windows_.ytd, desk_),
-      lastSession_(windows_.main, values_, desk_, settings_, database_, surroundings_.info),
-      printing_(surroundings_, windows_.wait, desk_, windows_.main, finalization_),
-      help_(windows_.info, windows_.main, desk_, messages_, surroundings_.info),
-      news_(windows_.main, windows_.info, desk_, server_, messages_, surroundings_.info,
-            [this] { DownloadUpdater(); }),
-      informationViewer_(windows_.info, windows_.main),
-      contact_(windows_.contact, windows_.ranking, desk_, settings_, codec_, messages_,
-               surroundings_,
-               {[this](const std::string& name) { PutOwnName(windows_.main, name); },
+      yearToDate_(surroundings_, Fetch(), run_, forms_.Get<frmBVX>(), forms_.Get<frmYtdTag>(),
+                  desk_),
+      lastSession_(forms_.Get<frmBVX>(), values_, desk_, settings_, database_, surroundings_.info),
+      printing_(surroundings_, forms_.Get<frmWait>(), desk_, forms_.Get<frmBVX>(), finalization_),
+      help_(forms_.Get<frmInfo>(), forms_.Get<frmBVX>(), desk_, messages_, surroundings_.info),
+      news_(forms_.Get<frmBVX>(), forms_.Get<frmInfo>(), desk_, server_, messages_,
+            surroundings_.info, [this] { DownloadUpdater(); }),
+      informationViewer_(forms_.Get<frmInfo>(), forms_.Get<frmBVX>()),
+      contact_(forms_.Get<frmPersInfo>(), forms_.Get<frmDonRankg>(), desk_, settings_, codec_,
+               messages_, surroundings_,
+               {[this](const std::string& name) { PutOwnName(forms_.Get<frmBVX>(), name); },
                 [this](ContactCaller caller) { ContactSaved(caller); }}),
-      ranking_(windows_.ranking, desk_, settings_, codec_, messages_),
+      ranking_(forms_.Get<frmDonRankg>(), desk_, settings_, codec_, messages_),
       contacts_(server_, messages_),
-      information_({windows_.main, windows_.info, windows_.wait}, desk_, server_, contacts_,
-                   messages_, run_, surroundings_.waits,
+      information_({forms_.Get<frmBVX>(), forms_.Get<frmInfo>(), forms_.Get<frmWait>()}, desk_,
+                   server_, contacts_, messages_, run_, surroundings_.waits,
                    [this](const std::string& recipient) { messenger_.WriteTo(recipient); }),
-      messenger_(windows_.mail, desk_, server_, messages_, surroundings_.info,
-                 {windows_.contact, windows_.main,
+      messenger_(forms_.Get<frmMail>(), desk_, server_, messages_, surroundings_.info,
+                 {forms_.Get<frmPersInfo>(), forms_.Get<frmBVX>(),
                   [this] { contact_.Open(ContactCaller::ContactOrganization); },
                   [this](const std::string& from, const std::string& to, const std::string& subject,
                          const std::string& message) {
                     printing_.PrintMessage(from, to, subject, message);
                   }}),
-      tellAFriend_(windows_.tellAFriend, desk_, settings_, codec_, server_, messages_,
+      tellAFriend_(forms_.Get<frmTellAFriend>(), desk_, settings_, codec_, server_, messages_,
                    surroundings_.info),
-      translation_({windows_.translate, windows_.info, windows_.main}, desk_, settings_,
-                   surroundings_),
-      wizard_(windows_.wizard, windows_.main, desk_, surroundings_.info,
+      translation_({forms_.Get<frmPrefsTranslate>(), forms_.Get<frmInfo>(), forms_.Get<frmBVX>()},
+                   desk_, settings_, surroundings_),
+      wizard_(forms_.Get<frmWizard>(), forms_.Get<frmBVX>(), desk_, surroundings_.info,
               [this](const std::string& page) { help_.ShowPage(page); }),
-      search_(windows_.search, windows_.main, database_,
+      search_(forms_.Get<frmSrch>(), forms_.Get<frmBVX>(), database_,
               [this](int row) { listView_.Select(row, true); }),
       listUpdateCommand_(listUpdate_, values_, messages_, [this] { NewSession(); }),
-      startUp_(windows_.splash, windows_.main, desk_, settings_, messages_, run_, surroundings_,
-               StartUpSteps()) {
-  desk_.Add("frmBVX", windows_.main);
-  desk_.Add("frmSplash", windows_.splash);
-  desk_.Add("frmPayOpt", windows_.payment);
-  desk_.Add("frmInfo", windows_.info);
-  desk_.Add("frmPersInfo", windows_.contact);
-  desk_.Add("frmDonRankg", windows_.ranking);
-  desk_.Add("frmWait", windows_.wait);
-  desk_.Add("frmWizard", windows_.wizard);
-  desk_.Add("frmYtdTag", windows_.ytd);
-  desk_.Add("frmMail", windows_.mail);
-  desk_.Add("frmTellAFriend", windows_.tellAFriend);
-  desk_.Add("frmPrefsTranslate", windows_.translate);
-  desk_.Add("frmSrch", windows_.search);
+      startUp_(forms_.Get<frmSplash>(), forms_.Get<frmBVX>(), desk_, settings_, messages_, run_,
+               surroundings_, StartUpSteps()) {
+  forms_.ForEach([this](auto& form) { desk_.Add(form); });
   ConnectEvents();
   input_.derive = [this] { charges_.Show(); };
   input_.onError = [this](const RuntimeError& error) {
@@ -117,16 +108,17 @@ StartUp::Steps Program::StartUpSteps() {
   steps.updateListSilently = [this] { UpdateListSilently(); };
   steps.loadOrganizationList = [this] {
     database_.LoadOrganizationList();
-    ShowHint(windows_.main, hint::kTypeBudget);
+    ShowHint(forms_.Get<frmBVX>(), hint::kTypeBudget);
   };
   steps.putOwnName = [this] {
-    desk_.Load(windows_.contact);
-    PutOwnName(windows_.main, windows_.contact.Text1[contact_field::kFullName].text);
+    desk_.Load(forms_.Get<frmPersInfo>());
+    PutOwnName(forms_.Get<frmBVX>(),
+               forms_.Get<frmPersInfo>().Text1[contact_field::kFullName].text);
   };
-  steps.loadOtherNames = [this] { otherNames_.LoadOtherNames(windows_.main.Combo1); };
+  steps.loadOtherNames = [this] { otherNames_.LoadOtherNames(forms_.Get<frmBVX>().Combo1); };
   steps.buildQuickHelp = [this] {
     BuildQuickHelpMenu(surroundings_.files, surroundings_.info.Resource("qhelp.html"),
-                       windows_.main.qhelp1);
+                       forms_.Get<frmBVX>().qhelp1);
   };
   steps.loadFavoritesMenu = [this] { favorites_.LoadFavoritesMenu(); };
   steps.buildCountriesMenu = [this] { database_.BuildCountriesMenu(); };
@@ -143,15 +135,15 @@ void Program::UpdateListSilently() {
 }
 
 void Program::NewSession() {
-  ResetSession(windows_.main, values_, desk_);
+  ResetSession(forms_.Get<frmBVX>(), values_, desk_);
   database_.LoadOrganizationList();
   database_.BuildCountriesMenu();
   favorites_.LoadFavoritesMenu();
-  ShowHint(windows_.main, hint::kTypeBudget);
+  ShowHint(forms_.Get<frmBVX>(), hint::kTypeBudget);
 }
 
 void Program::ContactSaved(ContactCaller caller) {
-  if (caller == ContactCaller::DonationEntry) desk_.SetFocus(windows_.main.Text1[2]);
+  if (caller == ContactCaller::DonationEntry) desk_.SetFocus(forms_.Get<frmBVX>().Text1[2]);
   if (caller == ContactCaller::ContactOrganization) messenger_.Show();
 }
 

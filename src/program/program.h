@@ -7,7 +7,7 @@
 #include "core/run_values.h"
 #include "core/settings_store.h"
 #include "database/organization_database.h"
-#include "forms/frmWait.h"
+#include "forms/forms.h"
 #include "help/help.h"
 #include "help/information_viewer.h"
 #include "help/wizard.h"
@@ -45,23 +45,6 @@
 
 namespace benevix {
 
-// All windows of the program.
-struct Windows {
-  frmBVX main;
-  frmSplash splash;
-  frmPayOpt payment;
-  frmInfo info;
-  frmPersInfo contact;
-  frmDonRankg ranking;
-  frmWait wait;
-  frmWizard wizard;
-  frmYtdTag ytd;
-  frmMail mail;
-  frmTellAFriend tellAFriend;
-  frmPrefsTranslate translate;
-  frmSrch search;
-};
-
 // Builds every room once and hands each exactly what it touches. One run of the program, from Main
 // to its end.
 class Program {
@@ -80,7 +63,7 @@ class Program {
 
   [[nodiscard]] Desk& TheDesk() { return desk_; }
   [[nodiscard]] Input& TheInput() { return input_; }
-  [[nodiscard]] Windows& TheWindows() { return windows_; }
+  [[nodiscard]] Forms& TheForms() { return forms_; }
 
   // For whoever asks for the values and the routines by name.
   [[nodiscard]] const SessionValues& Values() const { return values_; }
@@ -111,7 +94,7 @@ class Program {
 
   Surroundings surroundings_;
   EventTable events_;
-  Windows windows_;
+  Forms forms_;
   Desk desk_;
   Input input_;
   RunValues run_;

@@ -7,6 +7,8 @@
 namespace benevix {
 
 struct MainOfATest : Window {
+  static constexpr const char* kName = "main";
+
   MainOfATest() { box[1].enabled = menu.visible = false; }
   TextBox box[3];
   Frame frame{"frame"};
@@ -35,6 +37,8 @@ void visit(MainOfATest& window, F&& f) {
 }
 
 struct SideOfATest : Window {
+  static constexpr const char* kName = "side";
+
   TextBox text{"tip"};
   Button ok{"OK"};
 };
@@ -48,8 +52,8 @@ void visit(SideOfATest& window, F&& f) {
 // A main and a side window on a desk, and the events that were heard, as "box1.Got ".
 struct DeskOfATest {
   DeskOfATest() {
-    desk.Add("main", main);
-    desk.Add("side", side);
+    desk.Add(main);
+    desk.Add(side);
     const std::pair<Event, const char*> words[] = {{Event::Click, ".Click "},
                                                    {Event::MouseUp, ".Up "},
                                                    {Event::GotFocus, ".Got "},

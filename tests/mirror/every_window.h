@@ -16,22 +16,10 @@ class EveryWindow {
  public:
   explicit EveryWindow(Scheme scheme) : mirror(scheme, Mirror::Timers::Hold) {
     ApplyTheme(*qApp, scheme);
-    desk.Add("frmBVX", windows.main);
-    desk.Add("frmSplash", windows.splash);
-    desk.Add("frmPayOpt", windows.payment);
-    desk.Add("frmInfo", windows.info);
-    desk.Add("frmPersInfo", windows.contact);
-    desk.Add("frmDonRankg", windows.ranking);
-    desk.Add("frmWait", windows.wait);
-    desk.Add("frmWizard", windows.wizard);
-    desk.Add("frmYtdTag", windows.ytd);
-    desk.Add("frmMail", windows.mail);
-    desk.Add("frmTellAFriend", windows.tellAFriend);
-    desk.Add("frmPrefsTranslate", windows.translate);
-    desk.Add("frmSrch", windows.search);
+    forms.ForEach([this](auto& form) { desk.Add(form); });
     mirror.Attach(desk, input);
     input.Enter([this] {
-      windows.main.ListView1.SetRows(std::make_shared<RowsOfATest>());
+      forms.Get<frmBVX>().ListView1.SetRows(std::make_shared<RowsOfATest>());
       for (Desk::Entry& entry : desk.Entries()) {
         for (const NamedControl& control : entry.controls) Open(control);
         desk.Show(*entry.window);
@@ -43,7 +31,7 @@ class EveryWindow {
   EveryWindow(const EveryWindow&) = delete;
   EveryWindow& operator=(const EveryWindow&) = delete;
 
-  Windows windows;
+  Forms forms;
   EventTable events;
   Desk desk{events};
   Input input{desk, events};

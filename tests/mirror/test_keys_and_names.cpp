@@ -70,17 +70,18 @@ TEST_F(WindowsTest, EveryControlHasANameARoleAndAValue) {
     }
   }
   const auto value = [this](const Control& control) {
-    QWidget* const widget = mirror.BindingOf(windows.main)->WidgetOf(control);
+    QWidget* const widget = mirror.BindingOf(forms.Get<frmBVX>())->WidgetOf(control);
     return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Value).toStdString();
   };
-  input.Enter([this] { windows.main.Text1[0].Write("100"); });
-  EXPECT_EQ(value(windows.main.Text1[0]), "100");
-  EXPECT_EQ(value(windows.main.Shape5), kNoNews);
+  input.Enter([this] { forms.Get<frmBVX>().Text1[0].Write("100"); });
+  EXPECT_EQ(value(forms.Get<frmBVX>().Text1[0]), "100");
+  EXPECT_EQ(value(forms.Get<frmBVX>().Shape5), kNoNews);
 }
 
 TEST_F(WindowsTest, TheListSpeaksItsHeadingsCellsAndSelectedRow) {
-  input.Enter([this] { windows.main.ListView1.selected = 2; });
-  QWidget* const view = mirror.BindingOf(windows.main)->WidgetOf(windows.main.ListView1);
+  input.Enter([this] { forms.Get<frmBVX>().ListView1.selected = 2; });
+  QWidget* const view =
+      mirror.BindingOf(forms.Get<frmBVX>())->WidgetOf(forms.Get<frmBVX>().ListView1);
   QAccessibleTableInterface* const table =
       QAccessible::queryAccessibleInterface(view)->tableInterface();
   ASSERT_NE(table, nullptr);
@@ -91,8 +92,8 @@ TEST_F(WindowsTest, TheListSpeaksItsHeadingsCellsAndSelectedRow) {
 
 TEST_F(WindowsTest, LinksCanBePressedByAScreenReader) {
   int clicks = 0;
-  events.On(windows.main.iLbl, Event::Click, [&](EventArgs&) { ++clicks; });
-  QWidget* const label = mirror.BindingOf(windows.main)->WidgetOf(windows.main.iLbl);
+  events.On(forms.Get<frmBVX>().iLbl, Event::Click, [&](EventArgs&) { ++clicks; });
+  QWidget* const label = mirror.BindingOf(forms.Get<frmBVX>())->WidgetOf(forms.Get<frmBVX>().iLbl);
   QAccessible::queryAccessibleInterface(label)->actionInterface()->doAction(
       QAccessibleActionInterface::pressAction());
   EXPECT_EQ(clicks, 1);
@@ -177,8 +178,8 @@ TEST_F(WindowsTest, LettersOfAltAndOfEachMenuAreUnique) {
     ExpectOwnLetters(texts, entry.name);
   }
   // Of two captions that mark the same letter the first keeps it.
-  const QAction* const favorites =
-      mirror.BindingOf(windows.main)->ActionOf({"TFavs", -1, &windows.main.TFavs}, -1);
+  const QAction* const favorites = mirror.BindingOf(forms.Get<frmBVX>())
+                                       ->ActionOf({"TFavs", -1, &forms.Get<frmBVX>().TFavs}, -1);
   EXPECT_EQ(favorites->text(), QStringLiteral("F&avorites"));
 }
 

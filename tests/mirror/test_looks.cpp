@@ -102,7 +102,7 @@ TEST(LooksTest, EveryTextStandsOutOnItsGround) {
 
 TEST(LooksTest, TheMainWindowFitsALowScreen) {
   EveryWindow shown(Scheme::Light);
-  const QSize least = shown.mirror.BindingOf(shown.windows.main)->Widget().minimumSizeHint();
+  const QSize least = shown.mirror.BindingOf(shown.forms.Get<frmBVX>())->Widget().minimumSizeHint();
   EXPECT_LE(least.width(), 1024);
   EXPECT_LE(least.height(), 640);
 }
@@ -114,7 +114,8 @@ TEST(LooksTest, TheMainWindowKeepsItsArrangement) {
   SettingsStore settings(file);
   const WindowLayout layout(settings);
   EveryWindow shown(Scheme::Light);
-  auto& window = dynamic_cast<QMainWindow&>(shown.mirror.BindingOf(shown.windows.main)->Widget());
+  auto& window =
+      dynamic_cast<QMainWindow&>(shown.mirror.BindingOf(shown.forms.Get<frmBVX>())->Widget());
   window.resize(1100, 700);
   auto& view = *window.findChild<QTableView*>();
   view.setColumnWidth(2, 77);

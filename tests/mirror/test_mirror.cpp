@@ -24,9 +24,9 @@ namespace {
 class MirrorTest : public testing::Test {
  protected:
   MirrorTest() {
-    desk.Add("frmBVX", main);
-    desk.Add("frmPayOpt", payment);
-    desk.Add("frmWait", wait);
+    desk.Add(main);
+    desk.Add(payment);
+    desk.Add(wait);
     events.On(main.Text1, Event::KeyPress, [](int, EventArgs& args) {
       if ((args.key < '0' || args.key > '9') && args.key != '.') args.key = 0;
     });

@@ -28,7 +28,7 @@ class ReportsTest : public testing::Test {
     return pages;
   }
   PrintedPages PrintHistory(int jobs) {
-    return Print(windows_.main.mnuPrtHistory, "Sessions History", jobs);
+    return Print(forms_.Get<frmBVX>().mnuPrtHistory, "Sessions History", jobs);
   }
   void ExpectTail(PrintedPages& pages) {
     pages.ExpectLine(
@@ -45,22 +45,22 @@ class ReportsTest : public testing::Test {
   PrintService& service_ = PrintService::Instance();
   QtPrinter printer_;
   ProgramOfATest it_{&printer_};
-  Windows& windows_ = it_.program.TheWindows();
+  Forms& forms_ = it_.program.TheForms();
 };
 
 TEST_F(ReportsTest, ASessionIsPrintedAsTheHistoryTellsIt) {
   it_.world.site.Put("53rv3r/ctact.dat", {.text = "mail?,us"});
   it_.world.site.Put("mail", {.text = "Thank You"});
-  for (TextBox& box : windows_.contact.Text1) box.text = "x";
-  windows_.main.Combo1.text = "Ann Lee";
+  for (TextBox& box : forms_.Get<frmPersInfo>().Text1) box.text = "x";
+  forms_.Get<frmBVX>().Combo1.text = "Ann Lee";
   Input& input = it_.program.TheInput();
-  TypeAndEnter(windows_.main.Text1[0], "50");
-  input.Choose(windows_.payment.Option1[payment::kFundsTransfer]);
-  input.Click(windows_.payment.Command1[0]);
-  input.SelectRow(windows_.main.ListView1, 2, MouseButton::Left);
-  TypeAndEnter(windows_.main.Text1[2], "50");
-  input.Click(windows_.main.Command1);
-  PrintedPages pages = Print(windows_.main.mnuPrntSession, "Current Session", 1);
+  TypeAndEnter(forms_.Get<frmBVX>().Text1[0], "50");
+  input.Choose(forms_.Get<frmPayOpt>().Option1[payment::kFundsTransfer]);
+  input.Click(forms_.Get<frmPayOpt>().Command1[0]);
+  input.SelectRow(forms_.Get<frmBVX>().ListView1, 2, MouseButton::Left);
+  TypeAndEnter(forms_.Get<frmBVX>().Text1[2], "50");
+  input.Click(forms_.Get<frmBVX>().Command1);
+  PrintedPages pages = Print(forms_.Get<frmBVX>().mnuPrntSession, "Current Session", 1);
   const std::string told = Got(it_.world.info.Resource("history.dat"));
   EXPECT_NE(told.find("Organization: Water For All -  Amount: $50.00"), std::string::npos);
   for (const std::string_view line : Lines(told)) pages.ExpectLine(1, std::string(line));

@@ -11,8 +11,9 @@ class ProgramTest : public testing::Test, public ProgramOfATest {
  protected:
   ProgramTest() {
     waits.watch = [this] {
-      const ProgressBar& bar = windows.wait.ProgressBar1;
-      if (program.TheDesk().IsShown(windows.wait) && bar.max == 100) values.push_back(bar.value);
+      const ProgressBar& bar = forms.Get<frmWait>().ProgressBar1;
+      if (program.TheDesk().IsShown(forms.Get<frmWait>()) && bar.max == 100)
+        values.push_back(bar.value);
     };
   }
   // A server with a newer list, and the link under which an installation finds it.
@@ -26,11 +27,11 @@ class ProgramTest : public testing::Test, public ProgramOfATest {
     EXPECT_TRUE(std::is_sorted(values.begin(), values.end()));
     EXPECT_LT(values.front(), 100);
     EXPECT_EQ(values.back(), 100);
-    EXPECT_FALSE(program.TheDesk().IsLoaded(windows.wait));
+    EXPECT_FALSE(program.TheDesk().IsLoaded(forms.Get<frmWait>()));
     values.clear();
   }
 
-  Windows& windows = program.TheWindows();
+  Forms& forms = program.TheForms();
   std::vector<int> values;
 };
 
@@ -38,14 +39,14 @@ TEST_F(ProgramTest, WithTheLinkANewListIsLoadedAndFoundAgain) {
   const std::string link = world.info.Resource("shareddb.dat");
   OfferList("2.0013", ";QUORL2.0013\r\n[Peru]\r\n00000002 Newer, B\r\n");
   Enter();
-  EXPECT_EQ(windows.main.ListView1.Text(1), "Peru");
+  EXPECT_EQ(forms.Get<frmBVX>().ListView1.Text(1), "Peru");
   EXPECT_FLOAT_EQ(program.Run().DBVersion, 2.0013F);
   EXPECT_TRUE(std::filesystem::is_symlink(link));
   EXPECT_FALSE(std::filesystem::is_symlink(world.info.Resource("sharedb.dat")));
   EXPECT_FALSE(world.files.Exists(world.info.Resource("$shrdb.dat")));
   world.site.Down();
   program.NewSession();
-  EXPECT_EQ(windows.main.ListView1.Text(1), "Peru");
+  EXPECT_EQ(forms.Get<frmBVX>().ListView1.Text(1), "Peru");
   EXPECT_TRUE(boxes.shown.empty());
 }
 
@@ -54,13 +55,13 @@ TEST_F(ProgramTest, TheBarMovesWithTheBytesOfAListAndOfAnInformationPage) {
   Enter();
   ExpectBarMovedToItsEnd();
   world.site.Put("53rv3r/dbcurrver.dat", {.text = "2.5"});
-  program.TheInput().ChooseMenu(windows.main.mnuUpdateList);
+  program.TheInput().ChooseMenu(forms.Get<frmBVX>().mnuUpdateList);
   ExpectBarMovedToItsEnd();
   world.site.Put("infoDB/2.dat", {.text = std::string(30'000'000, 'W')});
-  program.TheInput().SelectRow(windows.main.ListView1, 2, MouseButton::Left);
-  program.TheInput().ChooseMenu(windows.main.mnuMoreInfo);
+  program.TheInput().SelectRow(forms.Get<frmBVX>().ListView1, 2, MouseButton::Left);
+  program.TheInput().ChooseMenu(forms.Get<frmBVX>().mnuMoreInfo);
   ExpectBarMovedToItsEnd();
-  EXPECT_EQ(windows.info.Label1.caption.size(), 30'000'000U);
+  EXPECT_EQ(forms.Get<frmInfo>().Label1.caption.size(), 30'000'000U);
 }
 
 TEST_F(ProgramTest, AnUpdaterThatIsNoneIsNeitherKeptNorStarted) {
@@ -73,7 +74,7 @@ TEST_F(ProgramTest, AnUpdaterThatIsNoneIsNeitherKeptNorStarted) {
         SiteAnswer{Reply::Answer, 200, ""}, SiteAnswer{Reply::Close, 200, "x"}}) {
     boxes.shown.clear();
     world.site.Put("downloads/updater.exe", answer);
-    program.TheInput().Click(windows.main.Label12);
+    program.TheInput().Click(forms.Get<frmBVX>().Label12);
     ASSERT_EQ(boxes.shown.size(), 2U);
     EXPECT_TRUE(boxes.shown[1].text.starts_with("Benevix - Failed to Connect|The server may be"));
     EXPECT_FALSE(world.files.Exists(world.info.folder + "/updater.exe"));

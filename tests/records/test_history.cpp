@@ -30,7 +30,7 @@ class HistoryTest : public testing::Test, public ProgramOfATest {
   std::string path_ = world.info.Resource("history.dat");
   Surroundings surroundings_ = program.TheSurroundings();
   History history_{surroundings_, program.TheMessages(), program.TheDesk(),
-                   program.TheWindows().info};
+                   program.TheForms().Get<frmInfo>()};
 };
 
 TEST_F(HistoryTest, WhatCannotBeWrittenIsToldKeptAndTriedAgain) {

@@ -12,7 +12,7 @@ namespace benevix {
 // A session as the user's keys reach it.
 struct SessionOfATest {
   explicit SessionOfATest(int option = payment::kCreditCard, bool deducts = true) {
-    desk.Add("frmBVX", main);
+    desk.Add(main);
     main.ListView1 = ListOfATest();
     main.mnuDeductFees.checked = deducts;
     main.mnuAddFees.checked = !deducts;

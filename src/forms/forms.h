@@ -1,0 +1,42 @@
+#pragma once
+
+#include <tuple>
+
+#include "forms/frmBVX.h"
+#include "forms/frmDonRankg.h"
+#include "forms/frmInfo.h"
+#include "forms/frmMail.h"
+#include "forms/frmPayOpt.h"
+#include "forms/frmPersInfo.h"
+#include "forms/frmPrefsTranslate.h"
+#include "forms/frmSplash.h"
+#include "forms/frmSrch.h"
+#include "forms/frmTellAFriend.h"
+#include "forms/frmWait.h"
+#include "forms/frmWizard.h"
+#include "forms/frmYtdTag.h"
+
+namespace benevix {
+
+// Every window of the program, once. This list feeds all others: the desk and the tests go through
+// it, and the build file takes the drawings from the includes above.
+class Forms {
+ public:
+  template <class Form>
+  [[nodiscard]] Form& Get() {
+    return std::get<Form>(forms_);
+  }
+
+  // Calls f(form) for each, the main window first.
+  template <class F>
+  void ForEach(F&& f) {
+    std::apply([&f](auto&... form) { (f(form), ...); }, forms_);
+  }
+
+ private:
+  std::tuple<frmBVX, frmSplash, frmPayOpt, frmInfo, frmPersInfo, frmDonRankg, frmWait, frmWizard,
+             frmYtdTag, frmMail, frmTellAFriend, frmPrefsTranslate, frmSrch>
+      forms_;
+};
+
+}  // namespace benevix
