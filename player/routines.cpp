@@ -10,11 +10,11 @@
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "core/run_values.h"
 #include "core/shell_helpers.h"
 #include "player/line_kinds.h"
 #include "player/numbers.h"
 #include "player/stage.h"
-#include "program/start_up.h"
 #include "session/hints.h"
 
 namespace benevix {

@@ -53,7 +53,7 @@ std::string Messages::Text(std::uint8_t number, const std::string& extra) const 
       return "Update downloaded successfuly";
     case message::kNoWebService:
       return "This organization does not have a web service";
-    case 7:
+    case message::kAbout:
       return AboutText();
     case message::kServerBusy:
       return "The server may be busy or no Internet connection is present. Please try again later";

@@ -43,6 +43,7 @@ inline constexpr std::uint8_t kNoServer = 1;
 inline constexpr std::uint8_t kNoUpdates = 2;
 inline constexpr std::uint8_t kUpdateDownloaded = 3;
 inline constexpr std::uint8_t kNoWebService = 6;
+inline constexpr std::uint8_t kAbout = 7;
 inline constexpr std::uint8_t kServerBusy = 8;
 inline constexpr std::uint8_t kMailFailed = 10;
 inline constexpr std::uint8_t kServiceUnavailable = 11;

@@ -82,6 +82,13 @@ void ContactInformation::Cancel() {
   Reload();
 }
 
+std::string ContactInformation::ForNotice() const {
+  std::string text;
+  for (const TextBox& box : window_.Text1) text += box.text + ",";
+  text.pop_back();
+  return codec_.Scramble(text);
+}
+
 void ContactInformation::Reload() {
   caller_ = ContactCaller::None;
   desk_.Unload(window_);

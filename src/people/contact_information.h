@@ -49,6 +49,10 @@ class ContactInformation {
   // The user closes the window: as Cancel.
   void Cancel();
 
+  // The details as a session's notice carries them: joined by "," and scrambled.
+  [[nodiscard]] std::string ForNotice() const;
+  [[nodiscard]] bool TakesPartInRanking() const { return window_.Check1.value == 1; }
+
  private:
   void LoadCountryList();
   void Save();

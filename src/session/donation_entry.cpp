@@ -1,6 +1,7 @@
 #include "session/donation_entry.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "base/format.h"
 #include "base/number_text.h"
@@ -8,6 +9,7 @@
 #include "database/organization_list.h"
 #include "session/fees.h"
 #include "session/modes.h"
+#include "session/options_record.h"
 #include "session/totals.h"
 
 namespace benevix {
@@ -21,14 +23,15 @@ Currency WholeDollars(Currency amount) {
   return rest > 0 ? amount + Currency::FromUnits(Currency::kScale - rest) : amount;
 }
 
-// Numeric, and its dollars within 32 bits.
-bool IsWholeNumber(const std::string& text) {
+// Nothing when the text is not numeric, or its dollars are beyond 32 bits.
+std::optional<Currency> AmountIn(const std::string& text) {
   try {
     const auto number = ParseNumber(text);
-    if (number) ToInt32(*number);
-    return number.has_value();
+    if (!number) return std::nullopt;
+    ToInt32(*number);  // raises beyond its range
+    return Currency::FromDouble(*number);
   } catch (const RuntimeError&) {
-    return false;
+    return std::nullopt;
   }
 }
 
@@ -58,9 +61,9 @@ void DonationEntry::Text1_Change() {
 
 void DonationEntry::Enter() {
   const TextBox& box = main_.Text1[2];
-  if (!box.typed || !IsWholeNumber(box.text)) return;
-  Give(Currency::FromDouble(ParseNumber(box.text).value_or(0)),
-       main_.mnuPercentBal.checked ? Unit::Percent : Unit::Dollars);
+  const auto amount = AmountIn(box.text);
+  if (!box.typed || !amount) return;
+  Give(*amount, main_.mnuPercentBal.checked ? Unit::Percent : Unit::Dollars);
 }
 
 void DonationEntry::Give(Currency amount) {
@@ -189,19 +192,18 @@ void DonationEntry::OverLimit(const Row& row) {
 Currency DonationEntry::Maximum(const Row& row) const {
   if (!Deducts()) return std::max(row.available - row.fee - row.cardFee, Currency());
   if (!DeductsCardFee()) return std::max(row.available - values_.BvxFee, Currency());
-  return LargestWithin(row.available - values_.BvxFee, values_.BvxFee);
+  return LargestWithCardFee(row.available - values_.BvxFee, values_.BvxFee);
 }
 
 Currency DonationEntry::LargestWithin(Currency room) const {
   if (TakesSessionFee()) room -= rates_.SessionFee;
   if (Deducts()) room -= ServiceFee();
-  if (DeductsCardFee()) return LargestWithin(room, ServiceFee());
+  if (DeductsCardFee()) return LargestWithCardFee(room, ServiceFee());
   return Currency::FromUnits(std::max<std::int64_t>(room.Units() / kCent, 0) * kCent);
 }
 
-// The largest donation whose card fee, with the rate that the next one will use, fits as well. The
-// fee grows with the donation, so it can be halved in on.
-Currency DonationEntry::LargestWithin(Currency left, Currency serviceFee) const {
+// The fee grows with the donation, so a binary search finds the largest.
+Currency DonationEntry::LargestWithCardFee(Currency left, Currency serviceFee) const {
   const FeeRates next = NextCardRates(rates_, IsForeignDonor());
   std::int64_t fits = 0;
   std::int64_t tooMuch = std::max<std::int64_t>(left.Units() / kCent, 0) + 1;
@@ -235,6 +237,8 @@ void DonationEntry::MoveMoney(const Row& row) {
     ++list.changes;
   }
   values_.Balance = balance;
+  // Meant so, in both fee modes: what would overdraw the Balance is given less one service fee, and
+  // the Balance is then used up.
   if (values_.Balance < Currency()) {
     values_.Donation -= values_.BvxFee;
     values_.Balance = Currency();
@@ -252,18 +256,18 @@ void DonationEntry::method72(int row) {
 
 void DonationEntry::WriteRow(int row) {
   ListView& list = main_.ListView1;
-  main_.Text1[1].Write(Format(values_.Balance, kMoneyPattern));
   if (values_.Donation != Currency()) {
     method72(row);
-    list.SetSubItem(
-        row, column::kRecord,
-        list.SubItem(row, column::kId) + "," + list.SubItem(row, column::kAmount) + "," +
-            list.SubItem(row, column::kPool) + "," + list.SubItem(row, column::kFrom) + "," +
-            std::to_string(main_.Check2.value) + "," + std::to_string(main_.Check1.value));
+    const OptionsRecord record{.organization = list.SubItem(row, column::kId),
+                               .amount = list.SubItem(row, column::kAmount),
+                               .delivery = list.SubItem(row, column::kPool),
+                               .from = list.SubItem(row, column::kFrom),
+                               .certificate = std::to_string(main_.Check2.value),
+                               .proof = std::to_string(main_.Check1.value)};
+    list.SetSubItem(row, column::kRecord, record.ToText());
   }
   main_.Text1[2].Write("");
   RecalcTotalDonated(values_, list);
-  desk_.SetFocus(list);
 }
 
 }  // namespace benevix

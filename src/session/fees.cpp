@@ -36,7 +36,8 @@ Currency CardFeeOf(Currency donation, Currency serviceFee, const FeeRates& rates
 }
 
 Currency ComputeCardFee(const SessionValues& values, FeeRates& rates, bool foreign) {
-  rates = NextCardRates(rates, foreign);
+  rates =
+      NextCardRates(rates, foreign);  // kept on purpose: the rate of a foreign donor goes on rising
   return CardFeeOf(values.Donation, values.BvxFee, rates);
 }
 
