@@ -1,6 +1,5 @@
 #include "people/contact_information.h"
 
-#include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "database/country_list.h"
 

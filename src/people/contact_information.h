@@ -4,7 +4,6 @@
 #include <string>
 
 #include "controls/desk.h"
-#include "controls/events.h"
 #include "core/codec.h"
 #include "core/messages.h"
 #include "core/settings_store.h"

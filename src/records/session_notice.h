@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "people/contact_information.h"
 #include "people/donors_ranking.h"
 #include "platform/surroundings.h"

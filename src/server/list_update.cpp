@@ -1,6 +1,5 @@
 #include "server/list_update.h"
 
-#include "base/lines.h"
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "database/organization_list.h"
