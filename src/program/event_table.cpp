@@ -53,7 +53,7 @@ void Program::ConnectMainWindow() {
              [this](int index, EventArgs&) { donorName_.Option1_Click(index); });
   events_.On(main_.Combo1, Event::LostFocus, Plain([this] { donorName_.Combo1_LostFocus(); }));
   events_.On(main_.Option3, Event::Click, [this](int index, EventArgs&) {
-    SetFeeMode(main_, index == 0 ? FeeMode::Add : FeeMode::Deduct);
+    SetFeeMode(main_, index == fee_option::kAdd ? FeeMode::Add : FeeMode::Deduct);
   });
 
   events_.On(main_.ListView1, Event::ItemClick,

@@ -84,7 +84,7 @@ void Program::NewSession() {
 }
 
 void Program::ContactSaved(ContactCaller caller) {
-  if (caller == ContactCaller::DonationEntry) desk_.SetFocus(main_.Text1[2]);
+  if (caller == ContactCaller::DonationEntry) desk_.SetFocus(main_.Text1[money_box::kDonation]);
   if (caller == ContactCaller::ContactOrganization) messenger_.Show();
 }
 

@@ -44,8 +44,8 @@ void Program::frmBVX_Load() {
 }
 
 void Program::LoadMainWindow() {
-  main_.Option3[0].backColor = colors::kSand;
-  main_.Option3[1].backColor = colors::kLightSand;
+  main_.Option3[fee_option::kAdd].backColor = colors::kSand;
+  main_.Option3[fee_option::kDeduct].backColor = colors::kLightSand;
   ApplyConnectionSettings(settings_, main_);
   if (server_.CheckServerStatus()) {
     server_.LoadFeeRates();

@@ -9,7 +9,7 @@
 namespace benevix {
 
 void BudgetEntry::Enter() {
-  TextBox& box = main_.Text1[0];
+  TextBox& box = main_.Text1[money_box::kBudget];
   const auto typed = ParseNumber(box.text);
   if (!box.typed || !typed) return;
   Currency balance;
@@ -28,7 +28,7 @@ void BudgetEntry::Enter() {
     values_.Balance = balance;
     main_.Label8.caption = values_.Balance.ToText();
     MarkBudgetAccepted(main_);
-    main_.Text1[1].backColor = colors::kInactiveTitleText;
+    main_.Text1[money_box::kBalance].backColor = colors::kInactiveTitleText;
   }
   method73(values_, main_, desk_);
   main_.Label8.visible = false;

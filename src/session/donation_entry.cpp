@@ -36,20 +36,23 @@ std::optional<Currency> AmountIn(const std::string& text) {
 }
 
 std::string DeliveryText(const frmBVX& main) {
-  if (!main.Option2[0].value) return main.Option2[1].caption;
-  const std::string& caption = main.Option2[0].caption;
+  if (!main.Option2[delivery_option::kPool].value)
+    return main.Option2[delivery_option::kStandAlone].caption;
+  const std::string& caption = main.Option2[delivery_option::kPool].caption;
   return caption.substr(caption.find(' ') + 1);
 }
 
 std::string FromText(const frmBVX& main) {
-  return main.Option1[2].value ? main.Option1[2].caption : main.Combo1.text;
+  return main.Option1[donor_option::kAnonymous].value
+             ? main.Option1[donor_option::kAnonymous].caption
+             : main.Combo1.text;
 }
 
 }  // namespace
 
 void DonationEntry::Text1_Change() {
   try {
-    if (const auto typed = ParseNumber(main_.Text1[2].text)) {
+    if (const auto typed = ParseNumber(main_.Text1[money_box::kDonation].text)) {
       values_.Donation = Currency::FromWhole(ToInt32(*typed));
     }
   } catch (const RuntimeError&) {
@@ -60,7 +63,7 @@ void DonationEntry::Text1_Change() {
 }
 
 void DonationEntry::Enter() {
-  const TextBox& box = main_.Text1[2];
+  const TextBox& box = main_.Text1[money_box::kDonation];
   const auto amount = AmountIn(box.text);
   if (!box.typed || !amount) return;
   Give(*amount, main_.mnuPercentBal.checked ? Unit::Percent : Unit::Dollars);
@@ -81,7 +84,8 @@ bool DonationEntry::IsForeignDonor() const {
 }
 
 Currency DonationEntry::ServiceFee() const {
-  return Currency::FromWhole(main_.Option2[0].value ? rates_.PoolFee : rates_.StandAloneFee);
+  return Currency::FromWhole(main_.Option2[delivery_option::kPool].value ? rates_.PoolFee
+                                                                         : rates_.StandAloneFee);
 }
 
 // The charge for e-checks is taken with the first donation of a session.
@@ -97,7 +101,7 @@ void DonationEntry::Give(Currency amount, Unit unit) {
 
   // A donation that is refused, or whose numbers overflow, leaves the session as it was.
   const SessionValues before = values_;
-  const bool feeModeOpen = main_.Option3[0].enabled;
+  const bool feeModeOpen = main_.Option3[fee_option::kAdd].enabled;
   const auto restore = [&] {
     values_.Balance = before.Balance;
     values_.SessionFeeTaken = before.SessionFeeTaken;
@@ -170,23 +174,22 @@ void DonationEntry::OverLimit(const Row& row) {
   const Currency lacks = values_.Donation + std::max(fees, Currency()) -
                          (Deducts() ? row.available : balance + row.amount);
 
-  const BoxAnswer answer =
-      messages_.Show(messages_.Product() + " - Input Error",
-                     "With the present options the maximum donation is: $" + Maximum(row).ToText() +
-                         ".   Would you like to adjust the Budget instead?   ",
-                     BoxIcon::Information, BoxButtons::YesNo);
+  const BoxAnswer answer = messages_.Show(messages_.Title(message_kind::kInputError),
+                                          kMaximumDonationText + Maximum(row).ToText() +
+                                              ".   Would you like to adjust the Budget instead?   ",
+                                          BoxIcon::Information, BoxButtons::YesNo);
   if (answer != BoxAnswer::Yes) {
-    ++main_.Text1[2].selections;  // the next amount replaces the refused one
+    ++main_.Text1[money_box::kDonation].selections;  // the next amount replaces the refused one
     return;
   }
   const Currency rise = WholeDollars(lacks);
   const Currency raised = values_.Balance + rise;
   values_.Budget += rise;  // both or, when one overflows, none
   values_.Balance = raised;
-  main_.Text1[0].Write(Format(values_.Budget, kMoneyPattern));
-  main_.Text1[1].Write(Format(values_.Balance, kMoneyPattern));
-  main_.Text1[1].foreColor = colors::kRed;
-  main_.Text1[2].Write("");
+  main_.Text1[money_box::kBudget].Write(Format(values_.Budget, kMoneyPattern));
+  main_.Text1[money_box::kBalance].Write(Format(values_.Balance, kMoneyPattern));
+  main_.Text1[money_box::kBalance].foreColor = colors::kRed;
+  main_.Text1[money_box::kDonation].Write("");
 }
 
 Currency DonationEntry::Maximum(const Row& row) const {
@@ -266,7 +269,7 @@ void DonationEntry::WriteRow(int row) {
                                .proof = std::to_string(main_.Check1.value)};
     list.SetSubItem(row, column::kRecord, record.ToText());
   }
-  main_.Text1[2].Write("");
+  main_.Text1[money_box::kDonation].Write("");
   RecalcTotalDonated(values_, list);
 }
 

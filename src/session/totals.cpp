@@ -16,8 +16,8 @@ void RecalcTotalDonated(SessionValues& values, const ListView& list) {
 
 void method73(const SessionValues& values, frmBVX& main, Desk& desk) {
   const bool isLeft = values.Balance > Currency();
-  TextBox& balance = main.Text1[1];
-  main.Text1[0].Write(Format(values.Budget, kMoneyPattern));
+  TextBox& balance = main.Text1[money_box::kBalance];
+  main.Text1[money_box::kBudget].Write(Format(values.Budget, kMoneyPattern));
   balance.Write(isLeft ? Format(values.Balance, kMoneyPattern) : "0.00");
   balance.foreColor = isLeft ? colors::kBlack : colors::kRed;
   ShowHint(main, isLeft ? hint::kSelectAnother : hint::kContinue);
@@ -26,9 +26,9 @@ void method73(const SessionValues& values, frmBVX& main, Desk& desk) {
 }
 
 void MarkBudgetAccepted(frmBVX& main) {
-  main.Text1[0].fontSize = 9;
-  main.Text1[0].fontBold = true;
-  main.Text1[0].backColor = colors::kLightGrey;
+  main.Text1[money_box::kBudget].fontSize = 9;
+  main.Text1[money_box::kBudget].fontBold = true;
+  main.Text1[money_box::kBudget].backColor = colors::kLightGrey;
 }
 
 }  // namespace benevix
