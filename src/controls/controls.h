@@ -13,8 +13,8 @@
 
 namespace benevix {
 
-// 0x00BBGGRR, or a system colour: 0x80000000 plus its index. Colours are roles; what a role looks
-// like in a light or dark scheme is the mirror's business.
+// A colour stands for a role: 0x00BBGGRR, or 0x80000000 plus the index of a system colour. The
+// mirror gives each role a look of its own in the light and in the dark scheme (RoleColor).
 using Color = std::uint32_t;
 
 namespace colors {
@@ -24,17 +24,17 @@ inline constexpr Color kGreen = 0x0000FF00;
 inline constexpr Color kLightGrey = 0x00E0E0E0;
 inline constexpr Color kSand = 0x00A2D1D1;
 inline constexpr Color kLightSand = 0x00A5D5D6;
-inline constexpr Color kActiveTitleBar = 0x80000002;
-inline constexpr Color kInactiveTitleBar = 0x80000003;
+inline constexpr Color kAccent = 0x80000002;  // what is chosen, or under the mouse
+inline constexpr Color kSplashBorder = 0x80000003;
 inline constexpr Color kWindowBackground = 0x80000005;
 inline constexpr Color kWindowText = 0x80000008;
-inline constexpr Color kInactiveBorder = 0x8000000B;
+inline constexpr Color kMuted = 0x8000000B;  // borders, and a text that is less important
 inline constexpr Color kButtonFace = 0x8000000F;
-inline constexpr Color kButtonShadow = 0x80000010;
+inline constexpr Color kOff = 0x80000010;  // an indicator or a link that has nothing to tell
 inline constexpr Color kButtonText = 0x80000012;
-inline constexpr Color kInactiveTitleText = 0x80000013;
-inline constexpr Color kDarkShadow3D = 0x80000015;
-inline constexpr Color kLight3D = 0x80000016;
+inline constexpr Color kBalanceGround = 0x80000013;
+inline constexpr Color kNewsText = 0x80000015;
+inline constexpr Color kNewsLit = 0x80000016;  // the news indicator with news
 }  // namespace colors
 
 struct TextBox : Control {
@@ -172,10 +172,8 @@ struct PictureBox : Control {
 
 struct Shape : Control {
   Color fillColor = colors::kButtonFace;
-  Color borderColor = colors::kInactiveBorder;
-  int fillStyle = 0;  // 0 solid, 1 transparent
-  int borderWidth = 1;
-  int top = 0;          // twips
+  Color borderColor = colors::kMuted;
+  int fillStyle = 0;    // 0 solid, 1 transparent
   std::string meaning;  // what its colours tell, for those who do not see them
 };
 
@@ -230,11 +228,10 @@ enum class MousePointer { Default, Hourglass };
 
 struct Window {
   std::string caption;
-  bool enabled = true;
   bool topmost = false;
   bool closesByEscape = true;  // unless a control of it takes Escape
   MousePointer mousePointer = MousePointer::Default;
-  int left = 0, top = 0, width = 0, height = 0;  // twips
+  int left = 0, top = 0;  // twips; where both are 0 the window system places it
 };
 
 using AnyControl =

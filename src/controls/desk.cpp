@@ -85,7 +85,6 @@ void Desk::End() {
 }
 
 bool Desk::IsEnabled(const Window& window) const {
-  if (!window.enabled) return false;
   if (entries_.empty() || entries_.front().window != &window) return true;
   return std::none_of(entries_.begin(), entries_.end(),
                       [](const Entry& entry) { return entry.shown && entry.keepsMainDisabled; });

@@ -53,8 +53,7 @@ class Desk {
   [[nodiscard]] bool IsLoaded(const Window& window) const { return Find(window).loaded; }
   [[nodiscard]] bool IsShown(const Window& window) const { return Find(window).shown; }
 
-  // The window's own value, and for the main window that no shown window keeps the user's
-  // attention.
+  // The main window is disabled while a shown window keeps the user's attention.
   [[nodiscard]] bool IsEnabled(const Window& window) const;
 
   // Whether the user can work in the window: shown, enabled and not held up by a modal one.

@@ -31,7 +31,6 @@ struct ListView : Control {
   int top = 0;                 // the row last scrolled into view, 0 for none
   int scrolls = 0;             // how often a row was asked to be scrolled into view
   int changes = 0;             // how often a text was written or the rows were replaced
-  int appearance = 0;          // 1 three-dimensional
 
   [[nodiscard]] int Count() const { return rows ? rows->Count() : 0; }
 

@@ -68,11 +68,11 @@ void StartUp::frmSplash_Load() {
 }
 
 void StartUp::Image1_MouseMove() {
-  splash_.Shape2.borderColor = colors::kInactiveTitleBar;
+  splash_.Shape2.borderColor = colors::kSplashBorder;
 }
 
 void StartUp::Image2_MouseMove() {
-  splash_.Shape2.borderColor = colors::kActiveTitleBar;
+  splash_.Shape2.borderColor = colors::kAccent;
 }
 
 void StartUp::Image2_Click(int index) {
@@ -108,8 +108,7 @@ void StartUp::LoadMainWindow() {
   steps_.putOwnName();
   steps_.loadOtherNames();
   run_.PlatformCode = GetPlatformCode(surroundings_.info.platformId);
-  main_.Label4.left = main_.width;
-  if (run_.PlatformCode == 3 || run_.PlatformCode == 9) CorrectLayout();
+  main_.Label4.left = frmBVX::kWidth;
   steps_.buildQuickHelp();
   main_.mnuWiz.checked = StartsWithWizard();
   steps_.loadFavoritesMenu();
@@ -126,15 +125,6 @@ void StartUp::ApplyConnectionSettings() {
     if (!proxy.empty()) control->proxy = proxy;
     control->requestTimeout = timeout ? ToInt32(std::trunc(*timeout)) : 5;
   }
-}
-
-// That platform family draws lists with a border of its own.
-void StartUp::CorrectLayout() {
-  main_.ListView1.appearance = 1;
-  main_.Shape3.top -= 100;
-  main_.Shape4.top -= 100;
-  main_.Label12.top -= 60;
-  main_.Shape4.borderWidth = 2;
 }
 
 bool StartUp::StartsWithWizard() {

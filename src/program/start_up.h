@@ -70,7 +70,6 @@ class StartUp {
  private:
   void LoadMainWindow();
   void ApplyConnectionSettings();
-  void CorrectLayout();
 
   frmSplash& splash_;
   frmBVX& main_;

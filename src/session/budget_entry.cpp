@@ -30,7 +30,7 @@ void BudgetEntry::Enter() {
     box.fontSize = 9;
     box.fontBold = true;
     box.backColor = colors::kLightGrey;
-    main_.Text1[1].backColor = colors::kInactiveTitleText;
+    main_.Text1[1].backColor = colors::kBalanceGround;
     ShowHint(main_, hint::kSelectFirst);
   }
   method73(values_, main_, desk_);

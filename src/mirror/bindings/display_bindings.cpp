@@ -92,7 +92,7 @@ class ShapeBinding : public Bound<Shape, ShapeWidget> {
     ApplyBase(control_, widget_);
     const bool filled = control_.fillStyle == 0;
     widget_.SetFill(filled ? RoleColor(control_.fillColor, context_.scheme) : QColor());
-    widget_.SetBorder(RoleColor(control_.borderColor, context_.scheme), control_.borderWidth);
+    widget_.SetBorder(RoleColor(control_.borderColor, context_.scheme));
     widget_.setAccessibleDescription(ToQString(control_.meaning));
   }
 };

@@ -12,7 +12,7 @@ class ShapeWidget : public QWidget {
 
   // An invalid fill colour leaves the inside transparent.
   void SetFill(const QColor& color);
-  void SetBorder(const QColor& color, int width);
+  void SetBorder(const QColor& color);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -20,7 +20,6 @@ class ShapeWidget : public QWidget {
  private:
   QColor fill_;
   QColor border_;
-  int borderWidth_ = 1;
 };
 
 }  // namespace benevix

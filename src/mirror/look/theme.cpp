@@ -6,7 +6,6 @@
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QPalette>
-#include <algorithm>
 #include <utility>
 
 #include "mirror/look/theme_style.h"
@@ -22,85 +21,84 @@ namespace {
 
 // Every text colour reaches a contrast of 4.5 to 1 on each of the grounds it is drawn on.
 struct Tones {
-  const char* window;     // ground of the windows
-  const char* base;       // ground of boxes, lists and cards
-  const char* alternate;  // every second row of a list
-  const char* face;       // buttons
-  const char* hover;      // button under the mouse
-  const char* line;       // borders that only part
-  const char* edge;       // borders that can be pressed or typed in
-  const char* text;
-  const char* muted;  // less important text, disabled text
-  const char* accent;
-  const char* accentHover;
-  const char* onAccent;  // text on the accent
-  const char* tint;      // the guidance line's ground
-  const char* onTint;
-  const char* given;     // ground of boxes that show and no longer ask
-  const char* computed;  // ground of the Balance
-  const char* sand;      // ground of the fee modes
-  const char* red;
-  const char* green;
-  const char* lit;      // the news indicator with news
-  const char* service;  // parts of the money bar, beside the accent
-  const char* method;
-  const char* left;
+  QRgb window;     // ground of the windows
+  QRgb base;       // ground of boxes, lists and cards
+  QRgb alternate;  // every second row of a list
+  QRgb face;       // buttons
+  QRgb hover;      // button under the mouse
+  QRgb line;       // borders that only part
+  QRgb edge;       // borders that can be pressed or typed in
+  QRgb text;
+  QRgb muted;  // less important text, disabled text
+  QRgb accent;
+  QRgb accentHover;
+  QRgb onAccent;  // text on the accent
+  QRgb tint;      // the guidance line's ground
+  QRgb onTint;
+  QRgb given;     // ground of boxes that show and no longer ask
+  QRgb computed;  // ground of the Balance
+  QRgb sand;      // ground of the fee modes
+  QRgb red;
+  QRgb green;
+  QRgb lit;      // the news indicator with news
+  QRgb service;  // parts of the money bar, beside the accent
+  QRgb method;
+  QRgb left;
 };
 
-constexpr Tones kLight{.window = "#f3f5f7",
-                       .base = "#ffffff",
-                       .alternate = "#f6f8f9",
-                       .face = "#ffffff",
-                       .hover = "#e9edf0",
-                       .line = "#d5dbe1",
-                       .edge = "#7f8b97",
-                       .text = "#1b252e",
-                       .muted = "#4e5964",
-                       .accent = "#0b6e69",
-                       .accentHover = "#095a56",
-                       .onAccent = "#ffffff",
-                       .tint = "#d9eeec",
-                       .onTint = "#083f3c",
-                       .given = "#e6eaee",
-                       .computed = "#e8f1f1",
-                       .sand = "#f3efd8",
-                       .red = "#b3201b",
-                       .green = "#1f8f45",
-                       .lit = "#c47400",
-                       .service = "#b86a00",
-                       .method = "#7b4fa0",
-                       .left = "#b9c4ce"};
+constexpr Tones kLight{.window = 0xf3f5f7,
+                       .base = 0xffffff,
+                       .alternate = 0xf6f8f9,
+                       .face = 0xffffff,
+                       .hover = 0xe9edf0,
+                       .line = 0xd5dbe1,
+                       .edge = 0x7f8b97,
+                       .text = 0x1b252e,
+                       .muted = 0x4e5964,
+                       .accent = 0x0b6e69,
+                       .accentHover = 0x095a56,
+                       .onAccent = 0xffffff,
+                       .tint = 0xd9eeec,
+                       .onTint = 0x083f3c,
+                       .given = 0xe6eaee,
+                       .computed = 0xe8f1f1,
+                       .sand = 0xf3efd8,
+                       .red = 0xb3201b,
+                       .green = 0x1f8f45,
+                       .lit = 0xc47400,
+                       .service = 0xb86a00,
+                       .method = 0x7b4fa0,
+                       .left = 0xb9c4ce};
 
-constexpr Tones kDark{.window = "#1d2227",
-                      .base = "#15191d",
-                      .alternate = "#1a1f24",
-                      .face = "#2b3239",
-                      .hover = "#363f48",
-                      .line = "#343c45",
-                      .edge = "#6b7784",
-                      .text = "#e6eaee",
-                      .muted = "#a3adb8",
-                      .accent = "#58c4ba",
-                      .accentHover = "#7ad4cb",
-                      .onAccent = "#0b1f1d",
-                      .tint = "#163a38",
-                      .onTint = "#d2f1ee",
-                      .given = "#2e353c",
-                      .computed = "#1c3030",
-                      .sand = "#2f2d1e",
-                      .red = "#ff8f88",
-                      .green = "#4fc27a",
-                      .lit = "#ffb84d",
-                      .service = "#f0ad4e",
-                      .method = "#c39be0",
-                      .left = "#55616d"};
+constexpr Tones kDark{.window = 0x1d2227,
+                      .base = 0x15191d,
+                      .alternate = 0x1a1f24,
+                      .face = 0x2b3239,
+                      .hover = 0x363f48,
+                      .line = 0x343c45,
+                      .edge = 0x6b7784,
+                      .text = 0xe6eaee,
+                      .muted = 0xa3adb8,
+                      .accent = 0x58c4ba,
+                      .accentHover = 0x7ad4cb,
+                      .onAccent = 0x0b1f1d,
+                      .tint = 0x163a38,
+                      .onTint = 0xd2f1ee,
+                      .given = 0x2e353c,
+                      .computed = 0x1c3030,
+                      .sand = 0x2f2d1e,
+                      .red = 0xff8f88,
+                      .green = 0x4fc27a,
+                      .lit = 0xffb84d,
+                      .service = 0xf0ad4e,
+                      .method = 0xc39be0,
+                      .left = 0x55616d};
 
 const Tones& TonesOf(Scheme scheme) {
   return scheme == Scheme::Light ? kLight : kDark;
 }
 
 QPalette PaletteOf(const Tones& tones) {
-  const auto color = [](const char* tone) { return QColor(QLatin1String(tone)); };
   QPalette palette;
   for (const auto& [role, tone] : {std::pair{QPalette::Window, tones.window},
                                    {QPalette::WindowText, tones.text},
@@ -122,14 +120,14 @@ QPalette PaletteOf(const Tones& tones) {
                                    {QPalette::Mid, tones.line},
                                    {QPalette::Dark, tones.edge},
                                    {QPalette::Shadow, tones.edge}}) {
-    palette.setColor(role, color(tone));
+    palette.setColor(role, tone);
   }
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(QPalette::Disabled, role, color(tones.muted));
+    palette.setColor(QPalette::Disabled, role, tones.muted);
   }
-  palette.setColor(QPalette::Disabled, QPalette::Base, color(tones.window));
-  palette.setColor(QPalette::Disabled, QPalette::Highlight, color(tones.line));
-  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, color(tones.text));
+  palette.setColor(QPalette::Disabled, QPalette::Base, tones.window);
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.line);
+  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, tones.text);
   return palette;
 }
 
@@ -155,7 +153,7 @@ QString SheetOf(const Tones& tones, QFont font) {
                                    {"text", tones.text},
                                    {"muted", tones.muted},
                                    {"given", tones.given}}) {
-    set(name, QLatin1String(tone));
+    set(name, QColor(tone).name());
   }
   const double points = QFontInfo(font).pointSizeF();
   set("small", QString::number(points * 0.9));
@@ -175,43 +173,6 @@ QString SheetOf(const Tones& tones, QFont font) {
   font.setPointSizeF(points * 1.8);
   set("amount", width("10,000.00"));
   return sheet;
-}
-
-// The tone of a colour that the program names, or null.
-const char* ToneOf(Color role, const Tones& tones) {
-  switch (role) {
-    case colors::kBlack:
-    case colors::kWindowText:
-    case colors::kButtonText:
-    case colors::kDarkShadow3D:
-      return tones.text;
-    case colors::kRed:
-      return tones.red;
-    case colors::kGreen:
-      return tones.green;
-    case colors::kLightGrey:
-      return tones.given;
-    case colors::kSand:
-    case colors::kLightSand:  // a shade apart, told by nobody's eye
-      return tones.sand;
-    case colors::kWindowBackground:
-      return tones.base;
-    case colors::kButtonFace:
-      return tones.window;
-    case colors::kInactiveTitleText:  // only ever the ground of the Balance
-      return tones.computed;
-    case colors::kLight3D:  // only ever the news indicator with news
-      return tones.lit;
-    case colors::kActiveTitleBar:
-      return tones.accent;
-    case colors::kInactiveTitleBar:
-      return tones.edge;
-    case colors::kButtonShadow:
-    case colors::kInactiveBorder:  // also a text that is to stand back
-      return tones.muted;
-    default:
-      return nullptr;
-  }
 }
 
 }  // namespace
@@ -234,38 +195,56 @@ void ApplyTheme(QApplication& app, Scheme scheme) {
 
 ListColors ListColorsOf(Scheme scheme) {
   const Tones& tones = TonesOf(scheme);
-  const auto color = [](const char* tone) { return QColor(QLatin1String(tone)); };
-  return {color(tones.given), color(tones.accent), color(tones.tint), color(tones.accent)};
+  return {tones.given, tones.accent, tones.tint, tones.accent};
 }
 
 QColor UseColor(MoneyBar::Part::Use use, Scheme scheme) {
   const Tones& tones = TonesOf(scheme);
   switch (use) {
     case MoneyBar::Part::Use::Given:
-      return {QLatin1String(tones.accent)};
+      return tones.accent;
     case MoneyBar::Part::Use::ServiceFees:
-      return {QLatin1String(tones.service)};
+      return tones.service;
     case MoneyBar::Part::Use::MethodFee:
-      return {QLatin1String(tones.method)};
+      return tones.method;
     case MoneyBar::Part::Use::Left:
-      return {QLatin1String(tones.left)};
+      return tones.left;
   }
   return {};
 }
 
 QColor RoleColor(Color role, Scheme scheme) {
-  if (const char* tone = ToneOf(role, TonesOf(scheme))) return QColor(QLatin1String(tone));
-  // A system colour that nobody uses yet stands back.
-  if (role & 0x80000000u) return QColor(QLatin1String(TonesOf(scheme).muted));
-  const QColor color(static_cast<int>(role & 0xFFu), static_cast<int>(role >> 8 & 0xFFu),
-                     static_cast<int>(role >> 16 & 0xFFu));
-  if (scheme == Scheme::Light) return color;
-  // The same hue with the lightness turned over: light grounds become dark, dark texts light.
-  float hue = 0, saturation = 0, lightness = 0;
-  color.getHslF(&hue, &saturation, &lightness);
-  const bool ground = lightness > 0.5f;
-  const float turned = ground ? 0.1f + 0.3f * (1 - lightness) : 0.95f - 0.4f * lightness;
-  return QColor::fromHslF(std::max(hue, 0.0f), saturation, turned);
+  const Tones& tones = TonesOf(scheme);
+  switch (role) {
+    case colors::kBlack:
+    case colors::kWindowText:
+    case colors::kButtonText:
+    case colors::kNewsText:
+      return tones.text;
+    case colors::kRed:
+      return tones.red;
+    case colors::kGreen:
+      return tones.green;
+    case colors::kLightGrey:
+      return tones.given;
+    case colors::kSand:
+    case colors::kLightSand:  // the two can hardly be told apart
+      return tones.sand;
+    case colors::kWindowBackground:
+      return tones.base;
+    case colors::kButtonFace:
+      return tones.window;
+    case colors::kBalanceGround:
+      return tones.computed;
+    case colors::kNewsLit:
+      return tones.lit;
+    case colors::kAccent:
+      return tones.accent;
+    case colors::kSplashBorder:
+      return tones.edge;
+    default:  // kMuted, kOff
+      return tones.muted;
+  }
 }
 
 }  // namespace benevix
