@@ -10,7 +10,7 @@ namespace benevix {
 // when it is painted.
 class ListModel : public QAbstractTableModel {
  public:
-  enum class Kind { Heading, Organization, Given };
+  enum class Kind { Heading, Organization, Given };  // given: with a donation, or any other entry
   static constexpr int kKindRole = Qt::UserRole;
 
   ListModel(const ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}

@@ -21,6 +21,10 @@ void ApplyItem(const MenuItem& item, const QString& text, bool enabled, QAction&
 
 }  // namespace
 
+bool IsMenu(const NamedControl& control) {
+  return control.As<MenuItem>() != nullptr || control.As<MenuArray>() != nullptr;
+}
+
 MenuBinding::MenuBinding(const Desk::Entry& entry, QMenuBar& bar, BindingContext& context)
     : bar_(bar), context_(context) {
   bar.setAccessibleName(QStringLiteral("Menus"));

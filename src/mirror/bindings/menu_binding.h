@@ -11,6 +11,9 @@
 
 namespace benevix {
 
+// Menus have actions in place of widgets.
+[[nodiscard]] bool IsMenu(const NamedControl& control);
+
 // The menu bar and the pop-up menus of a window, built from its menu items in their order.
 class MenuBinding {
  public:

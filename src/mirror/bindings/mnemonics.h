@@ -15,4 +15,8 @@ namespace benevix {
 // The caption with the mark at that letter, at a word's beginning if there is one.
 [[nodiscard]] QString WithMnemonic(QString caption, QChar letter);
 
+// The caption of a label that leads to no box, without its mark, which can only be its first
+// character; any other "&" is text.
+[[nodiscard]] QString WithoutMnemonic(const QString& caption);
+
 }  // namespace benevix

@@ -14,10 +14,6 @@ std::string FromQString(const QString& text);
 // takes minutes to lay out.
 QString Drawn(const std::string& text);
 
-// A label's text without the mark of its mnemonic, which stands before the first letter; any other
-// "&" is text.
-QString WithoutMnemonic(const QString& text);
-
 // Twips are twentieths of a point: fifteen to a pixel at the 96 dots an inch that the toolkit's
 // coordinates count in.
 inline constexpr int kTwipsPerPixel = 15;

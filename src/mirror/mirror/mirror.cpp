@@ -41,8 +41,9 @@ void Mirror::Attach(Desk& desk, Input& input, const WindowLayout* layout) {
   Detach();
   InstallAccessibility();
   desk_ = &desk;
-  context_ = std::make_unique<BindingContext>(
-      BindingContext{input, scheme_, false, timers_ == Timers::Run, layout});
+  layout_ = layout;
+  context_ =
+      std::make_unique<BindingContext>(BindingContext{input, scheme_, timers_ == Timers::Run});
   input.afterEvent = [this] { Sync(); };
 }
 
@@ -79,7 +80,7 @@ void Mirror::BringIntoLine() {
       binding = nullptr;
     }
     if (binding == nullptr && entry.shown) {
-      binding = std::make_unique<WindowBinding>(*desk_, entry, *context_).release();
+      binding = std::make_unique<WindowBinding>(*desk_, entry, *context_, layout_).release();
       bindings_[entry.window] = binding;
     }
     if (binding != nullptr) binding->Apply(TransientParent(*entry.window));

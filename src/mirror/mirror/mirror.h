@@ -48,6 +48,7 @@ class Mirror : public QObject, public Waits {
   Scheme scheme_;
   Timers timers_;
   Desk* desk_ = nullptr;
+  const WindowLayout* layout_ = nullptr;
   std::unique_ptr<BindingContext> context_;
   std::map<const Window*, WindowBinding*> bindings_;  // deleted later, when no event is in them
   int waits_ = 0;
