@@ -14,8 +14,8 @@ namespace benevix {
 enum class Modality { Modeless, Modal };
 enum class Attention { None, KeepsMainDisabled };
 
-// Knows which windows are loaded, shown, modal and topmost, and where the focus is. A window that
-// is unloaded goes back to its design values; a hidden one keeps what it holds.
+// The desk: which windows are loaded, shown, modal and in front, and where the focus is. A window
+// that is unloaded goes back to its design values; a hidden one keeps what it holds.
 class Desk {
  public:
   struct Entry {
@@ -26,7 +26,7 @@ class Desk {
     bool shown = false;
     bool modal = false;
     bool keepsMainDisabled = false;
-    int loads = 0;  // tells one life of the window from the next
+    int loads = 0;  // how often it has been loaded; a window loaded again is drawn anew
     Control* focus = nullptr;
     std::function<void()> reset;
   };
@@ -36,8 +36,11 @@ class Desk {
   // Takes a window struct that bears its name as kName. The first one added is the main window.
   template <class W>
   void Add(W& window) {
-    entries_.push_back({W::kName, &window, ControlsOf(window), false, false, false, false, 0,
-                        nullptr, [&window] { window = W(); }});
+    Entry& entry = entries_.emplace_back();
+    entry.name = W::kName;
+    entry.window = &window;
+    entry.controls = ControlsOf(window);
+    entry.reset = [&window] { window = W(); };
   }
 
   void Load(Window& window);
@@ -56,7 +59,7 @@ class Desk {
   // The main window is disabled while a shown window keeps the user's attention.
   [[nodiscard]] bool IsEnabled(const Window& window) const;
 
-  // Whether the user can work in the window: shown, enabled and not held up by a modal one.
+  // Whether the user can work in the window: it is shown, enabled and not below a modal one.
   [[nodiscard]] bool IsUsable(const Window& window) const;
 
   // Whether the user can work with the control: so can its window, its holders and itself.
@@ -72,7 +75,7 @@ class Desk {
   // To the next (previous) control in the window's order that takes the focus.
   void MoveFocus(Entry& entry, bool forward);
 
-  // Forgets the focus of controls that can no longer have it; nobody is told.
+  // Takes the focus from controls that can no longer have it, without an event.
   void Settle();
 
   [[nodiscard]] const std::vector<Entry>& Entries() const { return entries_; }
