@@ -1,4 +1,4 @@
-// What is pressed.
+// The bindings of buttons, options and check boxes.
 
 #include <QCheckBox>
 #include <QPushButton>

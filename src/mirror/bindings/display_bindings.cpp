@@ -1,4 +1,4 @@
-// What shows something.
+// The bindings of controls that only show something or can be clicked or scrolled.
 
 #include <QGroupBox>
 #include <QLabel>
@@ -83,7 +83,6 @@ class FrameBinding : public WidgetBinding<Frame, QGroupBox> {
   void ApplyKind() override { widget_.setTitle(Drawn(control_.caption)); }
 };
 
-// A picture can be clicked, and tells that the mouse moves over it.
 class PictureBinding : public WidgetBinding<PictureBox, QWidget> {
  public:
   PictureBinding(PictureBox& picture, QWidget& widget, BindingContext& context)

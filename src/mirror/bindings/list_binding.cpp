@@ -28,7 +28,7 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
     LayOutColumns(view, list);
     QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
                      [this](const QModelIndex& current) {
-                       // What the mouse chooses is told at its release.
+                       // What the mouse chooses counts when it is released.
                        if (context_.applying || pressed_ || !current.isValid()) return;
                        // With the focus the view takes a current row that the user did not choose.
                        if (!widget_.selectionModel()->isSelected(current)) return;

@@ -6,8 +6,8 @@
 
 namespace benevix {
 
-// The rows of a ListView for a table view. It holds no text: each cell is asked from the struct
-// when it is painted.
+// The rows of a ListView for a table view. It holds no text: each cell is read from the struct when
+// it is painted.
 class ListModel : public QAbstractTableModel {
  public:
   enum class Kind { Heading, Organization, Given };  // given: with a donation, or any other entry
@@ -15,7 +15,7 @@ class ListModel : public QAbstractTableModel {
 
   ListModel(const ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
 
-  // Brings the view into line when texts or rows have changed since the last time.
+  // Brings the view into line where texts or rows have changed since the last time.
   void Refresh();
 
   int rowCount(const QModelIndex& parent = {}) const override;

@@ -143,7 +143,7 @@ void MenuBinding::ApplyArray(Array& array) {
   for (const auto& [index, item] : array.array->items) {
     QAction*& action = array.elements[index];
     if (action == nullptr) {
-      // In the order of the indexes, whatever the order in which they were made.
+      // In the order of the indexes, in whatever order they are made.
       const auto next = std::next(array.elements.find(index));
       QAction* const before = next == array.elements.end() ? array.end : next->second;
       action = std::make_unique<QAction>(array.menu).release();
@@ -153,8 +153,8 @@ void MenuBinding::ApplyArray(Array& array) {
                          context_.input.ChooseMenu(*menuArray, element);
                        });
     }
-    // Names from files and settings: an ampersand in them is no mnemonic. In a menu of their own
-    // their first letter goes from one to the next.
+    // These are names from files and settings, in which an ampersand marks no mnemonic. Where they
+    // have the menu to themselves, typing a first letter goes from one such name to the next.
     QString text = Drawn(item.caption).replace(QLatin1Char('&'), QLatin1String("&&"));
     if (array.isAlone && !text.isEmpty() && text[0].isLetter()) text.prepend(QLatin1Char('&'));
     ApplyItem(item, text, item.enabled && array.array->enabled, *action);

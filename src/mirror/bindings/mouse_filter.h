@@ -7,8 +7,8 @@ class QWidget;
 
 namespace benevix {
 
-// Tells what the mouse does over a widget that tells nothing of it itself. A click is the left
-// button pressed and released over the widget; it is not also one of the panel below the widget.
+// The mouse over a widget that has no signals for it. A click is the left button pressed and
+// released over the widget; it is not also a click on the panel that holds the widget.
 class MouseFilter : public QObject {
  public:
   MouseFilter(QWidget& widget, std::function<void()> onClick,

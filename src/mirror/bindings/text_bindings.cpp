@@ -1,4 +1,4 @@
-// Boxes that text is typed into.
+// The bindings of boxes that text is typed into.
 
 #include <QComboBox>
 #include <QGuiApplication>
@@ -55,7 +55,7 @@ class TextBoxBinding : public WidgetBinding<TextBox, QLineEdit> {
 
   void SelectAll() {
     widget_.selectAll();
-    // The press that gave the focus goes on to place the caret.
+    // While the mouse is pressed, the press that gave the focus still places the caret afterwards.
     if (QGuiApplication::mouseButtons() != Qt::NoButton) {
       QTimer::singleShot(0, &widget_, &QLineEdit::selectAll);
     }
@@ -65,7 +65,7 @@ class TextBoxBinding : public WidgetBinding<TextBox, QLineEdit> {
   int selections_;
 };
 
-// A box of several lines; the code page writes their ends as CR LF.
+// A box of several lines, which end with CR LF in the struct.
 class MultiLineBinding : public WidgetBinding<TextBox, QPlainTextEdit> {
  public:
   MultiLineBinding(TextBox& box, QPlainTextEdit& edit, BindingContext& context)
@@ -76,7 +76,7 @@ class MultiLineBinding : public WidgetBinding<TextBox, QPlainTextEdit> {
       for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += 2) {
         text.insert(at, 1, '\r');
       }
-      // What the code page lacks is not taken; Apply takes it out of the widget again.
+      // A character that the code page lacks is not in `text`; it is taken out of the widget too.
       if (text != control_.text) {
         context_.input.Type(control_, text);
       } else {

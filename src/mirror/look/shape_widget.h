@@ -5,7 +5,7 @@
 
 namespace benevix {
 
-// A rounded rectangle; a small square one is a disc.
+// A rounded rectangle, which is a disc where it is small and square.
 class ShapeWidget : public QWidget {
  public:
   explicit ShapeWidget(QWidget* parent = nullptr);

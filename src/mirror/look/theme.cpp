@@ -26,7 +26,7 @@ struct Tones {
   QRgb alternate;  // every second row of a list
   QRgb face;       // buttons
   QRgb hover;      // button under the mouse
-  QRgb line;       // borders that only part
+  QRgb line;       // borders that only divide
   QRgb edge;       // borders that can be pressed or typed in
   QRgb text;
   QRgb muted;  // less important text, disabled text
@@ -35,7 +35,7 @@ struct Tones {
   QRgb onAccent;  // text on the accent
   QRgb tint;      // the guidance line's ground
   QRgb onTint;
-  QRgb given;     // ground of boxes that show and no longer ask
+  QRgb given;     // ground of boxes that no longer take an entry
   QRgb computed;  // ground of the Balance
   QRgb sand;      // ground of the fee modes
   QRgb red;
@@ -138,7 +138,7 @@ QString SheetOf(const Tones& tones, QFont font) {
   const auto set = [&sheet](const char* name, const QString& value) {
     sheet.replace(QLatin1Char('@') + QLatin1String(name), value);
   };
-  // A longer name comes before the one that it begins with.
+  // "accentHover" before "accent", with which it begins.
   for (const auto& [name, tone] : {std::pair{"accentHover", tones.accentHover},
                                    {"accent", tones.accent},
                                    {"onAccent", tones.onAccent},
@@ -162,7 +162,7 @@ QString SheetOf(const Tones& tones, QFont font) {
   const QFontMetrics plain(font);
   set("title", QString::number(plain.height() + 9));
   set("track", QString::number(plain.height() + 8));
-  // A style sheet's least width takes the place of the text's, so it must hold the text.
+  // A minimum width in a style sheet replaces the one of the text, so the text must fit into it.
   font.setBold(true);
   const auto width = [&font](const char* text) {
     return QString::number(QFontMetrics(font).horizontalAdvance(QLatin1String(text)));

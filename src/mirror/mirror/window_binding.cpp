@@ -5,12 +5,12 @@
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QShortcut>
+#include <QToolTip>
 #include <QWindow>
 #include <string_view>
 
 #include "mirror/bindings/make_binding.h"
 #include "mirror/bindings/mnemonics.h"
-#include "mirror/bindings/tool_tip.h"
 #include "mirror/look/texts.h"
 #include "mirror/mirror/drawings.h"
 #include "mirror/mirror/window_layout.h"
@@ -21,6 +21,17 @@ namespace {
 bool IsUsersFocus(Qt::FocusReason reason) {
   return reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
          reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+}
+
+// The tool tip with the shortcut, or the shortcut alone. Without a shortcut the toolkit shows it.
+bool ShowTip(const Control& control, QWidget& widget, const QHelpEvent& event) {
+  const QKeySequence shortcut(QLatin1String(control.shortcut));
+  if (shortcut.isEmpty()) return false;
+  const QString keys = shortcut.toString(QKeySequence::NativeText);
+  const QString tip = ToQString(control.toolTip);
+  QToolTip::showText(event.globalPos(),
+                     tip.isEmpty() ? keys : tip + QStringLiteral(" (%1)").arg(keys), &widget);
+  return true;
 }
 
 }  // namespace
@@ -135,7 +146,7 @@ void WindowBinding::ApplyWindow() {
 
 void WindowBinding::ShowWindow(QWidget* transientParent) {
   const Desk::Entry& entry = desk_.Find(window_);
-  // Over a topmost window only another one is seen.
+  // Over a topmost window only another topmost one can be seen.
   const bool overTopmost = transientParent != nullptr &&
                            transientParent->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
   widget_->setWindowFlag(Qt::WindowStaysOnTopHint, window_.topmost || overTopmost);
@@ -144,7 +155,7 @@ void WindowBinding::ShowWindow(QWidget* transientParent) {
     widget_->move(window_.left / kTwipsPerPixel, window_.top / kTwipsPerPixel);
   }
   if (transientParent != nullptr) {
-    // Above its parent, and not held up by a parent that is modal.
+    // So it stays above its parent, and can be used while the parent is modal.
     widget_->winId();
     widget_->windowHandle()->setTransientParent(transientParent->windowHandle());
     QRect place(QPoint(), widget_->size());
@@ -193,9 +204,9 @@ bool WindowBinding::FilterWindow(QEvent& event) {
       return false;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-    // A page that does not use a key passes its press on as this question alone.
+    // The press of a key that a page does not use arrives only as this.
     case QEvent::ShortcutOverride:
-      // A control that has the focus has told the key already.
+      // The key of a control that has the focus has been filtered there.
       return BoundTo(widget_->focusWidget()) == nullptr &&
              keys_.Filter(static_cast<const QKeyEvent&>(event));
     default:
@@ -216,8 +227,7 @@ bool WindowBinding::FilterControl(const BoundControl& bound, QEvent& event) {
     case QEvent::KeyRelease:
       return keys_.Filter(control, widget, static_cast<const QKeyEvent&>(event));
     case QEvent::ToolTip:
-      return ShowTipWithShortcut(control, widget,
-                                 static_cast<const QHelpEvent&>(event).globalPos());
+      return ShowTip(control, widget, static_cast<const QHelpEvent&>(event));
     default:
       return false;
   }
