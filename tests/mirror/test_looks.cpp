@@ -1,4 +1,4 @@
-// How the windows look: the contrast of every text, the room they need, the arrangement they keep.
+// How the windows look: the contrast of every text, their smallest size, the arrangement they keep.
 
 #include <QApplication>
 #include <QCheckBox>
@@ -35,7 +35,7 @@ double Luminance(QRgb color) {
          0.0722 * linear(qBlue(color));
 }
 
-// Between the ground, which is the colour met most often, and the pixel that stands out most.
+// Between the ground, which is the most frequent colour, and the pixel that differs most from it.
 double ContrastIn(const QImage& picture) {
   std::map<QRgb, int> count;
   for (int y = 0; y < picture.height(); ++y) {
