@@ -4,9 +4,9 @@
 #include <QTest>
 
 #include "../list_of_a_test.h"
+#include "forms/forms.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
-#include "program/program.h"
 
 namespace benevix {
 

@@ -1,8 +1,6 @@
 // Every window as users of the keyboard and of screen readers find it.
 
-#include <QAbstractItemView>
 #include <QAccessible>
-#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>

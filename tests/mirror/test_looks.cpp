@@ -1,16 +1,12 @@
 // How the windows look: the contrast of every text, their smallest size, the arrangement they keep.
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QPainter>
 #include <QRadioButton>
-#include <QSplitter>
-#include <QStyleOptionGroupBox>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <cmath>

@@ -1,7 +1,7 @@
 // The mirror between structs and real widgets, off the screen.
 
-#include <QApplication>
 #include <QClipboard>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>

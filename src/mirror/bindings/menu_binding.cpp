@@ -4,7 +4,6 @@
 #include <QShortcut>
 #include <algorithm>
 #include <memory>
-#include <string_view>
 
 #include "mirror/bindings/mnemonics.h"
 #include "mirror/look/texts.h"
@@ -38,41 +37,30 @@ MenuBinding::MenuBinding(const Desk::Entry& entry, QMenuBar& bar, BindingContext
       AddArray(*array);
     }
   }
-  for (const auto& [name, menu] : menus_) GiveMnemonics(name);
+  for (const auto& [name, menu] : menus_) SetMnemonicsIn(name, Mnemonics(CaptionsIn(name)));
   auto* const toMenus = new QShortcut(QKeySequence(Qt::Key_F10), &bar);
   QObject::connect(toMenus, &QShortcut::activated, &bar,
                    [&bar] { bar.setActiveAction(bar.actions().value(0)); });
 }
 
-QStringList MenuBinding::Titles() const {
-  QStringList titles;
-  for (const Item& item : items_) {
-    if (IsTitle(item)) titles.append(ToQString(item.item->caption));
-  }
-  return titles;
-}
-
-void MenuBinding::SetTitleMnemonics(const std::vector<QChar>& letters) {
-  auto letter = letters.begin();
-  for (Item& item : items_) {
-    if (IsTitle(item)) item.mnemonic = *letter++;
-  }
-}
-
-bool MenuBinding::IsTitle(const Item& item) {
-  return std::string_view(item.item->holder).empty() && item.item->visible;
-}
-
-void MenuBinding::GiveMnemonics(const std::string& holder) {
+QStringList MenuBinding::CaptionsIn(std::string_view holder) const {
   QStringList captions;
   for (const Item& item : items_) {
-    if (item.item->holder == holder) captions.append(ToQString(item.item->caption));
+    if (IsIn(item, holder)) captions.append(ToQString(item.item->caption));
   }
-  const std::vector<QChar> letters = Mnemonics(captions);
+  return captions;
+}
+
+void MenuBinding::SetMnemonicsIn(std::string_view holder, const std::vector<QChar>& letters) {
   auto letter = letters.begin();
   for (Item& item : items_) {
-    if (item.item->holder == holder) item.mnemonic = *letter++;
+    if (IsIn(item, holder)) item.mnemonic = *letter++;
   }
+}
+
+// Pop-up menus are hidden items outside every menu.
+bool MenuBinding::IsIn(const Item& item, std::string_view holder) {
+  return item.item->holder == holder && (!holder.empty() || item.item->visible);
 }
 
 QMenu* MenuBinding::MenuNamed(const std::string& name) const {

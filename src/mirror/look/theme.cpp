@@ -6,6 +6,7 @@
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QPalette>
+#include <map>
 #include <utility>
 
 #include "mirror/look/theme_style.h"
@@ -16,122 +17,75 @@ static void InitResources() {
 }
 
 namespace benevix {
-
 namespace {
 
-// Every text colour reaches a contrast of 4.5 to 1 on each of the grounds it is drawn on.
-struct Tones {
-  QRgb window;     // ground of the windows
-  QRgb base;       // ground of boxes, lists and cards
-  QRgb alternate;  // every second row of a list
-  QRgb face;       // buttons
-  QRgb hover;      // button under the mouse
-  QRgb line;       // borders that only divide
-  QRgb edge;       // borders that can be pressed or typed in
-  QRgb text;
-  QRgb muted;  // less important text, disabled text
-  QRgb accent;
-  QRgb accentHover;
-  QRgb onAccent;  // text on the accent
-  QRgb tint;      // the guidance line's ground
-  QRgb onTint;
-  QRgb given;     // ground of boxes that no longer take an entry
-  QRgb computed;  // ground of the Balance
-  QRgb sand;      // ground of the fee modes
-  QRgb red;
-  QRgb green;
-  QRgb lit;      // the news indicator with news
-  QRgb service;  // parts of the money bar, beside the accent
-  QRgb method;
-  QRgb left;
+struct Tone {
+  QRgb light, dark;
 };
 
-constexpr Tones kLight{.window = 0xf3f5f7,
-                       .base = 0xffffff,
-                       .alternate = 0xf6f8f9,
-                       .face = 0xffffff,
-                       .hover = 0xe9edf0,
-                       .line = 0xd5dbe1,
-                       .edge = 0x7f8b97,
-                       .text = 0x1b252e,
-                       .muted = 0x4e5964,
-                       .accent = 0x0b6e69,
-                       .accentHover = 0x095a56,
-                       .onAccent = 0xffffff,
-                       .tint = 0xd9eeec,
-                       .onTint = 0x083f3c,
-                       .given = 0xe6eaee,
-                       .computed = 0xe8f1f1,
-                       .sand = 0xf3efd8,
-                       .red = 0xb3201b,
-                       .green = 0x1f8f45,
-                       .lit = 0xc47400,
-                       .service = 0xb86a00,
-                       .method = 0x7b4fa0,
-                       .left = 0xb9c4ce};
+// Every text colour reaches a contrast of 4.5 to 1 on each of the grounds it is drawn on.
+namespace tone {
+constexpr Tone kWindow{0xf3f5f7, 0x1d2227};  // ground of the windows
+constexpr Tone kBase{0xffffff, 0x15191d};    // ground of boxes, lists and cards
+constexpr Tone kFace{0xffffff, 0x2b3239};    // buttons
+constexpr Tone kHover{0xe9edf0, 0x363f48};   // button under the mouse
+constexpr Tone kLine{0xd5dbe1, 0x343c45};    // borders that only divide
+constexpr Tone kEdge{0x7f8b97, 0x6b7784};    // borders that can be pressed or typed in
+constexpr Tone kText{0x1b252e, 0xe6eaee};
+constexpr Tone kMuted{0x4e5964, 0xa3adb8};  // less important text, disabled text
+constexpr Tone kAccent{0x0b6e69, 0x58c4ba};
+constexpr Tone kAccentHover{0x095a56, 0x7ad4cb};
+constexpr Tone kOnAccent{0xffffff, 0x0b1f1d};  // text on the accent
+constexpr Tone kTint{0xd9eeec, 0x163a38};      // the guidance line's ground
+constexpr Tone kOnTint{0x083f3c, 0xd2f1ee};
+constexpr Tone kGiven{0xe6eaee, 0x2e353c};     // ground of boxes that no longer take an entry
+constexpr Tone kComputed{0xe8f1f1, 0x1c3030};  // ground of the Balance
+constexpr Tone kSand{0xf3efd8, 0x2f2d1e};      // ground of the fee modes
+constexpr Tone kRed{0xb3201b, 0xff8f88};
+constexpr Tone kGreen{0x1f8f45, 0x4fc27a};
+constexpr Tone kLit{0xc47400, 0xffb84d};      // the news indicator with news
+constexpr Tone kService{0xb86a00, 0xf0ad4e};  // parts of the money bar, beside the accent
+constexpr Tone kMethod{0x7b4fa0, 0xc39be0};
+constexpr Tone kLeft{0xb9c4ce, 0x55616d};
+}  // namespace tone
 
-constexpr Tones kDark{.window = 0x1d2227,
-                      .base = 0x15191d,
-                      .alternate = 0x1a1f24,
-                      .face = 0x2b3239,
-                      .hover = 0x363f48,
-                      .line = 0x343c45,
-                      .edge = 0x6b7784,
-                      .text = 0xe6eaee,
-                      .muted = 0xa3adb8,
-                      .accent = 0x58c4ba,
-                      .accentHover = 0x7ad4cb,
-                      .onAccent = 0x0b1f1d,
-                      .tint = 0x163a38,
-                      .onTint = 0xd2f1ee,
-                      .given = 0x2e353c,
-                      .computed = 0x1c3030,
-                      .sand = 0x2f2d1e,
-                      .red = 0xff8f88,
-                      .green = 0x4fc27a,
-                      .lit = 0xffb84d,
-                      .service = 0xf0ad4e,
-                      .method = 0xc39be0,
-                      .left = 0x55616d};
-
-const Tones& TonesOf(Scheme scheme) {
-  return scheme == Scheme::Light ? kLight : kDark;
+QColor ColorOf(const Tone& tone, Scheme scheme) {
+  return scheme == Scheme::Light ? tone.light : tone.dark;
 }
 
-QPalette PaletteOf(const Tones& tones) {
+QPalette PaletteOf(Scheme scheme) {
   QPalette palette;
-  for (const auto& [role, tone] : {std::pair{QPalette::Window, tones.window},
-                                   {QPalette::WindowText, tones.text},
-                                   {QPalette::Base, tones.base},
-                                   {QPalette::AlternateBase, tones.alternate},
-                                   {QPalette::Text, tones.text},
-                                   {QPalette::PlaceholderText, tones.muted},
-                                   {QPalette::Button, tones.face},
-                                   {QPalette::ButtonText, tones.text},
-                                   {QPalette::BrightText, tones.red},
-                                   {QPalette::ToolTipBase, tones.base},
-                                   {QPalette::ToolTipText, tones.text},
-                                   {QPalette::Highlight, tones.accent},
-                                   {QPalette::HighlightedText, tones.onAccent},
-                                   {QPalette::Link, tones.accent},
-                                   {QPalette::LinkVisited, tones.accent},
-                                   {QPalette::Light, tones.base},
-                                   {QPalette::Midlight, tones.line},
-                                   {QPalette::Mid, tones.line},
-                                   {QPalette::Dark, tones.edge},
-                                   {QPalette::Shadow, tones.edge}}) {
-    palette.setColor(role, tone);
+  for (const auto& [role, tone] : {std::pair{QPalette::Window, tone::kWindow},
+                                   {QPalette::WindowText, tone::kText},
+                                   {QPalette::Base, tone::kBase},
+                                   {QPalette::Text, tone::kText},
+                                   {QPalette::PlaceholderText, tone::kMuted},
+                                   {QPalette::Button, tone::kFace},
+                                   {QPalette::ButtonText, tone::kText},
+                                   {QPalette::BrightText, tone::kRed},
+                                   {QPalette::ToolTipBase, tone::kBase},
+                                   {QPalette::ToolTipText, tone::kText},
+                                   {QPalette::Highlight, tone::kAccent},
+                                   {QPalette::HighlightedText, tone::kOnAccent},
+                                   {QPalette::Link, tone::kAccent},
+                                   {QPalette::LinkVisited, tone::kAccent},
+                                   {QPalette::Light, tone::kBase},
+                                   {QPalette::Midlight, tone::kLine},
+                                   {QPalette::Mid, tone::kLine},
+                                   {QPalette::Dark, tone::kEdge},
+                                   {QPalette::Shadow, tone::kEdge}}) {
+    palette.setColor(role, ColorOf(tone, scheme));
   }
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(QPalette::Disabled, role, tones.muted);
+    palette.setColor(QPalette::Disabled, role, ColorOf(tone::kMuted, scheme));
   }
-  palette.setColor(QPalette::Disabled, QPalette::Base, tones.window);
-  palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.line);
-  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, tones.text);
+  palette.setColor(QPalette::Disabled, QPalette::Base, ColorOf(tone::kWindow, scheme));
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, ColorOf(tone::kLine, scheme));
+  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, ColorOf(tone::kText, scheme));
   return palette;
 }
 
-QString SheetOf(const Tones& tones, QFont font) {
+QString SheetOf(Scheme scheme, QFont font) {
   QFile file(QStringLiteral(":/theme.qss"));
   if (!file.open(QIODevice::ReadOnly)) return {};
   QString sheet = QString::fromLatin1(file.readAll());
@@ -139,21 +93,21 @@ QString SheetOf(const Tones& tones, QFont font) {
     sheet.replace(QLatin1Char('@') + QLatin1String(name), value);
   };
   // "accentHover" before "accent", with which it begins.
-  for (const auto& [name, tone] : {std::pair{"accentHover", tones.accentHover},
-                                   {"accent", tones.accent},
-                                   {"onAccent", tones.onAccent},
-                                   {"onTint", tones.onTint},
-                                   {"tint", tones.tint},
-                                   {"window", tones.window},
-                                   {"base", tones.base},
-                                   {"face", tones.face},
-                                   {"hover", tones.hover},
-                                   {"line", tones.line},
-                                   {"edge", tones.edge},
-                                   {"text", tones.text},
-                                   {"muted", tones.muted},
-                                   {"given", tones.given}}) {
-    set(name, QColor(tone).name());
+  for (const auto& [name, tone] : {std::pair{"accentHover", tone::kAccentHover},
+                                   {"accent", tone::kAccent},
+                                   {"onAccent", tone::kOnAccent},
+                                   {"onTint", tone::kOnTint},
+                                   {"tint", tone::kTint},
+                                   {"window", tone::kWindow},
+                                   {"base", tone::kBase},
+                                   {"face", tone::kFace},
+                                   {"hover", tone::kHover},
+                                   {"line", tone::kLine},
+                                   {"edge", tone::kEdge},
+                                   {"text", tone::kText},
+                                   {"muted", tone::kMuted},
+                                   {"given", tone::kGiven}}) {
+    set(name, ColorOf(tone, scheme).name());
   }
   const double points = QFontInfo(font).pointSizeF();
   set("small", QString::number(points * 0.9));
@@ -175,6 +129,20 @@ QString SheetOf(const Tones& tones, QFont font) {
   return sheet;
 }
 
+Tone ToneOf(Color role) {
+  static const std::map<Color, Tone> tones = {
+      {colors::kBlack, tone::kText},        {colors::kWindowText, tone::kText},
+      {colors::kButtonText, tone::kText},   {colors::kNewsText, tone::kText},
+      {colors::kRed, tone::kRed},           {colors::kGreen, tone::kGreen},
+      {colors::kLightGrey, tone::kGiven},   {colors::kSand, tone::kSand},
+      {colors::kLightSand, tone::kSand},    {colors::kWindowBackground, tone::kBase},
+      {colors::kButtonFace, tone::kWindow}, {colors::kBalanceGround, tone::kComputed},
+      {colors::kNewsLit, tone::kLit},       {colors::kAccent, tone::kAccent},
+      {colors::kSplashBorder, tone::kEdge}};
+  const auto found = tones.find(role);
+  return found == tones.end() ? tone::kMuted : found->second;  // kMuted, kOff
+}
+
 }  // namespace
 
 Scheme DesktopScheme() {
@@ -187,64 +155,32 @@ Scheme DesktopScheme() {
 
 void ApplyTheme(QApplication& app, Scheme scheme) {
   InitResources();
-  const Tones& tones = TonesOf(scheme);
   QApplication::setStyle(new ThemeStyle);  // the application owns it
-  QApplication::setPalette(PaletteOf(tones));
-  app.setStyleSheet(SheetOf(tones, QApplication::font()));
+  QApplication::setPalette(PaletteOf(scheme));
+  app.setStyleSheet(SheetOf(scheme, QApplication::font()));
 }
 
 ListColors ListColorsOf(Scheme scheme) {
-  const Tones& tones = TonesOf(scheme);
-  return {tones.given, tones.accent, tones.tint, tones.accent};
+  return {ColorOf(tone::kGiven, scheme), ColorOf(tone::kAccent, scheme),
+          ColorOf(tone::kTint, scheme), ColorOf(tone::kAccent, scheme)};
 }
 
 QColor UseColor(MoneyBar::Part::Use use, Scheme scheme) {
-  const Tones& tones = TonesOf(scheme);
   switch (use) {
     case MoneyBar::Part::Use::Given:
-      return tones.accent;
+      return ColorOf(tone::kAccent, scheme);
     case MoneyBar::Part::Use::ServiceFees:
-      return tones.service;
+      return ColorOf(tone::kService, scheme);
     case MoneyBar::Part::Use::MethodFee:
-      return tones.method;
+      return ColorOf(tone::kMethod, scheme);
     case MoneyBar::Part::Use::Left:
-      return tones.left;
+      return ColorOf(tone::kLeft, scheme);
   }
   return {};
 }
 
 QColor RoleColor(Color role, Scheme scheme) {
-  const Tones& tones = TonesOf(scheme);
-  switch (role) {
-    case colors::kBlack:
-    case colors::kWindowText:
-    case colors::kButtonText:
-    case colors::kNewsText:
-      return tones.text;
-    case colors::kRed:
-      return tones.red;
-    case colors::kGreen:
-      return tones.green;
-    case colors::kLightGrey:
-      return tones.given;
-    case colors::kSand:
-    case colors::kLightSand:  // the two can hardly be told apart
-      return tones.sand;
-    case colors::kWindowBackground:
-      return tones.base;
-    case colors::kButtonFace:
-      return tones.window;
-    case colors::kBalanceGround:
-      return tones.computed;
-    case colors::kNewsLit:
-      return tones.lit;
-    case colors::kAccent:
-      return tones.accent;
-    case colors::kSplashBorder:
-      return tones.edge;
-    default:  // kMuted, kOff
-      return tones.muted;
-  }
+  return ColorOf(ToneOf(role), scheme);
 }
 
 }  // namespace benevix
