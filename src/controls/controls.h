@@ -41,7 +41,7 @@ struct TextBox : Control {
   TextBox() = default;
   explicit TextBox(std::string tip) : Control(std::move(tip)) {}
 
-  // The program's own writing: what stands in the box is no longer what the user typed.
+  // For the program: the box then no longer holds what the user typed.
   void Write(std::string written) {
     text = std::move(written);
     typed = false;
@@ -215,9 +215,9 @@ enum class MousePointer { Default, Hourglass };
 struct Window {
   std::string caption;
   bool topmost = false;
-  bool closesByEscape = true;  // unless a control of it takes Escape
+  bool closesByEscape = true;  // unless a control has the shortcut Escape
   MousePointer mousePointer = MousePointer::Default;
-  int left = 0, top = 0;  // twips; where both are 0 the window system places it
+  int left = 0, top = 0;  // twips; 0, 0 leaves the place to the toolkit
 };
 
 using AnyControl =

@@ -32,7 +32,7 @@ class Desk {
 
   explicit Desk(const EventTable& events) : events_(events) {}
 
-  // Takes a window struct that bears its name as kName. The first one added is the main window.
+  // Adds a window, whose struct gives its name as kName. The first one is the main window.
   template <class W>
   void Add(W& window) {
     Entry& entry = entries_.emplace_back();
@@ -61,7 +61,7 @@ class Desk {
   // Whether the user can work in the window: it is shown, enabled and not below a modal one.
   [[nodiscard]] bool IsUsable(const Window& window) const;
 
-  // Whether the user can work with the control: so can its window, its holders and itself.
+  // Whether the user can work with the control: its window, all that holds it and itself.
   [[nodiscard]] bool IsUsable(const Entry& entry, const Control& control) const;
 
   // The control that has the focus in the window, or null.
@@ -87,7 +87,7 @@ class Desk {
   // The shown windows from the bottom to the top.
   [[nodiscard]] const std::vector<Window*>& Shown() const { return shown_; }
 
-  // What can take the focus by its kind: boxes, buttons, options, combos and lists.
+  // Whether a control of this kind can take the focus.
   [[nodiscard]] static bool TakesFocus(const NamedControl& control);
 
  private:

@@ -25,7 +25,7 @@ void Input::Enter(const std::function<void()>& what) {
   try {
     what();
   } catch (const ProgramEnded&) {
-    // The desk knows.
+    // The desk has recorded the end.
   } catch (const RuntimeError& error) {
     try {
       onError(error);

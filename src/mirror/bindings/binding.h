@@ -15,7 +15,7 @@ struct BindingContext {
   Scheme scheme = Scheme::Light;
   bool runTimers = true;
   bool applying = false;   // the program writes into widgets; what they signal is not the user's
-  QPoint popUpPlace = {};  // where a menu opens that was asked for by its key; null: at the mouse
+  QPoint popUpPlace = {};  // where the next pop-up menu opens; null: at the mouse
 };
 
 // Binds one control to its widget: hands the user's events on, and brings the widget into line with
@@ -24,7 +24,7 @@ class Binding {
  public:
   virtual ~Binding() = default;
   virtual void Apply() = 0;
-  // Null for a control that the toolkit shows by something else than a widget, or not at all.
+  // Null for a timer, which has no widget.
   [[nodiscard]] virtual QWidget* Widget() const = 0;
   // The caption of a control that Alt and a letter can reach, else empty; and that letter.
   [[nodiscard]] virtual QString MnemonicCaption() const { return {}; }

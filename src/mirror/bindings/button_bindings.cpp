@@ -51,7 +51,7 @@ class OptionBinding : public WidgetBinding<OptionButton, QRadioButton> {
     colors_.Apply({}, {{widget_.backgroundRole(), control_.backColor, design}});
     widget_.setAutoFillBackground(control_.backColor != design);
     if (widget_.isChecked() == control_.value) return;
-    // While only one of the group can be chosen, the chosen one could not be taken back.
+    // An exclusive button that is checked could not be unchecked.
     widget_.setAutoExclusive(false);
     widget_.setChecked(control_.value);
     widget_.setAutoExclusive(true);

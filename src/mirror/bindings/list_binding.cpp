@@ -28,11 +28,11 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
     LayOutColumns(view, list);
     QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
                      [this](const QModelIndex& current) {
-                       // What the mouse chooses counts when it is released.
+                       // The mouse chooses a row at its release.
                        if (context_.applying || pressed_ || !current.isValid()) return;
-                       // With the focus the view takes a current row that the user did not choose.
+                       // When it gets the focus the view makes a row current without a choice.
                        if (!widget_.selectionModel()->isSelected(current)) return;
-                       SelectRow(current.row() + 1, MouseButton::Left);
+                       SelectRowByKey(current.row() + 1, MouseButton::Left);
                      });
   }
 
@@ -58,8 +58,7 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
     }
   }
 
-  // By a key.
-  void SelectRow(int row, MouseButton button) {
+  void SelectRowByKey(int row, MouseButton button) {
     context_.input.SelectRow(control_, row, button, true);
   }
 
@@ -96,7 +95,7 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
     if ((key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != 0) return false;
     // The view's own Home and End move within a row.
     if (key.key() == Qt::Key_Home || key.key() == Qt::Key_End) {
-      SelectRow(key.key() == Qt::Key_Home ? 1 : control_.Count(), MouseButton::Left);
+      SelectRowByKey(key.key() == Qt::Key_Home ? 1 : control_.Count(), MouseButton::Left);
       return true;
     }
     // At a letter the view would look through all its rows; the program has a search of its own.
@@ -106,11 +105,11 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
     return true;
   }
 
-  // The right mouse button on the selected row, by a key.
+  // As the right mouse button on the selected row does.
   void OpenMenu() {
     const QRect row = widget_.visualRect(widget_.currentIndex());
     context_.popUpPlace = widget_.viewport()->mapToGlobal(row.bottomLeft());
-    SelectRow(control_.selected, MouseButton::Right);
+    SelectRowByKey(control_.selected, MouseButton::Right);
     context_.popUpPlace = {};
   }
 

@@ -12,7 +12,7 @@ namespace benevix {
 // theirs, or else any of theirs that is free. Null for a caption without a free letter.
 [[nodiscard]] std::vector<QChar> Mnemonics(const QStringList& captions);
 
-// The caption with the mark before that letter, where it begins a word if it does.
+// The caption with "&" before that letter: where it begins a word, or else at its first place.
 [[nodiscard]] QString WithMnemonic(QString caption, QChar letter);
 
 // The caption of a label that leads to no box, without its mark, which can only be its first

@@ -55,7 +55,7 @@ class TextBoxBinding : public WidgetBinding<TextBox, QLineEdit> {
 
   void SelectAll() {
     widget_.selectAll();
-    // While the mouse is pressed, the press that gave the focus still places the caret afterwards.
+    // The press of the mouse that gave the focus places the caret only after this.
     if (QGuiApplication::mouseButtons() != Qt::NoButton) {
       QTimer::singleShot(0, &widget_, &QLineEdit::selectAll);
     }
@@ -65,7 +65,7 @@ class TextBoxBinding : public WidgetBinding<TextBox, QLineEdit> {
   int selections_;
 };
 
-// A box of several lines, which end with CR LF in the struct.
+// A box of several lines. In the struct they end with CR LF.
 class MultiLineBinding : public WidgetBinding<TextBox, QPlainTextEdit> {
  public:
   MultiLineBinding(TextBox& box, QPlainTextEdit& edit, BindingContext& context)

@@ -5,7 +5,7 @@
 namespace benevix {
 
 void ApplyCommon(const Control& control, QWidget& widget) {
-  // Of itself: one whose frame is disabled stays enabled.
+  // The widget's own state, whatever that of its frame is.
   if (widget.isEnabledTo(widget.parentWidget()) != control.enabled) {
     widget.setEnabled(control.enabled);
   }
