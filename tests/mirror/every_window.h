@@ -4,14 +4,14 @@
 #include <QTest>
 
 #include "../list_of_a_test.h"
+#include "forms/forms.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
-#include "program/program.h"
 
 namespace benevix {
 
-// All windows of the program on the screen at once, each with everything in it shown and enabled,
-// and with texts where the program would write some.
+// All windows of the program shown at once, with all controls visible and enabled, and with texts
+// in the controls that the program would fill.
 class EveryWindow {
  public:
   explicit EveryWindow(Scheme scheme) : mirror(scheme, Mirror::Timers::Hold) {
