@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QTest>
 
-#include "../list_of_a_test.h"
+#include "../sample_list.h"
 #include "forms/forms.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
@@ -19,7 +19,7 @@ class EveryWindow {
     forms.ForEach([this](auto& form) { desk.Add(form); });
     mirror.Attach(desk, input);
     input.Enter([this] {
-      forms.Get<frmBVX>().ListView1.SetRows(std::make_shared<RowsOfATest>());
+      forms.Get<frmBVX>().ListView1.SetRows(std::make_shared<SampleRows>());
       for (Desk::Entry& entry : desk.Entries()) {
         for (const NamedControl& control : entry.controls) Open(control);
         desk.Show(*entry.window);

@@ -9,7 +9,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "../list_of_a_test.h"
+#include "../sample_list.h"
 #include "controls/desk.h"
 #include "controls/input.h"
 #include "core/wait_notice.h"
@@ -140,7 +140,7 @@ TEST_F(MirrorTest, ShortcutsWorkWhereTheirControlCanBeUsed) {
 
 TEST_F(MirrorTest, TheFocusAloneChoosesNoRow) {
   auto& view = Widget<QTableView>(main.ListView1);
-  input.Enter([this] { main.ListView1.SetRows(std::make_shared<RowsOfATest>()); });
+  input.Enter([this] { main.ListView1.SetRows(std::make_shared<SampleRows>()); });
   view.setFocus(Qt::TabFocusReason);
   ASSERT_TRUE(view.hasFocus());
   EXPECT_EQ(main.ListView1.selected, 0);
