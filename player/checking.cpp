@@ -5,11 +5,10 @@
 #include <fstream>
 #include <iterator>
 
-#include "player/line_kinds.h"
-#include "player/routines.h"
+#include "player/paths.h"
+#include "player/properties.h"
+#include "player/script.h"
 #include "player/stage.h"
-#include "player/targets.h"
-#include "player/values.h"
 #include "player/words.h"
 
 namespace benevix {
@@ -191,16 +190,6 @@ void Started(Stage& stage, const Texts& words) {
   Want(started, "the start of " + Quoted(words[0]), names.empty() ? "none" : InOneLine(names));
 }
 
-// --- routines
-
-void Call(Stage& stage, const Texts& words) {
-  const Texts arguments(words.begin() + 1, words.end() - 2);
-  const std::string& expected = words.back();
-  const auto result = CallRoutine(stage, words[0], arguments);
-  Want(result ? *result == expected : expected == "error", words[0] + " = " + Quoted(expected),
-       result ? Quoted(*result) : "an error");
-}
-
 }  // namespace
 
 const std::vector<LineKind>& CheckingLines() {
@@ -232,7 +221,7 @@ const std::vector<LineKind>& CheckingLines() {
          [](Stage& stage, const Texts&) {
            Want(stage.Runs(), "the program to be running", "one that is not");
          }},
-        {"call ROUTINE ARG... = TEXT", Call},
+        {"call ROUTINE ARG... = TEXT", CallRoutine},
     };
     for (LineKind& line : lines) line.checks = true;
     return lines;

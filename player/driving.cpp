@@ -1,9 +1,9 @@
 // The lines that drive the program.
 
-#include "player/line_kinds.h"
-#include "player/numbers.h"
+#include "player/paths.h"
+#include "player/script.h"
 #include "player/stage.h"
-#include "player/targets.h"
+#include "player/words.h"
 
 namespace benevix {
 namespace {
@@ -12,10 +12,10 @@ using Texts = std::vector<std::string>;
 
 // Lets the front end do something with the control that a path names.
 template <class F>
-void Do(Stage& stage, const std::string& path, F&& deed) {
+void Do(Stage& stage, const std::string& path, F&& action) {
   Program& program = stage.TheProgram();
   const Target target = FindControl(program, path);
-  if (!deed(stage.TheFrontEnd(), target)) throw CannotBeDone(WhyNot(program, target));
+  if (!action(stage.TheFrontEnd(), target)) throw CannotBeDone(WhyNot(program, target));
 }
 
 void Click(Stage& stage, const Texts& words) {

@@ -1,4 +1,4 @@
-#include "player/routines.h"
+// The routines of the program that a script can call.
 
 #include <algorithm>
 #include <charconv>
@@ -11,9 +11,9 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "core/shell_helpers.h"
-#include "player/line_kinds.h"
-#include "player/numbers.h"
+#include "player/script.h"
 #include "player/stage.h"
+#include "player/words.h"
 #include "program/start_up.h"
 #include "session/hints.h"
 
@@ -155,19 +155,22 @@ const std::map<std::string, Routine>& Routines() {
 
 }  // namespace
 
-std::optional<std::string> CallRoutine(Stage& stage, const std::string& routine,
-                                       const Texts& arguments) {
-  const auto found = Routines().find(routine);
-  if (found == Routines().end()) throw CannotBeDone("there is no routine " + routine);
-  if (found->second.arguments != arguments.size()) {
-    throw CannotBeDone(routine + " takes " + std::to_string(found->second.arguments) +
-                       " arguments");
+void CallRoutine(Stage& stage, const Texts& words) {
+  const auto found = Routines().find(words[0]);
+  if (found == Routines().end()) throw CannotBeDone("there is no routine " + words[0]);
+  const Routine& routine = found->second;
+  const Texts arguments(words.begin() + 1, words.end() - 2);
+  if (arguments.size() != routine.arguments) {
+    throw CannotBeDone(words[0] + " takes " + std::to_string(routine.arguments) + " arguments");
   }
+  std::optional<std::string> result;  // nothing when it raises an error
   try {
-    return found->second.call(stage, arguments);
+    result = routine.call(stage, arguments);
   } catch (const RuntimeError&) {
-    return std::nullopt;
   }
+  const std::string& expected = words.back();
+  if (result ? *result == expected : expected == "error") return;
+  throw Mismatch{words[0] + " = " + Quoted(expected), result ? Quoted(*result) : "an error"};
 }
 
 }  // namespace benevix

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "player/play_file.h"
+#include "player/player.h"
 
 namespace benevix {
 namespace {

@@ -5,9 +5,9 @@
 
 #include "core/codec.h"
 #include "people/contact_information.h"
-#include "player/line_kinds.h"
-#include "player/numbers.h"
+#include "player/script.h"
 #include "player/stage.h"
+#include "player/words.h"
 
 namespace benevix {
 namespace {

@@ -1,6 +1,6 @@
 #include "player/stage.h"
 
-#include "player/line_kinds.h"
+#include "player/script.h"
 
 namespace benevix {
 

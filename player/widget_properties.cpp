@@ -12,7 +12,6 @@
 #include <QTableView>
 
 #include "mirror/look/texts.h"
-#include "player/path.h"
 #include "player/properties.h"
 
 namespace benevix {
@@ -49,20 +48,16 @@ Text ReadAction(const QAction& action, const std::string& property, const Text& 
 Text ReadList(const QTableView& view, const std::string& property, const Text& fromStruct) {
   if (property == "Count") return std::to_string(view.model()->rowCount());
   if (property == "Selected") return std::to_string(view.currentIndex().row() + 1);
-  if (property.rfind("Row(", 0) != 0 || !fromStruct) return fromStruct;
-  const auto parts = PathParts(property);
-  const int row = parts.at(0).index;
-  const int column = parts.at(1).name == "Text" ? 0 : parts.at(1).index;
-  return Shown(view.model()->index(row - 1, column).data().toString());
+  const auto cell = CellIn(property);
+  if (!cell) return fromStruct;
+  return Shown(view.model()->index(cell->row - 1, cell->column).data().toString());
 }
 
 Text ReadCombo(const QComboBox& combo, const std::string& property, const Text& fromStruct) {
   if (property == "Text") return Shown(combo.currentText());
   if (property == "Count") return std::to_string(combo.count());
-  if (property.rfind("List(", 0) == 0 && fromStruct) {
-    return Shown(combo.itemText(PathParts(property).at(0).index));
-  }
-  return fromStruct;
+  const auto index = IndexIn(property, "List");
+  return index ? Shown(combo.itemText(*index)) : fromStruct;
 }
 
 Text ReadWidget(const QWidget& widget, const std::string& property, const Text& fromStruct) {

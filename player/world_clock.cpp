@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdio>
 
-#include "player/numbers.h"
+#include "player/words.h"
 
 namespace benevix {
 namespace {

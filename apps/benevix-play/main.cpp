@@ -7,10 +7,8 @@
 #include <memory>
 #include <optional>
 
-#include "player/logic_front_end.h"
-#include "player/play_file.h"
+#include "player/player.h"
 #include "player/run_files.h"
-#include "player/windows_front_end.h"
 
 namespace benevix {
 namespace {
@@ -78,7 +76,7 @@ FrontEndMaker MakerOf(const Options& options) {
       return MakeWindowsFrontEnd(answers, shots);
     };
   }
-  return [](BoxAnswers& answers) { return std::make_unique<LogicFrontEnd>(answers); };
+  return MakeLogicFrontEnd;
 }
 
 int Main(int count, char** arguments) {
