@@ -1,6 +1,7 @@
 #include "loopback/loopback_server.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstring>
 #include <limits>
 #include <optional>
@@ -100,6 +101,18 @@ int LoopbackServer::Bind(int port) {
   }
   address_ = "http://" + std::string(loopback) + ":" + std::to_string(port) + "/";
   return port;
+}
+
+void LoopbackServer::Start() {
+  serving_ = std::thread([this] { listen_after_bind(); });
+  // A stop before the server runs would be lost.
+  while (!is_running()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+}
+
+void LoopbackServer::Stop() {
+  if (!serving_.joinable()) return;
+  stop();
+  serving_.join();
 }
 
 // Browsers open connections in advance; the short steps let a stop end the wait for them.
