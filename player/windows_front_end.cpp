@@ -218,7 +218,7 @@ class WindowsFrontEnd : public FrontEnd {
 
   std::optional<std::string> Read(const Target& target, const std::string& property) override {
     return ReadWidgetProperty(*program_, mirror_.BindingOf(*target.window->window), target,
-                              property);
+                              property, scheme_);
   }
 
   MessageBoxes& Boxes() override { return boxes_; }
