@@ -59,4 +59,7 @@ std::unique_ptr<FrontEnd> MakeLogicFrontEnd(BoxAnswers& answers);
 // `shots` is the folder for pictures, empty for none.
 std::unique_ptr<FrontEnd> MakeWindowsFrontEnd(BoxAnswers& answers, const std::string& shots);
 
+// Whether the environment names a display; without one, windows can be drawn off the screen.
+bool IsDisplayNamed();
+
 }  // namespace benevix

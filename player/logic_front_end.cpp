@@ -34,7 +34,7 @@ std::vector<std::string> KeysOf(const std::string& text) {
   return typed;
 }
 
-// Nothing stands still for a wait; that there was one matters.
+// Counts the waits: a key press that a wait follows is not answered by its release.
 class CountedWaits : public Waits {
  public:
   void Begin() override { ++count; }
@@ -126,8 +126,7 @@ class LogicFrontEnd : public FrontEnd {
   bool Tick(const Target& target, int times) override {
     auto* const timer = target.control->As<Timer>();
     if (!timer || !target.window->loaded || program_->TheDesk().Ended()) return false;
-    for (int i = 0; i < times && User().Tick(*timer); ++i) {
-    }
+    while (times-- > 0 && User().Tick(*timer)) continue;
     return true;
   }
 

@@ -1,6 +1,7 @@
 #include "player/player.h"
 
 #include <chrono>
+#include <clocale>
 #include <condition_variable>
 #include <cstdlib>
 #include <exception>
@@ -9,8 +10,8 @@
 #include <thread>
 
 #include "base/text.h"
+#include "player/program_runner.h"
 #include "player/script.h"
-#include "player/stage.h"
 #include "player/words.h"
 
 namespace benevix {
@@ -75,11 +76,11 @@ std::string Shown(const ScriptLine& line) {
   return text;
 }
 
-void PlayLine(const ScriptLine& line, Stage& stage, Report& report) {
+void PlayLine(const ScriptLine& line, ProgramRunner& runner, Report& report) {
   std::vector<std::string> words;
-  for (const std::string& word : line.words) words.push_back(stage.TheWorld().Fill(word));
+  for (const std::string& word : line.words) words.push_back(runner.TheWorld().Fill(word));
   try {
-    line.kind->run(stage, words);
+    line.kind->run(runner, words);
     if (line.kind->checks) report.Pass();
   } catch (const Mismatch& mismatch) {
     report.Fail(mismatch.expected, mismatch.got);
@@ -92,17 +93,19 @@ void PlayInWorld(const std::vector<ScriptLine>& script, const FrontEndMaker& mak
                  Report& report) {
   World world;
   const std::unique_ptr<FrontEnd> frontEnd = makeFrontEnd(world.boxes);
-  Stage stage(world, *frontEnd);
+  ProgramRunner runner(world, *frontEnd);
   for (const ScriptLine& line : script) {
     report.At(line.number);
-    PlayLine(line, stage, report);
-    stage.AfterLine();
+    PlayLine(line, runner, report);
+    runner.AfterLine();
   }
 }
 
 }  // namespace
 
 int PlayFile(const std::string& file, const FrontEndMaker& makeFrontEnd) {
+  // The toolkit sets the user's locale, in which a number may have a comma.
+  std::setlocale(LC_NUMERIC, "C");
   Report report(file);
   try {
     const std::vector<ScriptLine> script = ReadScript(file);

@@ -7,7 +7,7 @@
 
 namespace benevix {
 
-class Stage;
+class ProgramRunner;
 
 // A line that cannot be done; says why.
 class CannotBeDone : public std::runtime_error {
@@ -28,7 +28,7 @@ struct LineKind {
   // upper-case word takes any text.
   std::string_view form;
   // Takes the words behind the command, {...} filled in. Raises CannotBeDone, Mismatch.
-  void (*run)(Stage& stage, const std::vector<std::string>& words);
+  void (*run)(ProgramRunner& runner, const std::vector<std::string>& words);
   // The lines that follow up to a lone "." are its last word.
   bool hasBody = false;
   bool checks = false;
@@ -39,7 +39,7 @@ const std::vector<LineKind>& DrivingLines();
 const std::vector<LineKind>& CheckingLines();
 
 // The line "call": takes the routine, its arguments, "=" and the result.
-void CallRoutine(Stage& stage, const std::vector<std::string>& words);
+void CallRoutine(ProgramRunner& runner, const std::vector<std::string>& words);
 
 struct ScriptLine {
   int number = 0;  // from 1

@@ -48,7 +48,7 @@ Text DrawnColor(const QColor& drawn, const QColor& theme, Color color) {
   return ColorText(blue << 16 | green << 8 | red);
 }
 
-// What the theme draws while nobody has coloured the text.
+// What the theme draws for a text that the mirror has not coloured.
 QColor ThemeText(const QWidget& widget) {
   QLabel plain;
   plain.setProperty("look", widget.property("look"));
@@ -62,18 +62,19 @@ QColor ThemeBox(const QWidget& widget) {
   return QApplication::palette().color(group, QPalette::Base);
 }
 
-// A colour of the design leaves the theme's; so does every colour of a disabled text.
+// The mirror leaves the theme's colour where the struct has its design's, and on disabled texts.
 QColor WantedText(const QWidget& widget, Color color, Color design, Scheme scheme) {
   const bool themes = color == design || !widget.isEnabled();
   return themes ? ThemeText(widget) : RoleColor(color, scheme);
 }
 
-// A style sheet may colour a label past its palette, so its letters are looked at.
+// A style sheet colours a label without a trace in its palette, so the drawn letters decide.
 Text OfLabel(const Label& label, QWidget& widget, Scheme scheme) {
   const auto drawn = ColorsIn(Picture(widget));
   if (drawn.empty()) return std::nullopt;
   const QColor wanted = WantedText(widget, label.foreColor, Label().foreColor, scheme);
-  const bool lit = widget.underMouse() && label.foreColor == Label().foreColor;  // a link
+  // The style sheet has another colour for a link under the mouse.
+  const bool lit = widget.underMouse() && label.foreColor == Label().foreColor;
   if (lit || drawn.count(wanted.rgb()) != 0) return ColorText(label.foreColor);
   const auto most = std::max_element(
       drawn.begin(), drawn.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
@@ -93,7 +94,7 @@ Text OfBox(const TextBox& box, QWidget& widget, const std::string& property, Sch
                     themes ? ThemeBox(widget) : RoleColor(box.backColor, scheme), box.backColor);
 }
 
-// Without a colour of its own it shows what it stands on.
+// In the design's colour it draws no background.
 Text OfOption(const OptionButton& option, QWidget& widget, Scheme scheme) {
   const bool themes = option.backColor == OptionButton().backColor;
   const QPointF besideText(widget.width() - 1.0, 1);

@@ -2,12 +2,11 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTest>
+#include <algorithm>
 
 #include "mirror/look/texts.h"
 #include "mirror/mirror/mirror.h"
@@ -280,6 +279,10 @@ class WindowsFrontEnd : public FrontEnd {
 
 std::unique_ptr<FrontEnd> MakeWindowsFrontEnd(BoxAnswers& answers, const std::string& shots) {
   return std::make_unique<WindowsFrontEnd>(answers, shots);
+}
+
+bool IsDisplayNamed() {
+  return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }
 
 }  // namespace benevix

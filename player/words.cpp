@@ -1,5 +1,6 @@
 #include "player/words.h"
 
+#include <algorithm>
 #include <cctype>
 #include <charconv>
 #include <cstdlib>

@@ -68,6 +68,9 @@ class World {
 };
 
 // Whether the addresses are the same but for the kind of their slashes.
-bool SameAddress(std::string a, std::string b);
+bool SameAddress(const std::string& a, const std::string& b);
+
+// The deployment values of a program whose services are all on the site of this base address.
+Deployment DeploymentOn(const std::string& site);
 
 }  // namespace benevix

@@ -93,7 +93,7 @@ class RecordingPrinter : public Printer {
   Recorded<std::string> lines;
 };
 
-// The real one on folders of its own, but it starts nothing.
+// The real shell on folders of its own; programs are recorded in place of being started.
 class RecordingShell : public LinuxShell {
  public:
   RecordingShell(std::string programs, std::string desktop)

@@ -75,7 +75,7 @@ ScriptedAnswer WorldSite::AnswerTo(const std::string& target) {
   const std::lock_guard lock(mutex_);
   const std::string wanted = target.substr(target.starts_with('/') ? 1 : 0);
   const ScriptedAnswer* longest = nullptr;
-  // A longer beginning stands behind a shorter one.
+  // In the map's order a longer beginning comes after a shorter one.
   for (const auto& [beginning, answer] : answers_) {
     if (wanted.starts_with(beginning)) longest = &answer;
   }

@@ -17,7 +17,8 @@ struct ScriptedAnswer {
   std::string text;
 };
 
-// The server of a world, on a thread of its own. What it was not told of is 404 with an HTML page.
+// The server of a world, on a thread of its own. A target without an answer is 404 with an HTML
+// page.
 class WorldSite {
  public:
   WorldSite();

@@ -104,7 +104,7 @@ void Demonstration::Give(int row, const std::string& amount) {
   Must(frontEnd_->Type(FindControl(program_, kDonationBox), amount), "a donation is typed");
   Must(frontEnd_->Press(FindControl(program_, kDonationBox), kEnterKey), "Enter is pressed");
   const QString given = Shown(CellPath(row, column::kAmount));
-  Must(given.toDouble() == std::stod(amount), "the list shows the amount");
+  Must(given.toDouble() == ToQString(amount).toDouble(), "the list shows the amount");
   Tell("Given $" + given + " to " + name + " (" + Shown(CellPath(row, column::kType)) + ")");
   TellMore("service fee $" + Shown(CellPath(row, column::kFee)) + "; Balance $" +
            Shown(kBalanceBox + ".Text"));
@@ -118,7 +118,7 @@ void Demonstration::FinalizeSession() {
   Must(address.startsWith(site_.Address() + "xclick/business="), "the page is the payment's");
   Tell("Finalized: transaction " + Field(address, "item_number"));
   TellMore("to be paid: $" + Field(address, "amount") + " to " + Field(address, "business"));
-  // Nobody but the page viewer asks for it.
+  // Only the page viewer asks for it.
   Must(WaitUntil([this] {
          const QStringList asked = site_.Log().filter(QStringLiteral("GET /xclick/business="));
          return !asked.filter(QStringLiteral(" 200 ")).isEmpty();

@@ -31,10 +31,10 @@ class Demonstration {
   void ShowHistory();
   void Leave();
 
-  // Prints a step of the story, or a line that belongs to it.
+  // Prints a numbered step, or a line that belongs to it.
   void Tell(const QString& step);
   static void TellMore(const QString& line);
-  // Fails unless it is so; a message box that nobody expects fails too.
+  // Raises RuntimeError unless it is done, and when a message box was shown.
   void Must(bool done, const QString& what);
   void Click(const std::string& path);
   // What a property shows; see the front end.
