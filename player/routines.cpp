@@ -10,11 +10,11 @@
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "core/run_values.h"
 #include "core/shell_helpers.h"
 #include "player/program_runner.h"
 #include "player/script.h"
 #include "player/words.h"
-#include "program/start_up.h"
 #include "session/hints.h"
 
 namespace benevix {

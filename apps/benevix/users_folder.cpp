@@ -5,6 +5,7 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "database/organization_database.h"
+#include "platform/linux/linux_files.h"
 
 namespace benevix {
 namespace {
@@ -14,7 +15,7 @@ namespace fs = std::filesystem;
 // A list that cannot be read or carries no version is older than any that does.
 float VersionOf(const fs::path& list) {
   try {
-    return ListFileVersion(list.string()).value_or(0);
+    return ListFileVersion(LinuxFiles(), list.string()).value_or(0);
   } catch (const RuntimeError&) {
     return 0;
   }

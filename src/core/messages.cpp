@@ -24,14 +24,17 @@ const char* KindWord(std::uint8_t kind) {
 
 void Messages::ShowMessage(std::uint8_t number, std::uint8_t kind, std::string& extra) {
   const std::string text = Text(number, extra);
-  if (number == 13) extra.clear();
-  Show(info_.deployment.product + " - " + KindWord(kind) + extra, text, BoxIcon::Information,
-       BoxButtons::OK);
+  if (number == message::kMaximumDonation) extra.clear();
+  Show(Title(kind) + extra, text, BoxIcon::Information, BoxButtons::OK);
 }
 
 void Messages::ShowMessage(std::uint8_t number, std::uint8_t kind) {
   std::string extra;
   ShowMessage(number, kind, extra);
+}
+
+std::string Messages::Title(std::uint8_t kind) const {
+  return info_.deployment.product + " - " + KindWord(kind);
 }
 
 BoxAnswer Messages::Show(const std::string& text, BoxIcon icon, BoxButtons buttons) {
@@ -53,7 +56,7 @@ std::string Messages::Text(std::uint8_t number, const std::string& extra) const 
       return "Update downloaded successfuly";
     case message::kNoWebService:
       return "This organization does not have a web service";
-    case 7:
+    case message::kAbout:
       return AboutText();
     case message::kServerBusy:
       return "The server may be busy or no Internet connection is present. Please try again later";
@@ -65,8 +68,8 @@ std::string Messages::Text(std::uint8_t number, const std::string& extra) const 
       return "This service is unavailable at this time. Please try again later";
     case message::kNoticeSent:
       return "Notice sent. Thank you";
-    case 13:
-      return "With the present options the maximum donation is: $" + extra + "   ";
+    case message::kMaximumDonation:
+      return kMaximumDonationText + extra + "   ";
     case message::kLocalListNewer:
       return "Your local database seems to be newer than the one at our server and that is not "
              "possible.\r\nWe sugest you to reinstall the software after checking for viruses.\r\n"

@@ -26,7 +26,8 @@ class Messages {
   BoxAnswer Show(const std::string& title, const std::string& text, BoxIcon icon,
                  BoxButtons buttons);
 
-  [[nodiscard]] const std::string& Product() const { return info_.deployment.product; }
+  // The title of a message of this kind: the product's name and the kind's word.
+  [[nodiscard]] std::string Title(std::uint8_t kind) const;
 
  private:
   [[nodiscard]] std::string Text(std::uint8_t number, const std::string& extra) const;
@@ -37,18 +38,24 @@ class Messages {
   const RunValues& run_;
 };
 
-// The numbers and kinds that the program's rooms ask for.
+// The numbers and kinds that the program uses.
 namespace message {
 inline constexpr std::uint8_t kNoServer = 1;
 inline constexpr std::uint8_t kNoUpdates = 2;
 inline constexpr std::uint8_t kUpdateDownloaded = 3;
 inline constexpr std::uint8_t kNoWebService = 6;
+inline constexpr std::uint8_t kAbout = 7;
 inline constexpr std::uint8_t kServerBusy = 8;
 inline constexpr std::uint8_t kMailFailed = 10;
 inline constexpr std::uint8_t kServiceUnavailable = 11;
 inline constexpr std::uint8_t kNoticeSent = 12;
+inline constexpr std::uint8_t kMaximumDonation = 13;
 inline constexpr std::uint8_t kLocalListNewer = 14;
 }  // namespace message
+
+// How message 13 begins, and the question that is asked in its place; the amount follows.
+inline constexpr const char* kMaximumDonationText =
+    "With the present options the maximum donation is: $";
 
 namespace message_kind {
 inline constexpr std::uint8_t kNone = 0;

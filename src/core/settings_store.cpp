@@ -1,7 +1,6 @@
 #include "core/settings_store.h"
 
 #include "base/number_text.h"
-#include "base/runtime_error.h"
 
 namespace benevix {
 

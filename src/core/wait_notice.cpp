@@ -4,13 +4,13 @@
 
 namespace benevix {
 
-WaitNotice::WaitNotice(frmWait& window, Desk& desk, Waits& waits)
-    : window_(window), desk_(desk), waits_(waits) {
-  desk_.Load(window_);
-  window_.caption = "Contacting Remote Server";
-  window_.Label2.caption = "Retrieving Information. Please wait...";
-  window_.ProgressBar1 = ProgressBar();
-  desk_.Show(window_);
+WaitNotice::WaitNotice(const WaitWindow& window) : window_(window) {
+  frmWait& form = window_.form;
+  window_.desk.Load(form);
+  form.caption = "Contacting Remote Server";
+  form.Label2.caption = frmWait().Label2.caption;
+  form.ProgressBar1 = ProgressBar();
+  window_.desk.Show(form);
 }
 
 std::function<void(std::size_t received, std::size_t total)> WaitNotice::Progress() {
@@ -20,13 +20,13 @@ std::function<void(std::size_t received, std::size_t total)> WaitNotice::Progres
 void WaitNotice::Move(std::size_t received, std::size_t total) {
   constexpr int whole = 100;
   if (total == 0) return;
-  ProgressBar& bar = window_.ProgressBar1;
+  ProgressBar& bar = window_.form.ProgressBar1;
   const auto value = static_cast<int>(static_cast<double>(std::min(received, total)) /
                                       static_cast<double>(total) * whole);
   if (bar.max == whole && bar.value == value) return;
   bar.max = whole;
   bar.value = value;
-  const WaitScope seen(waits_);  // the windows are brought into line
+  const WaitScope seen(window_.waits);  // the windows are brought into line
 }
 
 }  // namespace benevix

@@ -9,11 +9,18 @@
 
 namespace benevix {
 
-// The please-wait window while a long request runs; it goes with this object.
+// The please-wait window, and what brings it to the screen.
+struct WaitWindow {
+  frmWait& form;
+  Desk& desk;
+  Waits& waits;
+};
+
+// Shows the please-wait window while a long request runs; it goes with this object.
 class WaitNotice {
  public:
-  WaitNotice(frmWait& window, Desk& desk, Waits& waits);
-  ~WaitNotice() { desk_.Unload(window_); }
+  explicit WaitNotice(const WaitWindow& window);
+  ~WaitNotice() { window_.desk.Unload(window_.form); }
   WaitNotice(const WaitNotice&) = delete;
   WaitNotice& operator=(const WaitNotice&) = delete;
 
@@ -23,9 +30,7 @@ class WaitNotice {
  private:
   void Move(std::size_t received, std::size_t total);
 
-  frmWait& window_;
-  Desk& desk_;
-  Waits& waits_;
+  WaitWindow window_;
 };
 
 }  // namespace benevix

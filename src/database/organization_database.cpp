@@ -1,35 +1,33 @@
 #include "database/organization_database.h"
 
 #include <charconv>
-#include <fstream>
 #include <unordered_map>
 
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
-#include "platform/files.h"
+#include "platform/line_reader.h"
 
 namespace benevix {
 
 void OrganizationDatabase::LoadOrganizationList() {
   list_.reset();  // before the new one is read, so that there are never two
-  list_ = std::make_shared<const OrganizationList>(file_);
+  list_ = std::make_shared<const OrganizationList>(*files_.Open(file_));
   main_.ListView1.SetRows(list_);
   if (list_->Version()) run_.DBVersion = *list_->Version();
   if (!list_->Damage().empty()) throw RuntimeError(FromUtf8(file_) + ": " + list_->Damage());
 }
 
-std::optional<float> ListFileVersion(const std::string& file) {
-  std::ifstream in(PathOf(file), std::ios::binary);
-  if (!in) throw RuntimeError(FromUtf8(file) + ": cannot be read");
-  for (std::string line; std::getline(in, line);) {
-    if (const auto version = HeaderVersion(line)) return version;
+std::optional<float> ListFileVersion(const Files& files, const std::string& file) {
+  LineReader lines(files.Open(file));
+  while (const auto line = lines.Next()) {
+    if (const auto version = HeaderVersion(*line)) return version;
   }
   return std::nullopt;
 }
 
 void OrganizationDatabase::ReadListVersion() {
-  if (const auto version = ListFileVersion(file_)) {
+  if (const auto version = ListFileVersion(files_, file_)) {
     run_.DBVersion = *version;
   } else {
     settings_.SaveUserString("BVXDB", SingleToText(run_.DBVersion));

@@ -15,13 +15,14 @@ namespace benevix {
 
 // The version in a list file's first header line; nothing without one. Raises RuntimeError when the
 // file cannot be read or the number is beyond a single.
-std::optional<float> ListFileVersion(const std::string& file);
+std::optional<float> ListFileVersion(const Files& files, const std::string& file);
 
 // The installed organization list, its version and the countries menu.
 class OrganizationDatabase {
  public:
-  OrganizationDatabase(frmBVX& main, RunValues& run, SettingsStore& settings, std::string file)
-      : main_(main), run_(run), settings_(settings), file_(std::move(file)) {}
+  OrganizationDatabase(frmBVX& main, RunValues& run, SettingsStore& settings, const Files& files,
+                       std::string file)
+      : main_(main), run_(run), settings_(settings), files_(files), file_(std::move(file)) {}
 
   // Puts the file's rows into ListView1; DBVersion is that of the last header line. Raises
   // RuntimeError when the file cannot be read, and after the rows so far when a line is bad.
@@ -45,6 +46,7 @@ class OrganizationDatabase {
   frmBVX& main_;
   RunValues& run_;
   SettingsStore& settings_;
+  const Files& files_;
   std::string file_;
   std::shared_ptr<const OrganizationList> list_;
 };

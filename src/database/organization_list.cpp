@@ -1,9 +1,7 @@
 #include "database/organization_list.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cmath>
-#include <cstdio>
 #include <cstring>
 #include <limits>
 
@@ -11,7 +9,6 @@
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
-#include "platform/files.h"
 
 namespace benevix {
 namespace {
@@ -22,11 +19,6 @@ constexpr std::size_t kNameBegin = 9;
 constexpr std::size_t kPiece = std::size_t{256} << 10;
 // Few lines are shorter; memory that is not touched costs nothing.
 constexpr std::size_t kShortLine = 32;
-
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
 
 std::string_view WithoutReturn(std::string_view line) {
   if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
@@ -59,17 +51,12 @@ std::optional<float> HeaderVersion(std::string_view line) {
   return ToSingle(Val(line.substr(kListHeader.size())));
 }
 
-OrganizationList::OrganizationList(const std::string& path) {
-  std::error_code failure;
-  const auto size = std::filesystem::file_size(PathOf(path), failure);
-  const OpenFile file(failure ? nullptr : std::fopen(path.c_str(), "rb"));
-  const auto fail = [&](const std::string& reason) {
-    throw RuntimeError(FromUtf8(path + ": " + reason));
-  };
-  if (!file) fail(std::strerror(failure ? failure.value() : errno));
-  if (size > std::numeric_limits<std::uint32_t>::max()) fail("too large");
-  std::setbuf(file.get(), nullptr);
-
+OrganizationList::OrganizationList(FileReader& file) {
+  const std::size_t size = file.Size();
+  if (size > std::numeric_limits<std::uint32_t>::max()) {
+    damage_ = "too large";
+    return;
+  }
   bytes_.resize(size);
   begins_.reserve(size / kShortLine);
   LineScan scan;
@@ -81,13 +68,11 @@ OrganizationList::OrganizationList(const std::string& path) {
   bool whole = true;
   std::size_t have = 0;
   while (whole && have < size) {
-    const std::size_t wanted = std::min(kPiece, size - have);
-    const std::size_t got = std::fread(bytes_.data() + have, 1, wanted, file.get());
+    const std::size_t got = file.Read(bytes_.data() + have, std::min(kPiece, size - have));
     if (got == 0) break;
     have += got;
     whole = scan.Advance(bytes_.data(), have, onLine);
   }
-  if (std::ferror(file.get()) != 0) fail("cannot be read");
   bytes_.resize(have);
   if (whole && scan.LineBegin() < have) AddLine(scan.LineBegin(), have, scan.LastComma());
 }

@@ -6,8 +6,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/large_memory.h"
 #include "controls/list_view.h"
-#include "platform/large_memory.h"
+#include "platform/files.h"
 
 namespace benevix {
 
@@ -30,9 +31,9 @@ inline constexpr int kCardFee = 9;
 // 1 to 8, Name from 10 to the comma, Type from two characters behind it.
 class OrganizationList : public RowSource {
  public:
-  // Reads the file. Raises RuntimeError when it cannot be read or is larger than 4 GiB; a bad line
-  // ends the rows before it and is told by Damage().
-  explicit OrganizationList(const std::string& path);
+  // Reads the file. Raises RuntimeError when it cannot be read. A bad line ends the list before it,
+  // and of a file of 4 GiB or more nothing is read; Damage() then says why.
+  explicit OrganizationList(FileReader& file);
 
   [[nodiscard]] int Count() const override { return static_cast<int>(begins_.size()); }
   [[nodiscard]] std::string Text(int row, int column) const override;

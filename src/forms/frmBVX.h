@@ -8,6 +8,29 @@ namespace benevix {
 inline constexpr const char* kNoNews = "No news";
 inline constexpr const char* kNoAmounts = "No amounts";
 
+// Elements of the control arrays.
+namespace money_box {  // Text1
+inline constexpr int kBudget = 0;
+inline constexpr int kBalance = 1;
+inline constexpr int kDonation = 2;
+}  // namespace money_box
+
+namespace donor_option {  // Option1
+inline constexpr int kMyName = 0;
+inline constexpr int kOtherName = 1;
+inline constexpr int kAnonymous = 2;
+}  // namespace donor_option
+
+namespace delivery_option {  // Option2
+inline constexpr int kPool = 0;
+inline constexpr int kStandAlone = 1;
+}  // namespace delivery_option
+
+namespace fee_option {  // Option3
+inline constexpr int kAdd = 0;
+inline constexpr int kDeduct = 1;
+}  // namespace fee_option
+
 // The main window.
 struct frmBVX : Window {
   static constexpr const char* kName = "frmBVX";
@@ -18,10 +41,10 @@ struct frmBVX : Window {
     height = 10800;
     ListView1.columns = {"Country", "Organization", "Type", "Amount", "D.Pool",
                          "From",    "ID",           "",     "Fee",    "CC Fee"};
-    Text1[2].enabled = false;
-    Option1[0].value = true;
-    Option2[0].value = true;
-    Option3[0].value = true;
+    Text1[money_box::kDonation].enabled = false;
+    Option1[donor_option::kMyName].value = true;
+    Option2[delivery_option::kPool].value = true;
+    Option3[fee_option::kAdd].value = true;
     for (OptionButton& option : Option1) option.enabled = false;
     for (OptionButton& option : Option2) option.enabled = false;
     Combo1.enabled = false;

@@ -10,14 +10,11 @@ const std::string kTitle = "Benevix Help";
 }  // namespace
 
 void Help::ShowPage(const std::string& page, const std::string& title) {
-  desk_.Load(viewer_);
   viewer_.ShowPage(FromUtf8(info_.Resource(page)), title);
-  desk_.Show(viewer_);
 }
 
 void Help::qhelp1_Click(int index) {
-  ShowPage("qhelp.html");
-  ShowPage("qhelp.html#" + main_.qhelp1.items[index].caption);
+  ShowPage("qhelp.html#" + main_.qhelp1.items.at(index).caption);
 }
 
 void Help::whatisBtn1_Click() {
@@ -33,15 +30,12 @@ void Help::mnuSubmitList_Click() {
 }
 
 void Help::mnuAbout_Click() {
-  constexpr std::uint8_t about = 7;
   std::string title = "About";
-  messages_.ShowMessage(about, message_kind::kNone, title);
+  messages_.ShowMessage(message::kAbout, message_kind::kNone, title);
 }
 
 void Help::gotoBVXweb_Click() {
-  desk_.Load(viewer_);
   viewer_.ShowPage(info_.deployment.serverBase);
-  desk_.Show(viewer_);
 }
 
 }  // namespace benevix

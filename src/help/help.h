@@ -2,10 +2,9 @@
 
 #include <string>
 
-#include "controls/desk.h"
 #include "core/messages.h"
 #include "forms/frmBVX.h"
-#include "forms/frmInfo.h"
+#include "help/information_viewer.h"
 #include "platform/program_info.h"
 
 namespace benevix {
@@ -13,8 +12,8 @@ namespace benevix {
 // Help pages and the About box.
 class Help {
  public:
-  Help(frmInfo& viewer, frmBVX& main, Desk& desk, Messages& messages, const ProgramInfo& info)
-      : viewer_(viewer), main_(main), desk_(desk), messages_(messages), info_(info) {}
+  Help(InformationViewer& viewer, const frmBVX& main, Messages& messages, const ProgramInfo& info)
+      : viewer_(viewer), main_(main), messages_(messages), info_(info) {}
 
   // A page of the Resources folder, with or without an anchor.
   void ShowPage(const std::string& page, const std::string& title = frmInfo::kTitle);
@@ -28,9 +27,8 @@ class Help {
   void gotoBVXweb_Click();
 
  private:
-  frmInfo& viewer_;
-  frmBVX& main_;
-  Desk& desk_;
+  InformationViewer& viewer_;
+  const frmBVX& main_;
   Messages& messages_;
   const ProgramInfo& info_;
 };

@@ -1,19 +1,54 @@
 #include "help/information_viewer.h"
 
+#include <algorithm>
+
 namespace benevix {
 
+void InformationViewer::ShowPage(const std::string& address, const std::string& title,
+                                 Attention attention) {
+  desk_.Load(window_);
+  window_.caption = title;
+  window_.Picture1.visible = false;
+  window_.wb1.visible = true;
+  window_.wb1.Navigate2(address);
+  desk_.Show(window_, Modality::Modeless, attention);
+}
+
+void InformationViewer::AwaitText() {
+  desk_.Load(window_);
+  window_.Picture1.visible = false;
+  window_.wb1.visible = false;
+  window_.Label3.visible = true;
+  desk_.Show(window_, Modality::Modeless, Attention::KeepsMainDisabled);
+}
+
+void InformationViewer::ShowText(const std::string& text, const std::string& title) {
+  // Until it is drawn, a text is taken to be as high as its lines.
+  constexpr int lineHeight = 195;  // twips
+  constexpr std::ptrdiff_t mostLines = 1'000'000;
+  const auto lines = std::min(1 + std::count(text.begin(), text.end(), '\n'), mostLines);
+  window_.caption = title;
+  window_.Label1.caption = text;
+  window_.Label1.height = std::max(frmInfo::kPanelHeight, static_cast<int>(lines) * lineHeight);
+  window_.Label1.top = window_.VScroll1.value = 0;
+  window_.Picture1.visible = true;
+  desk_.SetFocus(window_.VScroll1);  // so that the arrow keys move the text
+  waits_.DoEvents();                 // the text is measured as it is drawn
+  MeasureText();
+}
+
 void InformationViewer::Form_Load() {
-  info_.MeasureText();
-  info_.topmost = true;
+  MeasureText();
+  window_.topmost = true;
 }
 
 void InformationViewer::VScroll1_Scroll() {
-  info_.MeasureText();  // the window may have been made narrower since
-  info_.Label1.top = -info_.VScroll1.value;
+  MeasureText();  // the window may have been made narrower since
+  window_.Label1.top = -window_.VScroll1.value;
 }
 
 void InformationViewer::Form_Unload() {
-  info_.wb1.visible = false;
+  window_.wb1.visible = false;
   main_.Line2.visible = false;
   main_.Line2.visible = true;
 }

@@ -1,11 +1,28 @@
 #include "help/wizard.h"
 
+#include "base/number_text.h"
+#include "base/runtime_error.h"
 #include "session/modes.h"
 
 namespace benevix {
 
 void Wizard::Show() {
   desk_.Show(window_);
+}
+
+void Wizard::ReadStartMark() {
+  const std::string stored = settings_.GetUserString("ShowWiz");
+  try {
+    main_.mnuWiz.checked = stored.empty() || TextToBoolean(stored);
+  } catch (const RuntimeError&) {
+    main_.mnuWiz.checked = false;
+  }
+}
+
+void Wizard::mnuWiz_Click() {
+  main_.mnuWiz.checked = !main_.mnuWiz.checked;
+  settings_.SaveUserString("ShowWiz", main_.mnuWiz.checked ? "True" : "False");
+  if (main_.mnuWiz.checked) Show();
 }
 
 void Wizard::Form_Load() {
@@ -55,11 +72,11 @@ void Wizard::Command1_Click() {
 void Wizard::Command2_Click() {
   switch (page_) {
     case Page::Welcome:
-      return showHelpPage_("qhelp.html");
+      return help_.ShowPage("qhelp.html");
     case Page::Fees:
-      return showHelpPage_("qhelp.html#Fees assessment");
+      return help_.ShowPage("qhelp.html#Fees assessment");
     case Page::DonationMode:
-      return showHelpPage_("qhelp.html#Donation assesment");
+      return help_.ShowPage("qhelp.html#Donation assesment");
   }
 }
 

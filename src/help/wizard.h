@@ -1,11 +1,12 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "controls/desk.h"
+#include "core/settings_store.h"
 #include "forms/frmBVX.h"
 #include "forms/frmWizard.h"
+#include "help/help.h"
 #include "platform/program_info.h"
 
 namespace benevix {
@@ -14,16 +15,18 @@ namespace benevix {
 // Continue of its page.
 class Wizard {
  public:
-  // `showHelpPage` shows a page of the Resources folder.
-  Wizard(frmWizard& window, frmBVX& main, Desk& desk, const ProgramInfo& info,
-         std::function<void(const std::string& page)> showHelpPage)
-      : window_(window),
-        main_(main),
-        desk_(desk),
-        info_(info),
-        showHelpPage_(std::move(showHelpPage)) {}
+  Wizard(frmWizard& window, frmBVX& main, Desk& desk, SettingsStore& settings,
+         const ProgramInfo& info, Help& help)
+      : window_(window), main_(main), desk_(desk), settings_(settings), info_(info), help_(help) {}
 
   void Show();
+
+  // Marks the menu's "Start with the Wizard" by the setting `ShowWiz`: an empty one sets the mark,
+  // one that says neither yes nor no leaves it off.
+  void ReadStartMark();
+  // The mark is toggled and stored; setting it also shows the wizard.
+  void mnuWiz_Click();
+
   void Form_Load();
   // An answer opens the way on.
   void Option1_MouseUp(int index);
@@ -39,8 +42,9 @@ class Wizard {
   frmWizard& window_;
   frmBVX& main_;
   Desk& desk_;
+  SettingsStore& settings_;
   const ProgramInfo& info_;
-  std::function<void(const std::string& page)> showHelpPage_;
+  Help& help_;
   Page page_ = Page::Welcome;
 };
 

@@ -1,6 +1,5 @@
 #include "people/contact_information.h"
 
-#include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "database/country_list.h"
 
@@ -80,6 +79,13 @@ void ContactInformation::Save() {
 
 void ContactInformation::Cancel() {
   Reload();
+}
+
+std::string ContactInformation::ForNotice() const {
+  std::string text;
+  for (const TextBox& box : window_.Text1) text += box.text + ",";
+  text.pop_back();
+  return codec_.Scramble(text);
 }
 
 void ContactInformation::Reload() {

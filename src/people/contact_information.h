@@ -4,7 +4,6 @@
 #include <string>
 
 #include "controls/desk.h"
-#include "controls/events.h"
 #include "core/codec.h"
 #include "core/messages.h"
 #include "core/settings_store.h"
@@ -48,6 +47,10 @@ class ContactInformation {
   void Check1_MouseUp();
   // The user closes the window: as Cancel.
   void Cancel();
+
+  // The details as a session's notice carries them: joined by "," and scrambled.
+  [[nodiscard]] std::string ForNotice() const;
+  [[nodiscard]] bool TakesPartInRanking() const { return window_.Check1.value == 1; }
 
  private:
   void LoadCountryList();

@@ -6,12 +6,8 @@
 #include "session/hints.h"
 
 namespace benevix {
-namespace {
 
-constexpr int kMyName = 0;
-constexpr int kOtherName = 1;
-
-}  // namespace
+using namespace donor_option;
 
 void DonorName::Option1_Click(int index) {
   ComboBox& combo = main_.Combo1;

@@ -12,6 +12,7 @@ class DonorName {
   DonorName(frmBVX& main, Desk& desk, OtherNames& names)
       : main_(main), desk_(desk), names_(names) {}
 
+  // Takes a constant of `donor_option`.
   void Option1_Click(int index);
 
   // A new other name becomes an entry and is remembered.

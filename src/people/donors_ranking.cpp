@@ -36,6 +36,12 @@ void DonorsRanking::Option1_Click(int index) {
   window_.Text1.enabled = index != kMyName;
 }
 
+std::string DonorsRanking::ForNotice(bool takesPart) {
+  if (!takesPart) return ",0";
+  const std::string choice(Trim(codec_.Unscramble(settings_.GetUserString("RankOpt"))));
+  return choice.empty() ? ",1" : ",1," + codec_.Scramble(choice);
+}
+
 void DonorsRanking::Command1_Click() {
   const int option = Chosen(window_.Option1);
   if (option != kMyName && Trim(window_.Text1.text).empty()) {

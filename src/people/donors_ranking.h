@@ -20,6 +20,10 @@ class DonorsRanking {
   void Option1_Click(int index);
   void Command1_Click();
 
+  // What a session's notice says of the ranking: ",0", or ",1" and then, when the name for the
+  // entry was chosen, "," and the choice, scrambled. Raises RuntimeError when it cannot be read.
+  [[nodiscard]] std::string ForNotice(bool takesPart);
+
  private:
   frmDonRankg& window_;
   Desk& desk_;

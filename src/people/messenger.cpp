@@ -1,7 +1,7 @@
 #include "people/messenger.h"
 
-#include "base/runtime_error.h"
 #include "database/organization_list.h"
+#include "server/mail_notice.h"
 
 namespace benevix {
 namespace {
@@ -55,31 +55,27 @@ void Messenger::Send() {
   const std::string recipient = window_.Command1[kSend].tag;
   if (recipient.empty()) return;
   window_.mousePointer = MousePointer::Hourglass;
-  const auto contactData = server_.GetContactData();
-  if (!contactData) {
-    messages_.ShowMessage(message::kServiceUnavailable, message_kind::kFailedToConnect);
-    window_.mousePointer = MousePointer::Default;
-    return;
-  }
-  const std::string& base = info_.deployment.serverBase;
-  std::string answer;
-  try {
-    answer = server_.OpenURL(
-        base + contactData->script + "email=" + window_.Label1[kSender].caption +
-        "&recipient=" + recipient + "&subject=" + window_.Text1[0].text +
-        "&=" + window_.Text1[1].text + ".\r\n This message was sent courtesy of Benevix " + base);
-  } catch (const RuntimeError&) {
-    // No answer is no thanks.
-  }
-  const bool sent = answer.find("Thank You") != std::string::npos;
-  if (sent) {
-    messages_.ShowMessage(message::kNoticeSent, message_kind::kNone);
-    window_.Command1[kPrint].enabled = true;
-  } else {
-    messages_.ShowMessage(message::kMailFailed, message_kind::kFailedToConnect);
+  const MailResult result =
+      SendMailNotice(server_,
+                     {window_.Label1[kSender].caption, recipient, window_.Text1[0].text,
+                      window_.Text1[1].text + ".\r\n This message was sent courtesy of Benevix " +
+                          server_.Base()})
+          .result;
+  switch (result) {
+    case MailResult::NoScript:
+      messages_.ShowMessage(message::kServiceUnavailable, message_kind::kFailedToConnect);
+      break;
+    case MailResult::Sent:
+      messages_.ShowMessage(message::kNoticeSent, message_kind::kNone);
+      window_.Command1[kPrint].enabled = true;
+      break;
+    case MailResult::NotSent:
+      messages_.ShowMessage(message::kMailFailed, message_kind::kFailedToConnect);
+      break;
   }
   window_.mousePointer = MousePointer::Default;
-  if (!sent) desk_.Unload(window_);
+  // Although the message speaks of another try: a failed messenger closes.
+  if (result == MailResult::NotSent) Close();
 }
 
 void Messenger::Close() {

@@ -8,7 +8,7 @@
 #include "forms/frmBVX.h"
 #include "forms/frmMail.h"
 #include "forms/frmPersInfo.h"
-#include "platform/surroundings.h"
+#include "platform/program_info.h"
 #include "server/server_files.h"
 
 namespace benevix {

@@ -1,6 +1,7 @@
 #include "people/tell_a_friend.h"
 
 #include "base/runtime_error.h"
+#include "server/mail_notice.h"
 
 namespace benevix {
 namespace {
@@ -42,32 +43,22 @@ void TellAFriend::Send() {
   }
   settings_.SaveUserString("UsrName", codec_.Scramble(window_.Text1[kOwnName].text));
   settings_.SaveUserString("UsrMail", codec_.Scramble(window_.Text1[kOwnMail].text));
-  std::string answer;
-  if (const auto contactData = server_.GetContactData()) {
-    try {
-      answer = server_.OpenURL(Request(contactData->script));
-    } catch (const RuntimeError&) {
-      // No answer is no thanks.
-    }
-  }
-  if (answer.find("Thank You") == std::string::npos) {
+  const auto field = [&](int index) { return window_.Text1[index].text; };
+  const std::string body =
+      "Dear " + field(kFriendName) +
+      " I'm using Benevix for all my charity donations. I believe it will be useful for you too. "
+      "You can download it for FREE at " +
+      server_.Base() + "downloads/benevix1.zip \r\nBest Regards, " + field(kOwnName) + " \r\n" +
+      field(kOwnMail);
+  const MailOutcome outcome =
+      SendMailNotice(server_, {field(kOwnMail), field(kFriendMail),
+                               field(kFriendName) + " Check this out - Benevix", body});
+  if (outcome.result != MailResult::Sent) {
     messages_.ShowMessage(message::kMailFailed, message_kind::kFailedToConnect);
     return;
   }
   messages_.ShowMessage(message::kNoticeSent, message_kind::kNone);
   desk_.Unload(window_);
-}
-
-std::string TellAFriend::Request(const std::string& script) const {
-  const auto field = [&](int index) { return window_.Text1[index].text; };
-  const std::string& base = info_.deployment.serverBase;
-  return base + script + "email=" + field(kOwnMail) + "&recipient=" + field(kFriendMail) +
-         "&subject=" + field(kFriendName) + " Check this out - Benevix&=Dear " +
-         field(kFriendName) +
-         " I'm using Benevix for all my charity donations. I believe it will be useful for you "
-         "too. You can download it for FREE at " +
-         base + "downloads/benevix1.zip \r\nBest Regards, " + field(kOwnName) + " \r\n" +
-         field(kOwnMail);
 }
 
 }  // namespace benevix

@@ -5,7 +5,6 @@
 #include "core/messages.h"
 #include "core/settings_store.h"
 #include "forms/frmTellAFriend.h"
-#include "platform/program_info.h"
 #include "server/server_files.h"
 
 namespace benevix {
@@ -14,21 +13,19 @@ namespace benevix {
 class TellAFriend {
  public:
   TellAFriend(frmTellAFriend& window, Desk& desk, SettingsStore& settings, const TextCodec& codec,
-              ServerFiles& server, Messages& messages, const ProgramInfo& info)
+              ServerFiles& server, Messages& messages)
       : window_(window),
         desk_(desk),
         settings_(settings),
         codec_(codec),
         server_(server),
-        messages_(messages),
-        info_(info) {}
+        messages_(messages) {}
 
   void Form_Load();
   void Command1_Click(int index);
 
  private:
   void Send();
-  [[nodiscard]] std::string Request(const std::string& script) const;
   [[nodiscard]] std::string Remembered(const std::string& name);
 
   frmTellAFriend& window_;
@@ -37,7 +34,6 @@ class TellAFriend {
   const TextCodec& codec_;
   ServerFiles& server_;
   Messages& messages_;
-  const ProgramInfo& info_;
 };
 
 }  // namespace benevix

@@ -30,8 +30,4 @@ class HttpClient {
   virtual std::string OpenURL(const std::string& address, const HttpOptions& options) = 0;
 };
 
-// Fetches a file of the server: a path relative to the server base address in, the answer out.
-// Proxy and time-out are the connection's, whatever the options say.
-using ServerFetch = std::function<std::string(const std::string& path, const HttpOptions& options)>;
-
 }  // namespace benevix

@@ -27,123 +27,120 @@ void Program::ConnectEvents() {
 
 void Program::ConnectSplash() {
   frmSplash& splash = forms_.Get<frmSplash>();
-  events_.On(splash, Event::Load, Plain([this] { startUp_.frmSplash_Load(); }));
+  events_.On(splash, Event::Load, Plain([this] { frmSplash_Load(); }));
   events_.On(splash, Event::Close, Plain([this] { desk_.End(); }));
-  events_.On(splash.Image1, Event::MouseMove, Plain([this] { startUp_.Image1_MouseMove(); }));
+  events_.On(splash.Image1, Event::MouseMove,
+             Plain([&splash] { splash.Shape2.borderColor = colors::kInactiveTitleBar; }));
   events_.On(splash.Image2, Event::MouseMove,
-             [this](int, EventArgs&) { startUp_.Image2_MouseMove(); });
-  events_.On(splash.Image2, Event::Click,
-             [this](int index, EventArgs&) { startUp_.Image2_Click(index); });
+             [&splash](int, EventArgs&) { splash.Shape2.borderColor = colors::kActiveTitleBar; });
+  events_.On(splash.Image2, Event::Click, [this](int index, EventArgs&) { Image2_Click(index); });
 }
 
 void Program::ConnectMainWindow() {
-  frmBVX& main = forms_.Get<frmBVX>();
-  events_.On(main, Event::Load, Plain([this] { startUp_.frmBVX_Load(); }));
-  events_.On(main, Event::Unload, Plain([this] { startUp_.frmBVX_Unload(); }));
+  events_.On(main_, Event::Load, Plain([this] { frmBVX_Load(); }));
+  events_.On(main_, Event::Unload, Plain([this] { frmBVX_Unload(); }));
 
-  events_.On(main.Text1, Event::KeyPress,
+  events_.On(main_.Text1, Event::KeyPress,
              [](int, EventArgs& args) { MainWindow::Text1_KeyPress(args); });
-  events_.On(main.Text1, Event::KeyUp,
+  events_.On(main_.Text1, Event::KeyUp,
              [this](int index, EventArgs& args) { mainWindow_.Text1_KeyUp(index, args); });
-  events_.On(main.Text1, Event::Change,
+  events_.On(main_.Text1, Event::Change,
              [this](int index, EventArgs&) { mainWindow_.Text1_Change(index); });
-  events_.On(main.Text1, Event::GotFocus,
+  events_.On(main_.Text1, Event::GotFocus,
              [this](int index, EventArgs&) { mainWindow_.Text1_GotFocus(index); });
 
-  events_.On(main.Option1, Event::Click,
+  events_.On(main_.Option1, Event::Click,
              [this](int index, EventArgs&) { donorName_.Option1_Click(index); });
-  events_.On(main.Combo1, Event::LostFocus, Plain([this] { donorName_.Combo1_LostFocus(); }));
-  events_.On(main.Option3, Event::Click, [this](int index, EventArgs&) {
-    SetFeeMode(forms_.Get<frmBVX>(), index == 0 ? FeeMode::Add : FeeMode::Deduct);
+  events_.On(main_.Combo1, Event::LostFocus, Plain([this] { donorName_.Combo1_LostFocus(); }));
+  events_.On(main_.Option3, Event::Click, [this](int index, EventArgs&) {
+    SetFeeMode(main_, index == fee_option::kAdd ? FeeMode::Add : FeeMode::Deduct);
   });
 
-  events_.On(main.ListView1, Event::ItemClick,
+  events_.On(main_.ListView1, Event::ItemClick,
              [this](EventArgs& args) { listView_.ListView1_ItemClick(args); });
-  events_.On(main.ListView1, Event::KeyPress,
+  events_.On(main_.ListView1, Event::KeyPress,
              [this](EventArgs& args) { listTyping_.ListView1_KeyPress(args); });
-  events_.On(main.ListView1, Event::KeyUp,
+  events_.On(main_.ListView1, Event::KeyUp,
              [this](EventArgs& args) { listView_.ListView1_KeyUp(args); });
-  events_.On(main.Command1, Event::Click, Plain([this] { finalization_.Command1_Click(); }));
-  events_.On(main.Command1, Event::MouseUp, [this](EventArgs& args) {
-    if (args.button == MouseButton::Right) ++forms_.Get<frmBVX>().mnuWhatis.popUps;
+  events_.On(main_.Command1, Event::Click, Plain([this] { finalization_.Command1_Click(); }));
+  events_.On(main_.Command1, Event::MouseUp, [this](EventArgs& args) {
+    if (args.button == MouseButton::Right) ++main_.mnuWhatis.popUps;
   });
-  events_.On(main.Label11, Event::MouseUp, [this](int index, EventArgs&) {
+  events_.On(main_.Label11, Event::MouseUp, [this](int index, EventArgs&) {
     if (index == 0) {
       listUpdateCommand_.Label11_MouseUp();
     } else {
       help_.mnuHelp_Click();
     }
   });
-  events_.On(main.iLbl, Event::Click, Plain([this] { yearToDate_.iLbl_Click(); }));
-  events_.On(main.Label12, Event::Click, Plain([this] { news_.Label12_Click(); }));
-  events_.On(main.Timer1, Event::Tick, Plain([this] { mainWindow_.Timer1_Tick(); }));
-  events_.On(main.Timer2, Event::Tick, Plain([this] { mainWindow_.Timer2_Tick(); }));
+  events_.On(main_.iLbl, Event::Click, Plain([this] { yearToDate_.iLbl_Click(); }));
+  events_.On(main_.Label12, Event::Click, Plain([this] { news_.Label12_Click(); }));
+  events_.On(main_.Timer1, Event::Tick, Plain([this] { mainWindow_.Timer1_Tick(); }));
+  events_.On(main_.Timer2, Event::Tick, Plain([this] { mainWindow_.Timer2_Tick(); }));
 }
 
 // File, Edit, Favorites and Preferences.
 void Program::ConnectSessionMenus() {
-  frmBVX& main = forms_.Get<frmBVX>();
   const auto on = [this](const MenuItem& item, auto handler) {
     events_.On(item, Event::Click, Plain(handler));
   };
-  on(main.mnuNew, [this] { NewSession(); });
-  on(main.mnuPrntSession, [this] { printing_.mnuPrntSession_Click(); });
-  on(main.mnuHistory, [this] { history_.ShowHistory(); });
-  on(main.mnuPrtHistory, [this] { printing_.mnuPrtHistory_Click(); });
-  on(main.mnuUpdateList, [this] { listUpdateCommand_.Label11_MouseUp(); });
-  on(main.mnuExit, [this] { desk_.Unload(forms_.Get<frmBVX>()); });
+  on(main_.mnuNew, [this] { NewSession(); });
+  on(main_.mnuPrntSession, [this] { printing_.mnuPrntSession_Click(); });
+  on(main_.mnuHistory, [this] { history_.ShowHistory(); });
+  on(main_.mnuPrtHistory, [this] { printing_.mnuPrtHistory_Click(); });
+  on(main_.mnuUpdateList, [this] { listUpdateCommand_.Label11_MouseUp(); });
+  on(main_.mnuExit, [this] { desk_.Unload(main_); });
 
-  on(main.mnuCls, [this] { editCommands_.mnuCls_Click(); });
-  on(main.mnuCorrect, [this] { editCommands_.mnuCorrect_Click(); });
+  on(main_.mnuCls, [this] { editCommands_.mnuCls_Click(); });
+  on(main_.mnuCorrect, [this] { editCommands_.mnuCorrect_Click(); });
 
-  on(main.mnuDistribFavs, [this] { distribution_.mnuDistribFavs_Click(); });
-  on(main.mnuFavAddTop, [this] { favorites_.Add(); });
-  on(main.mnuFavAdd, [this] { favorites_.Add(); });
-  on(main.mnuCancelRemove, [this] { favorites_.mnuCancelRemove_Click(); });
-  on(main.mnuFavsRemove, [this] { favorites_.mnuFavsRemove_Click(); });
-  events_.On(main.mnuFavs, Event::Click,
+  on(main_.mnuDistribFavs, [this] { distribution_.mnuDistribFavs_Click(); });
+  on(main_.mnuFavAddTop, [this] { favorites_.Add(); });
+  on(main_.mnuFavAdd, [this] { favorites_.Add(); });
+  on(main_.mnuCancelRemove, [this] { favorites_.mnuCancelRemove_Click(); });
+  on(main_.mnuFavsRemove, [this] { favorites_.mnuFavsRemove_Click(); });
+  events_.On(main_.mnuFavs, Event::Click,
              [this](EventArgs& args) { favorites_.mnuFavs_Click(args.index); });
 
-  on(main.mnuChgPayMethod, [this] { paymentOptions_.Ask(); });
-  on(main.mnuRound, [&main] { main.mnuRound.checked = !main.mnuRound.checked; });
-  on(main.mnuDirectCurr, [&main] { SetDonationMode(main, DonationMode::Currency); });
-  on(main.mnuPercentBal, [&main] { SetDonationMode(main, DonationMode::Percentage); });
-  on(main.mnuAddFees, [&main] { SetFeeMode(main, FeeMode::Add); });
-  on(main.mnuDeductFees, [&main] { SetFeeMode(main, FeeMode::Deduct); });
-  on(main.mnuSettings, [this] { contact_.Open(ContactCaller::Menu); });
-  on(main.mnuWiz, [this] { startUp_.mnuWiz_Click(); });
+  on(main_.mnuChgPayMethod, [this] { paymentOptions_.Ask(); });
+  on(main_.mnuRound, [this] { main_.mnuRound.checked = !main_.mnuRound.checked; });
+  on(main_.mnuDirectCurr, [this] { SetDonationMode(main_, DonationMode::Currency); });
+  on(main_.mnuPercentBal, [this] { SetDonationMode(main_, DonationMode::Percentage); });
+  on(main_.mnuAddFees, [this] { SetFeeMode(main_, FeeMode::Add); });
+  on(main_.mnuDeductFees, [this] { SetFeeMode(main_, FeeMode::Deduct); });
+  on(main_.mnuSettings, [this] { contact_.Open(ContactCaller::Menu); });
+  on(main_.mnuWiz, [this] { wizard_.mnuWiz_Click(); });
 }
 
 // Resources, Help and the pop-ups.
 void Program::ConnectOtherMenus() {
-  frmBVX& main = forms_.Get<frmBVX>();
   const auto on = [this](const MenuItem& item, auto handler) {
     events_.On(item, Event::Click, Plain(handler));
   };
-  on(main.mnuSearch, [this] { desk_.Show(forms_.Get<frmSrch>()); });
-  events_.On(main.lclist, Event::Click,
+  on(main_.mnuSearch, [this] { desk_.Show(forms_.Get<frmSrch>()); });
+  events_.On(main_.lclist, Event::Click,
              [this](EventArgs& args) { listView_.lclist_Click(args.index); });
-  on(main.mnuShowWiz, [this] { wizard_.Show(); });
-  for (const MenuItem* item : {&main.mnuMoreInfo, &main.MMTellMe}) {
+  on(main_.mnuShowWiz, [this] { wizard_.Show(); });
+  for (const MenuItem* item : {&main_.mnuMoreInfo, &main_.MMTellMe}) {
     on(*item, [this] { information_.MoreInfo(); });
   }
-  for (const MenuItem* item : {&main.mnuContactThem, &main.MMContactThem}) {
+  for (const MenuItem* item : {&main_.mnuContactThem, &main_.MMContactThem}) {
     on(*item, [this] { information_.Contact(); });
   }
-  for (const MenuItem* item : {&main.mnuGotheirWeb, &main.MMGoWeb}) {
+  for (const MenuItem* item : {&main_.mnuGotheirWeb, &main_.MMGoWeb}) {
     on(*item, [this] { information_.WebSite(); });
   }
-  on(main.mnuRecallSession, [this] { lastSession_.mnuRecallSession_Click(); });
-  on(main.mnuSendCopy, [this] { desk_.Show(forms_.Get<frmTellAFriend>()); });
+  on(main_.mnuRecallSession, [this] { lastSession_.mnuRecallSession_Click(); });
+  on(main_.mnuSendCopy, [this] { desk_.Show(forms_.Get<frmTellAFriend>()); });
 
-  on(main.mnuAbout, [this] { help_.mnuAbout_Click(); });
-  on(main.gotoBVXweb, [this] { help_.gotoBVXweb_Click(); });
-  on(main.mnuHelp, [this] { help_.mnuHelp_Click(); });
-  on(main.MMHelp, [this] { help_.mnuHelp_Click(); });
-  events_.On(main.qhelp1, Event::Click,
+  on(main_.mnuAbout, [this] { help_.mnuAbout_Click(); });
+  on(main_.gotoBVXweb, [this] { help_.gotoBVXweb_Click(); });
+  on(main_.mnuHelp, [this] { help_.mnuHelp_Click(); });
+  on(main_.MMHelp, [this] { help_.mnuHelp_Click(); });
+  events_.On(main_.qhelp1, Event::Click,
              [this](EventArgs& args) { help_.qhelp1_Click(args.index); });
-  on(main.mnuSubmitList, [this] { help_.mnuSubmitList_Click(); });
-  on(main.whatisBtn1, [this] { help_.whatisBtn1_Click(); });
+  on(main_.mnuSubmitList, [this] { help_.mnuSubmitList_Click(); });
+  on(main_.whatisBtn1, [this] { help_.whatisBtn1_Click(); });
 }
 
 void Program::ConnectPayment() {
@@ -159,9 +156,9 @@ void Program::ConnectPayment() {
 
 void Program::ConnectViewer() {
   frmInfo& info = forms_.Get<frmInfo>();
-  events_.On(info, Event::Load, Plain([this] { informationViewer_.Form_Load(); }));
-  events_.On(info, Event::Unload, Plain([this] { informationViewer_.Form_Unload(); }));
-  events_.On(info.VScroll1, Event::Scroll, Plain([this] { informationViewer_.VScroll1_Scroll(); }));
+  events_.On(info, Event::Load, Plain([this] { viewer_.Form_Load(); }));
+  events_.On(info, Event::Unload, Plain([this] { viewer_.Form_Unload(); }));
+  events_.On(info.VScroll1, Event::Scroll, Plain([this] { viewer_.VScroll1_Scroll(); }));
   events_.On(info.Label3, Event::Click, Plain([this] { translation_.Label3_Click(); }));
 
   frmPrefsTranslate& translate = forms_.Get<frmPrefsTranslate>();

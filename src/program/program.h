@@ -18,7 +18,6 @@
 #include "people/other_names.h"
 #include "people/tell_a_friend.h"
 #include "platform/surroundings.h"
-#include "program/start_up.h"
 #include "records/finalization.h"
 #include "records/history.h"
 #include "records/last_session.h"
@@ -45,8 +44,8 @@
 
 namespace benevix {
 
-// Builds every room once and hands each exactly what it touches. One run of the program, from Main
-// to its end.
+// One run of the program, from Main to its end: builds every module once and hands each exactly
+// what it touches.
 class Program {
  public:
   explicit Program(Surroundings surroundings);
@@ -75,13 +74,17 @@ class Program {
   [[nodiscard]] const Surroundings& TheSurroundings() const { return surroundings_; }
 
  private:
-  [[nodiscard]] StartUp::Steps StartUpSteps();
-  [[nodiscard]] ServerFetch Fetch();
+  // How the program starts and ends (start_up.cpp).
+  void frmSplash_Load();
+  void Image2_Click(int index);  // of the splash: 0 enters, 1 leaves
+  void frmBVX_Load();
+  void LoadMainWindow();
+  void frmBVX_Unload();
+
   void ContactSaved(ContactCaller caller);
-  void UpdateListSilently();
   void DownloadUpdater();
 
-  // The one table that says which event goes to which handler, by window.
+  // The one table that says which event goes to which handler, by window (event_table.cpp).
   void ConnectEvents();
   void ConnectSplash();
   void ConnectMainWindow();
@@ -95,49 +98,57 @@ class Program {
   Surroundings surroundings_;
   EventTable events_;
   Forms forms_;
+  frmBVX& main_ = forms_.Get<frmBVX>();
   Desk desk_;
   Input input_;
   RunValues run_;
   SessionValues values_;
   FeeRates rates_;
 
+  // The modules, layer by layer. What a module needs of a later one it gets as a function.
   SettingsStore settings_;
   Messages messages_;
   TextCodec codec_;
-  ServerFiles server_;
+
   OrganizationDatabase database_;
-  OtherNames otherNames_;
-  ListUpdate listUpdate_;
+
   BudgetEntry budgetEntry_;
   DonationEntry donationEntry_;
   MainWindow mainWindow_;
   ListViewEvents listView_;
   ListTyping listTyping_;
-  DonorName donorName_;
+  Search search_;
   Favorites favorites_;
   EditCommands editCommands_;
   Distribution distribution_;
   PaymentOptions paymentOptions_;
   Charges charges_;
-  History history_;
-  Finalization finalization_;
-  YearToDate yearToDate_;
-  LastSession lastSession_;
-  Printing printing_;
+
+  InformationViewer viewer_;
   Help help_;
+  Wizard wizard_;
+
+  ServerFiles server_;
+  YearToDate yearToDate_;
   News news_;
-  InformationViewer informationViewer_;
-  ContactInformation contact_;
-  DonorsRanking ranking_;
+  ListUpdate listUpdate_;
+  ListUpdateCommand listUpdateCommand_;
   OrganizationContacts contacts_;
   OrganizationInformation information_;
+  Translation translation_;
+
+  OtherNames otherNames_;
+  DonorName donorName_;
+  ContactInformation contact_;
+  DonorsRanking ranking_;
   Messenger messenger_;
   TellAFriend tellAFriend_;
-  Translation translation_;
-  Wizard wizard_;
-  Search search_;
-  ListUpdateCommand listUpdateCommand_;
-  StartUp startUp_;
+
+  LastSession lastSession_;
+  SessionNotice notice_;
+  History history_;
+  Finalization finalization_;
+  Printing printing_;
 };
 
 }  // namespace benevix

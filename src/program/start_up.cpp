@@ -1,90 +1,40 @@
-#include "program/start_up.h"
+// How the program starts and ends: the order in which its modules are called.
 
 #include <cmath>
 
-#include "base/number_text.h"
 #include "base/runtime_error.h"
-#include "base/text.h"
-#include "core/shell_helpers.h"
+#include "help/quick_help.h"
+#include "program/own_settings.h"
+#include "program/program.h"
+#include "server/connection.h"
+#include "session/hints.h"
 
 namespace benevix {
 
-int GetPlatformCode(int platformId) {
-  switch (platformId) {
-    case 0:
-      return 3;
-    case 1:
-      return 9;
-    case 2:
-      return 1;
-    default:
-      return 0;
-  }
+void Program::Main() {
+  input_.Enter([this] {
+    UpdateOwnSettings(settings_, surroundings_);
+    desk_.Show(forms_.Get<frmSplash>());
+  });
 }
 
-void StartUp::Main() {
-  double listVersion = 0;
-  try {
-    listVersion = Val(settings_.GetUserString("BVXDB"));
-  } catch (const RuntimeError&) {
-    // A number beyond all versions is no version.
-  }
-  if (listVersion == 0) InitSettings();
-  const ProgramInfo& info = surroundings_.info;
-  const auto keepCurrent = [&](const std::string& name, const std::string& value) {
-    if (settings_.GetUserString(name) != value) settings_.SaveUserString(name, value);
-  };
-  keepCurrent("ExeName", info.exeName);
-  keepCurrent("Version", info.Version());
-  if (settings_.GetUserString("updater") == "1") CleanUpdater();
-  desk_.Show(splash_);
+void Program::frmSplash_Load() {
+  frmSplash& splash = forms_.Get<frmSplash>();
+  splash.top = static_cast<int>(std::lround(surroundings_.info.screenHeight / 3.5));
+  splash.left = static_cast<int>(std::lround(surroundings_.info.screenWidth / 3.5));
 }
 
-void StartUp::InitSettings() {
-  const ProgramInfo& info = surroundings_.info;
-  settings_.SaveString(Root::LocalMachine, kSettingsPath, "Proxy", "");
-  settings_.SaveString(Root::LocalMachine, kSettingsPath, "TimeOut", "5");
-  settings_.SaveUserString("BVXDB", "1.0000");
-  settings_.SaveUserString("LangVer", "english");
-  settings_.SaveUserString("Version", info.Version());
-  settings_.SaveUserString("StartIn", FromUtf8(info.folder));
-  settings_.SaveUserString("ExeName", info.exeName);
-  CreateDesktopShortcut(surroundings_.shell, info);
-}
-
-void StartUp::CleanUpdater() {
-  try {
-    surroundings_.files.Remove(surroundings_.info.folder + "/updater.exe");
-  } catch (const RuntimeError&) {
-    // It is no longer started either way.
-  }
-  settings_.SaveUserString("updater", "");
-}
-
-void StartUp::frmSplash_Load() {
-  const ProgramInfo& info = surroundings_.info;
-  splash_.top = static_cast<int>(std::lround(info.screenHeight / 3.5));
-  splash_.left = static_cast<int>(std::lround(info.screenWidth / 3.5));
-}
-
-void StartUp::Image1_MouseMove() {
-  splash_.Shape2.borderColor = colors::kInactiveTitleBar;
-}
-
-void StartUp::Image2_MouseMove() {
-  splash_.Shape2.borderColor = colors::kActiveTitleBar;
-}
-
-void StartUp::Image2_Click(int index) {
+void Program::Image2_Click(int index) {
   if (index == 1) desk_.End();
-  splash_.mousePointer = MousePointer::Hourglass;
+  frmSplash& splash = forms_.Get<frmSplash>();
+  splash.mousePointer = MousePointer::Hourglass;
   desk_.Show(main_);
-  steps_.loadNews();
-  if (main_.mnuWiz.checked) steps_.showWizard();
-  desk_.Unload(splash_);
+  news_.LoadNews();
+  if (main_.mnuWiz.checked) wizard_.Show();
+  desk_.Unload(splash);
 }
 
-void StartUp::frmBVX_Load() {
+void Program::frmBVX_Load() {
   try {
     LoadMainWindow();
   } catch (const RuntimeError&) {
@@ -93,69 +43,39 @@ void StartUp::frmBVX_Load() {
   }
 }
 
-void StartUp::LoadMainWindow() {
-  main_.Option3[0].backColor = colors::kSand;
-  main_.Option3[1].backColor = colors::kLightSand;
-  ApplyConnectionSettings();
-  steps_.checkServerStatus();
-  if (run_.ServerOK) {
-    steps_.loadFeeRates();
-    steps_.downloadYtd();
-    steps_.readListVersion();
-    steps_.updateListSilently();
+void Program::LoadMainWindow() {
+  main_.Option3[fee_option::kAdd].backColor = colors::kSand;
+  main_.Option3[fee_option::kDeduct].backColor = colors::kLightSand;
+  ApplyConnectionSettings(settings_, main_);
+  if (server_.CheckServerStatus()) {
+    server_.LoadFeeRates();
+    yearToDate_.DownloadYtd();
+    database_.ReadListVersion();
+    bool ready = false;
+    listUpdate_.CheckListUpdate(true, true, ready);
+    if (ready) listUpdate_.InstallList();
   }
-  steps_.loadOrganizationList();
-  steps_.putOwnName();
-  steps_.loadOtherNames();
+  database_.LoadOrganizationList();
+  ShowHint(main_, hint::kTypeBudget);
+  frmPersInfo& contact = forms_.Get<frmPersInfo>();
+  desk_.Load(contact);
+  PutOwnName(main_, contact.Text1[contact_field::kFullName].text);
+  otherNames_.LoadOtherNames(main_.Combo1);
   run_.PlatformCode = GetPlatformCode(surroundings_.info.platformId);
-  main_.Label4.left = main_.width;
-  if (run_.PlatformCode == 3 || run_.PlatformCode == 9) CorrectLayout();
-  steps_.buildQuickHelp();
-  main_.mnuWiz.checked = StartsWithWizard();
-  steps_.loadFavoritesMenu();
-  steps_.buildCountriesMenu();
+  main_.Label4.left = main_.width;  // the credit line comes in from the right
+  BuildQuickHelpMenu(surroundings_.files, surroundings_.info.Resource("qhelp.html"), main_.qhelp1);
+  wizard_.ReadStartMark();
+  favorites_.LoadFavoritesMenu();
+  database_.BuildCountriesMenu();
 }
 
-void StartUp::ApplyConnectionSettings() {
-  const auto machine = [&](const std::string& name) {
-    return settings_.GetString(Root::LocalMachine, kSettingsPath, name);
-  };
-  const std::string proxy = machine("Proxy");
-  const auto timeout = ParseNumber(machine("TimeOut"));
-  for (HttpControl* control : {&main_.Inet1, &main_.Inet2}) {
-    if (!proxy.empty()) control->proxy = proxy;
-    control->requestTimeout = timeout ? ToInt32(std::trunc(*timeout)) : 5;
-  }
-}
-
-// That platform family draws lists with a border of its own.
-void StartUp::CorrectLayout() {
-  main_.ListView1.appearance = 1;
-  main_.Shape3.top -= 100;
-  main_.Shape4.top -= 100;
-  main_.Label12.top -= 60;
-  main_.Shape4.borderWidth = 2;
-}
-
-bool StartUp::StartsWithWizard() {
-  const std::string stored = settings_.GetUserString("ShowWiz");
-  if (stored.empty()) return true;
-  try {
-    return TextToBoolean(stored);
-  } catch (const RuntimeError&) {
-    return false;
-  }
-}
-
-void StartUp::mnuWiz_Click() {
-  main_.mnuWiz.checked = !main_.mnuWiz.checked;
-  settings_.SaveUserString("ShowWiz", main_.mnuWiz.checked ? "True" : "False");
-  if (main_.mnuWiz.checked) steps_.showWizard();
-}
-
-void StartUp::frmBVX_Unload() {
-  steps_.removeYtd();
+void Program::frmBVX_Unload() {
+  yearToDate_.RemoveYtd();
   desk_.End();
+}
+
+void Program::Finish() {
+  history_.WritePending();
 }
 
 }  // namespace benevix

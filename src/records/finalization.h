@@ -1,90 +1,52 @@
 #pragma once
 
-#include <string>
-
 #include "controls/desk.h"
-#include "core/codec.h"
 #include "core/messages.h"
-#include "core/settings_store.h"
 #include "forms/frmBVX.h"
-#include "forms/frmInfo.h"
-#include "forms/frmPayOpt.h"
-#include "forms/frmPersInfo.h"
+#include "help/information_viewer.h"
 #include "records/history.h"
-#include "server/server_files.h"
-#include "session/session_values.h"
+#include "records/session_notice.h"
+#include "session/payment_options.h"
 
 namespace benevix {
 
-// Finalizes a session: makes its transaction, notifies the server, opens the payment page and
-// records the history.
+// Continue: sends the notice of the session, opens its payment page and records it in the history.
 class Finalization {
  public:
-  // The windows it reads and writes.
-  struct Windows {
-    frmBVX& main;
-    frmPayOpt& payment;
-    const frmPersInfo& contact;
-    frmInfo& viewer;
-  };
-
-  Finalization(Windows windows, const SessionValues& values, FeeRates& rates, RunValues& run,
-               Desk& desk, ServerFiles& server, SettingsStore& settings, const TextCodec& codec,
-               Messages& messages, History& history, Surroundings& surroundings)
-      : windows_(windows),
-        values_(values),
-        rates_(rates),
-        run_(run),
+  Finalization(frmBVX& main, Desk& desk, PaymentOptions& payment, SessionNotice& notice,
+               InformationViewer& viewer, History& history, Messages& messages,
+               const Deployment& deployment)
+      : main_(main),
         desk_(desk),
-        server_(server),
-        settings_(settings),
-        codec_(codec),
-        messages_(messages),
+        payment_(payment),
+        notice_(notice),
+        viewer_(viewer),
         history_(history),
-        surroundings_(surroundings) {}
+        messages_(messages),
+        deployment_(deployment) {}
 
   // The Continue button.
   void Command1_Click();
 
-  // `heading` becomes the session's heading line. Without a payment method its window is shown and
-  // nothing else happens.
-  void Finalize(std::string& heading);
+  // Without a payment method its window is shown and nothing else happens.
+  void Finalize();
 
-  // The heading of the last finalized session, for its printout.
-  [[nodiscard]] const std::string& LastHeading() const { return lastHeading_; }
+  // The last session that was finalized, for its printout.
   [[nodiscard]] const SessionRecord& LastRecord() const { return lastRecord_; }
 
  private:
-  // What is prepared before anything is sent.
-  struct Prepared {
-    int option = 0;
-    std::string contact;  // scrambled
-    std::string records;  // the organizations, and the ranking
-    SessionRecord session;
-  };
+  void Commit(const SessionNotice::Outcome& sent);
+  void RestorePointer() { main_.mousePointer = MousePointer::Default; }
+  void Fail(std::uint8_t message);
 
-  void Run(int option, std::string& heading);
-  [[nodiscard]] Prepared Prepare(int option);
-  [[nodiscard]] std::string ContactText() const;
-  [[nodiscard]] std::string RankingText();
-  // Whether the server took the notice; the program ends when the notice has an empty field.
-  [[nodiscard]] bool SendNotice(const Prepared& prepared);
-  void OpenPaymentPage(const Prepared& prepared);
-  void RestorePointer() { windows_.main.mousePointer = MousePointer::Default; }
-  void ShowUnavailable();
-
-  Windows windows_;
-  const SessionValues& values_;
-  FeeRates& rates_;
-  RunValues& run_;
+  frmBVX& main_;
   Desk& desk_;
-  ServerFiles& server_;
-  SettingsStore& settings_;
-  const TextCodec& codec_;
-  Messages& messages_;
+  PaymentOptions& payment_;
+  SessionNotice& notice_;
+  InformationViewer& viewer_;
   History& history_;
-  Surroundings& surroundings_;
-  std::string lastHeading_;
+  Messages& messages_;
+  const Deployment& deployment_;
   SessionRecord lastRecord_;
 };
 

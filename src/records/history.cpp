@@ -3,25 +3,17 @@
 #include "base/runtime_error.h"
 
 namespace benevix {
-namespace {
 
-std::string DateAndTime(const DateTime& time) {
-  return DateText(time) + " @ " + TimeText(time);
-}
-
-}  // namespace
-
-void History::WriteHistory(const SessionRecord& record, const ListView& list,
-                           std::string& heading) {
-  heading =
-      record.transactionId + "," + record.amountText + "," + DateAndTime(surroundings_.clock.Now());
+SessionRecord History::WriteHistory(SessionRecord record, const ListView& list) {
+  record.time = surroundings_.clock.Now();
   const std::string end = "\r\n";
-  std::string text = "-- " + DateAndTime(surroundings_.clock.Now()) + end;
-  text += TransactionLine(record) + end;
-  for (const std::string& line : OrganizationLines(list)) text += line + end;
-  text += PaymentLine(record) + end + end;
-  pending_ += text;
+  // Read once more on purpose: the record bears the instant in which it is written.
+  pending_ += HeadingLine(surroundings_.clock.Now()) + end;
+  pending_ += TransactionLine(record) + end;
+  for (const std::string& line : OrganizationLines(list)) pending_ += line + end;
+  pending_ += PaymentLine(record) + end + end;
   WritePending();
+  return record;
 }
 
 void History::WritePending() {
@@ -40,9 +32,7 @@ void History::WritePending() {
 
 void History::ShowHistory() {
   if (!surroundings_.files.Exists(File())) return;
-  desk_.Load(viewer_);
   viewer_.ShowPage(File(), "Donation History");
-  desk_.Show(viewer_);
 }
 
 }  // namespace benevix

@@ -2,9 +2,8 @@
 
 #include <string>
 
-#include "controls/desk.h"
 #include "core/messages.h"
-#include "forms/frmInfo.h"
+#include "help/information_viewer.h"
 #include "platform/surroundings.h"
 #include "records/session_record.h"
 
@@ -13,12 +12,12 @@ namespace benevix {
 // The donation history: a text file that only grows.
 class History {
  public:
-  History(Surroundings& surroundings, Messages& messages, Desk& desk, frmInfo& viewer)
-      : surroundings_(surroundings), messages_(messages), desk_(desk), viewer_(viewer) {}
+  History(Surroundings& surroundings, Messages& messages, InformationViewer& viewer)
+      : surroundings_(surroundings), messages_(messages), viewer_(viewer) {}
 
-  // Appends the session's record in one write. `heading` becomes "ID,amount,date @ time". A record
-  // that cannot be written is told to the user, kept, and tried again with the next one.
-  void WriteHistory(const SessionRecord& record, const ListView& list, std::string& heading);
+  // Appends the session's record in one write; gives it with its time. A record that cannot be
+  // written is told to the user, kept, and tried again with the next one.
+  SessionRecord WriteHistory(SessionRecord record, const ListView& list);
 
   // Tries once more to write what could not be written; at the end of the program.
   void WritePending();
@@ -31,8 +30,7 @@ class History {
 
   Surroundings& surroundings_;
   Messages& messages_;
-  Desk& desk_;
-  frmInfo& viewer_;
+  InformationViewer& viewer_;
   std::string pending_;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <functional>
+#include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -8,44 +9,46 @@
 #include "core/settings_store.h"
 #include "database/organization_database.h"
 #include "forms/frmBVX.h"
-#include "platform/program_info.h"
+#include "platform/surroundings.h"
+#include "session/options_record.h"
 #include "session/session_values.h"
 
 namespace benevix {
 
-// Refills the list with the donations of the last finalized session, from the setting
-// `LastSession`: the date, and six fields for each organization.
+// The last session that was sent, kept in the setting `LastSession` as its date and then "," and
+// the options record of each organization.
 class LastSession {
  public:
   LastSession(frmBVX& main, SessionValues& values, Desk& desk, SettingsStore& settings,
-              const OrganizationDatabase& database, const ProgramInfo& info)
+              const OrganizationDatabase& database, Surroundings& surroundings)
       : main_(main),
         values_(values),
         desk_(desk),
         settings_(settings),
         database_(database),
-        info_(info) {}
+        surroundings_(surroundings) {}
 
+  // Takes "," and the options record of each organization.
+  void Remember(const std::string& records);
+
+  // Refills the list with its donations.
   void mnuRecallSession_Click();
 
  private:
-  struct Record {
-    std::string organization, amount, delivery, from, certificate, proof;
-  };
-
   // Gives the recalled total. Raises RuntimeError for an amount beyond a currency, with the rows
   // before it refilled.
-  Currency RefillRows(const std::vector<Record>& records);
-  // A record's organization may stand in the list file as the first field of a line; then the
-  // line's second field names it.
-  void ReplaceByFile(std::vector<Record>& records) const;
+  Currency RefillRows(const std::vector<OptionsRecord>& records);
+  // An organization may stand in the list file as the first field of a line; then the line's second
+  // field names it. Gives these names.
+  [[nodiscard]] std::map<std::string, std::string> NamesInFile(
+      const std::set<std::string>& ids) const;
 
   frmBVX& main_;
   SessionValues& values_;
   Desk& desk_;
   SettingsStore& settings_;
   const OrganizationDatabase& database_;
-  const ProgramInfo& info_;
+  Surroundings& surroundings_;
 };
 
 }  // namespace benevix

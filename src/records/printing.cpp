@@ -12,7 +12,7 @@ namespace benevix {
 void Printing::mnuPrntSession_Click() {
   PrintDocument([this] {
     PrintWaitNotice();
-    PrintSession(finalization_.LastHeading());
+    PrintSession(finalization_.LastRecord());
   });
 }
 
@@ -85,14 +85,10 @@ void Printing::PrintDocumentEnd() {
             " ------------- ");
 }
 
-void Printing::PrintSession(const std::string& heading) {
+void Printing::PrintSession(const SessionRecord& record) {
   PrintPageHeading();
   PrintTitle(" - Current Session");
-  SessionRecord record = finalization_.LastRecord();
-  std::string_view rest = heading;
-  record.transactionId = CutField(rest, ',');
-  record.amountText = CutField(rest, ',');
-  PrintLine("-- " + std::string(rest));
+  PrintLine(HeadingLine(record.time));
   PrintLine(TransactionLine(record));
   for (const std::string& line : OrganizationLines(main_.ListView1)) PrintLine(line);
   PrintLine(PaymentLine(record));

@@ -36,8 +36,8 @@ class Printing {
   void PrintPageHeading();
   // The document's last lines.
   void PrintDocumentEnd();
-  // `heading` is "ID,amount,date @ time".
-  void PrintSession(const std::string& heading);
+  // With the list as it stands now.
+  void PrintSession(const SessionRecord& record);
   void PrintHistory();
   void PrintTitle(const std::string& title);
   void PrintLine(const std::string& line, int column = 1);

@@ -3,20 +3,19 @@
 #include <cstdio>
 
 #include "base/format.h"
-#include "base/number_text.h"
 #include "database/organization_list.h"
+#include "session/options_record.h"
 
 namespace benevix {
 namespace {
 
 const std::string kIndent(13, ' ');
 
-// Whether the character `back` places from the record's end is a 1.
-bool HasFlag(const std::string& record, std::size_t back) {
-  return record.size() >= back && Val(record.substr(record.size() - back, 1)) == 1;
-}
-
 }  // namespace
+
+std::string HeadingLine(const DateTime& time) {
+  return "-- " + DateText(time) + " @ " + TimeText(time);
+}
 
 std::string TransactionLine(const SessionRecord& record) {
   return kIndent + "Transaction ID: " + record.transactionId + " - Budget: $" +
@@ -32,8 +31,8 @@ std::vector<std::string> OrganizationLines(const ListView& list) {
                        " -  Amount: $" + list.SubItem(row, column::kAmount) +
                        " -  From: " + list.SubItem(row, column::kFrom) +
                        " -  Method: " + list.SubItem(row, column::kPool);
-    if (HasFlag(options, 1)) line += " - Send Proof: [X]";
-    if (HasFlag(options, 3)) line += " - Tax Certificate: [X]";
+    if (AsksForProof(options)) line += " - Send Proof: [X]";
+    if (AsksForCertificate(options)) line += " - Tax Certificate: [X]";
     lines.push_back(line);
   }
   return lines;

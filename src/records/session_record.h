@@ -15,9 +15,11 @@ struct SessionRecord {
   std::string amountText;  // the payment amount as sent
   Currency budget;
   Currency charged;  // Budget plus the fees that the user pays
+  DateTime time;     // when it was recorded
 };
 
 // The lines of a record, without line ends.
+std::string HeadingLine(const DateTime& time);
 std::string TransactionLine(const SessionRecord& record);
 std::vector<std::string> OrganizationLines(const ListView& list);
 // Raises RuntimeError when the amount is beyond a currency.

@@ -1,9 +1,7 @@
 #include "server/list_update.h"
 
-#include "base/lines.h"
 #include "base/number_text.h"
 #include "base/runtime_error.h"
-#include "core/wait_notice.h"
 #include "database/organization_list.h"
 
 namespace benevix {
@@ -16,24 +14,19 @@ bool IsUsable(const std::string& answer) {
 }  // namespace
 
 std::string ListUpdate::Download(const std::string& path, HttpOptions options) {
-  WaitNotice notice(wait_, desk_, surroundings_.waits);
+  WaitNotice notice(wait_);
   options.limit = kDownloadLimit;
   options.progress = notice.Progress();
-  return fetch_(path, options);
+  return server_.FetchServerText(path, options);
 }
 
 void ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
   try {
-    std::string reply;
-    try {
-      reply = fetch_("53rv3r/dbcurrver.dat", {});
-    } catch (const RuntimeError&) {
-      // No answer counts as an empty one.
-    }
     const auto noServer = [&] {
       if (!silent) messages_.ShowMessage(message::kNoServer, message_kind::kFailedToConnect);
     };
-    if (!IsUsable(reply)) return noServer();
+    const std::string reply = server_.FetchUsable("53rv3r/dbcurrver.dat");
+    if (reply.empty()) return noServer();
     const float version = ToSingle(Val(reply));
     if (version == run_.DBVersion && !silent) {
       messages_.ShowMessage(message::kNoUpdates, message_kind::kNone);
@@ -64,6 +57,8 @@ bool ListUpdate::InstallList() {
   const std::string temporary = info.Resource("$shrdb.dat");
   const bool isList = files.ReadAll(temporary).starts_with(kListHeader);
   if (isList) {
+    // The doubled "d" is meant: an installation links that name to sharedb.dat, from where the list
+    // is loaded.
     files.Remove(info.Resource("sharedb.dat"));
     files.Copy(temporary, info.Resource("/shareddb.dat"));
   }

@@ -1,30 +1,26 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
-#include "controls/desk.h"
 #include "core/messages.h"
 #include "core/run_values.h"
-#include "forms/frmWait.h"
+#include "core/wait_notice.h"
 #include "platform/surroundings.h"
+#include "server/server_files.h"
 
 namespace benevix {
 
 // Replaces the organization list by a newer one of the server.
 class ListUpdate {
  public:
-  ListUpdate(Surroundings& surroundings, ServerFetch fetch, Messages& messages,
-             const RunValues& run, frmWait& wait, Desk& desk)
-      : surroundings_(surroundings),
-        fetch_(std::move(fetch)),
-        messages_(messages),
-        run_(run),
-        wait_(wait),
-        desk_(desk) {}
+  ListUpdate(Surroundings& surroundings, ServerFiles& server, Messages& messages,
+             const RunValues& run, WaitWindow wait)
+      : surroundings_(surroundings), server_(server), messages_(messages), run_(run), wait_(wait) {}
 
   // Compares the server's version with DBVersion and downloads a newer list into the temporary
-  // file. `ready` becomes true when it may be installed at once, which only the silent check says.
+  // file. `ready` becomes true when it may be installed at once, which only the silent check says;
+  // what a user's own check has downloaded waits for the next start. Without `download`, which
+  // every caller sets, it only compares.
   void CheckListUpdate(bool silent, bool download, bool& ready);
 
   // Installs the temporary file and deletes it; false when it is no list file.
@@ -39,11 +35,10 @@ class ListUpdate {
   [[nodiscard]] std::string Download(const std::string& path, HttpOptions options = {});
 
   Surroundings& surroundings_;
-  ServerFetch fetch_;
+  ServerFiles& server_;
   Messages& messages_;
   const RunValues& run_;
-  frmWait& wait_;
-  Desk& desk_;
+  WaitWindow wait_;
 };
 
 }  // namespace benevix

@@ -24,7 +24,7 @@ void News::LoadNews() {
   const auto equals = news.find('=');
   if (equals == std::string::npos) return Hide();
   // By character codes on purpose: the server's versions are written for it.
-  if (news.substr(equals + 1) > program_.Version()) return Show(news.substr(0, equals));
+  if (news.substr(equals + 1) > info_.Version()) return Show(news.substr(0, equals));
   Hide();
 }
 
@@ -56,7 +56,8 @@ void News::Label12_Click() {
       if (kind == 2) {
         downloadUpdater_();
       } else {
-        ShowNewsPage();
+        viewer_.ShowPage(server_.Base() + "53rv3r/bvxnews.html", frmInfo::kTitle,
+                         Attention::KeepsMainDisabled);
       }
     }
   }
@@ -71,12 +72,6 @@ void News::Quiet() {
   main_.Shape5.fillColor = colors::kButtonFace;
   main_.Label12.foreColor = colors::kInactiveBorder;
   main_.Shape5.meaning = kNoNews;
-}
-
-void News::ShowNewsPage() {
-  desk_.Load(info_);
-  desk_.Show(info_, Modality::Modeless, Attention::KeepsMainDisabled);
-  info_.ShowPage(program_.deployment.serverBase + "53rv3r/bvxnews.html");
 }
 
 }  // namespace benevix

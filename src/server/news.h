@@ -3,10 +3,9 @@
 #include <functional>
 #include <string>
 
-#include "controls/desk.h"
 #include "core/messages.h"
 #include "forms/frmBVX.h"
-#include "forms/frmInfo.h"
+#include "help/information_viewer.h"
 #include "server/server_files.h"
 
 namespace benevix {
@@ -15,14 +14,13 @@ namespace benevix {
 // question that leads to the updater, any other a question that leads to the news page.
 class News {
  public:
-  News(frmBVX& main, frmInfo& info, Desk& desk, ServerFiles& server, Messages& messages,
-       const ProgramInfo& program, std::function<void()> downloadUpdater)
+  News(frmBVX& main, InformationViewer& viewer, ServerFiles& server, Messages& messages,
+       const ProgramInfo& info, std::function<void()> downloadUpdater)
       : main_(main),
-        info_(info),
-        desk_(desk),
+        viewer_(viewer),
         server_(server),
         messages_(messages),
-        program_(program),
+        info_(info),
         downloadUpdater_(std::move(downloadUpdater)) {}
 
   void LoadNews();
@@ -32,14 +30,12 @@ class News {
   void Show(const std::string& news);
   void Hide();
   void Quiet();
-  void ShowNewsPage();
 
   frmBVX& main_;
-  frmInfo& info_;
-  Desk& desk_;
+  InformationViewer& viewer_;
   ServerFiles& server_;
   Messages& messages_;
-  const ProgramInfo& program_;
+  const ProgramInfo& info_;
   std::function<void()> downloadUpdater_;
 };
 

@@ -1,18 +1,13 @@
 #include "server/server_files.h"
 
 #include "base/runtime_error.h"
+#include "server/connection.h"
 #include "session/fees.h"
 
 namespace benevix {
 
-std::string ServerFiles::OpenURL(const std::string& address, HttpOptions options) {
-  options.proxy = main_.Inet1.proxy;
-  options.timeout = main_.Inet1.requestTimeout;
-  return surroundings_.http.OpenURL(address, options);
-}
-
 std::string ServerFiles::FetchServerText(const std::string& path, HttpOptions options) {
-  return OpenURL(surroundings_.info.deployment.serverBase + path, std::move(options));
+  return OpenURL(surroundings_.http, main_.Inet1, Base() + path, std::move(options));
 }
 
 std::string ServerFiles::FetchUsable(const std::string& path) {
@@ -24,8 +19,9 @@ std::string ServerFiles::FetchUsable(const std::string& path) {
   }
 }
 
-void ServerFiles::CheckServerStatus() {
+bool ServerFiles::CheckServerStatus() {
   run_.ServerOK = FetchUsable("53rv3r/status.txt") == "server ok";
+  return run_.ServerOK;
 }
 
 std::optional<ServerFiles::ContactData> ServerFiles::GetContactData() {
@@ -35,9 +31,9 @@ std::optional<ServerFiles::ContactData> ServerFiles::GetContactData() {
   return ContactData{answer.substr(0, comma), answer.substr(comma + 1)};
 }
 
-void ServerFiles::LoadFeeRates(FeeRates& rates) {
+void ServerFiles::LoadFeeRates() {
   try {
-    ReadFeeRates(FetchServerText("53rv3r/rates.dat"), rates, main_);
+    ReadFeeRates(FetchServerText("53rv3r/rates.dat"), rates_, main_);
   } catch (const RuntimeError&) {
     // What was read so far stands.
   }

@@ -10,23 +10,23 @@
 
 namespace benevix {
 
-// The one way files of the server are fetched, and the small files that more than one room reads.
+// The one way files of the server are fetched, and the small files that several modules read.
 class ServerFiles {
  public:
-  ServerFiles(Surroundings& surroundings, frmBVX& main, RunValues& run)
-      : surroundings_(surroundings), main_(main), run_(run) {}
+  ServerFiles(Surroundings& surroundings, frmBVX& main, FeeRates& rates, RunValues& run)
+      : surroundings_(surroundings), main_(main), rates_(rates), run_(run) {}
 
-  // The answer of the server base address followed by `path`; RuntimeError when none comes.
+  // The server base address, which ends in "/".
+  [[nodiscard]] const std::string& Base() const { return surroundings_.info.deployment.serverBase; }
+
+  // The answer of the base address followed by `path`; RuntimeError when none comes.
   std::string FetchServerText(const std::string& path, HttpOptions options = {});
-
-  // An address that is built already, through the same control.
-  std::string OpenURL(const std::string& address, HttpOptions options = {});
 
   // Empty when no usable answer comes: none at all, or an error page.
   std::string FetchUsable(const std::string& path);
 
-  // ServerOK becomes true only when the status file answers "server ok" exactly.
-  void CheckServerStatus();
+  // ServerOK becomes true only when the status file answers "server ok" exactly; gives it.
+  bool CheckServerStatus();
 
   struct ContactData {
     std::string script;     // path of the mail script
@@ -35,11 +35,12 @@ class ServerFiles {
   std::optional<ContactData> GetContactData();
 
   // Reads the fee rates; an error ends it with the values read so far.
-  void LoadFeeRates(FeeRates& rates);
+  void LoadFeeRates();
 
  private:
   Surroundings& surroundings_;
   frmBVX& main_;
+  FeeRates& rates_;
   RunValues& run_;
 };
 

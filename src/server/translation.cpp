@@ -3,6 +3,7 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "database/organization_list.h"
+#include "server/connection.h"
 
 namespace benevix {
 namespace {
@@ -12,7 +13,7 @@ using namespace translate_field;
 }  // namespace
 
 void Translation::Label3_Click() {
-  windows_.viewer.Label3.tag = "Yes";
+  windows_.info.Label3.tag = "Yes";
   desk_.Show(windows_.preferences);
 }
 
@@ -46,28 +47,24 @@ std::string Translation::RequestAddress() const {
 }
 
 std::string Translation::Fetch() const {
-  const HttpControl& control = windows_.main.Inet2;
-  HttpOptions options;
-  options.proxy = control.proxy;
-  options.timeout = control.requestTimeout;
   try {
-    return surroundings_.http.OpenURL(RequestAddress(), options);
+    return OpenURL(surroundings_.http, windows_.main.Inet2, RequestAddress());
   } catch (const RuntimeError&) {
     return {};
   }
 }
 
 void Translation::Translate() {
-  frmInfo& viewer = windows_.viewer;
-  if (viewer.Label3.tag != "Yes") return;
+  frmInfo& info = windows_.info;
+  if (info.Label3.tag != "Yes") return;
   windows_.preferences.mousePointer = MousePointer::Hourglass;
   const std::string page = JudgeTranslation(Fetch());
   windows_.preferences.mousePointer = MousePointer::Default;
   const std::string file = surroundings_.info.Resource("tmp.html");
   surroundings_.files.Replace(file, page + "\r\n");
-  viewer.ShowPage(FromUtf8(file), viewer.caption);
-  viewer.Label3.tag.clear();
-  viewer.Label3.visible = false;
+  viewer_.ShowPage(FromUtf8(file), std::string(info.caption));
+  info.Label3.tag.clear();
+  info.Label3.visible = false;
   desk_.Unload(windows_.preferences);
 }
 

@@ -7,6 +7,7 @@
 #include "forms/frmBVX.h"
 #include "forms/frmInfo.h"
 #include "forms/frmPrefsTranslate.h"
+#include "help/information_viewer.h"
 #include "platform/surroundings.h"
 
 namespace benevix {
@@ -16,12 +17,17 @@ class Translation {
  public:
   struct Windows {
     frmPrefsTranslate& preferences;
-    frmInfo& viewer;
-    frmBVX& main;
+    frmInfo& info;
+    const frmBVX& main;
   };
 
-  Translation(Windows windows, Desk& desk, SettingsStore& settings, Surroundings& surroundings)
-      : windows_(windows), desk_(desk), settings_(settings), surroundings_(surroundings) {}
+  Translation(Windows windows, InformationViewer& viewer, Desk& desk, SettingsStore& settings,
+              Surroundings& surroundings)
+      : windows_(windows),
+        viewer_(viewer),
+        desk_(desk),
+        settings_(settings),
+        surroundings_(surroundings) {}
 
   // The viewer's TRANSLATE.
   void Label3_Click();
@@ -36,6 +42,7 @@ class Translation {
   [[nodiscard]] std::string Fetch() const;
 
   Windows windows_;
+  InformationViewer& viewer_;
   Desk& desk_;
   SettingsStore& settings_;
   Surroundings& surroundings_;

@@ -9,7 +9,7 @@ namespace benevix {
 void YearToDate::DownloadYtd() {
   run_.YtdState = 0;
   try {
-    const std::string table = fetch_("53rv3r/ytdt.dat", {});
+    const std::string table = server_.FetchServerText("53rv3r/ytdt.dat");
     if (table.empty() || table[0] == '<') return;
     surroundings_.files.Replace(File(), table + "\r\n");
     run_.YtdState = 1;

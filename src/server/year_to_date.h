@@ -8,6 +8,7 @@
 #include "forms/frmBVX.h"
 #include "forms/frmYtdTag.h"
 #include "platform/surroundings.h"
+#include "server/server_files.h"
 
 namespace benevix {
 
@@ -15,10 +16,10 @@ namespace benevix {
 // a copy for the time of a run.
 class YearToDate {
  public:
-  YearToDate(Surroundings& surroundings, ServerFetch fetch, RunValues& run, frmBVX& main,
+  YearToDate(Surroundings& surroundings, ServerFiles& server, RunValues& run, frmBVX& main,
              frmYtdTag& window, Desk& desk)
       : surroundings_(surroundings),
-        fetch_(std::move(fetch)),
+        server_(server),
         run_(run),
         main_(main),
         window_(window),
@@ -48,7 +49,7 @@ class YearToDate {
   [[nodiscard]] std::string File() const { return surroundings_.info.Resource("ytd.dat"); }
 
   Surroundings& surroundings_;
-  ServerFetch fetch_;
+  ServerFiles& server_;
   RunValues& run_;
   frmBVX& main_;
   frmYtdTag& window_;

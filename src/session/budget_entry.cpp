@@ -1,15 +1,15 @@
 #include "session/budget_entry.h"
 
-#include "base/format.h"
+#include <algorithm>
+
 #include "base/number_text.h"
 #include "base/runtime_error.h"
-#include "session/hints.h"
 #include "session/totals.h"
 
 namespace benevix {
 
 void BudgetEntry::Enter() {
-  TextBox& box = main_.Text1[0];
+  TextBox& box = main_.Text1[money_box::kBudget];
   const auto typed = ParseNumber(box.text);
   if (!box.typed || !typed) return;
   Currency balance;
@@ -27,11 +27,8 @@ void BudgetEntry::Enter() {
     values_.BudgetEntered = values_.Budget;
     values_.Balance = balance;
     main_.Label8.caption = values_.Balance.ToText();
-    box.fontSize = 9;
-    box.fontBold = true;
-    box.backColor = colors::kLightGrey;
-    main_.Text1[1].backColor = colors::kInactiveTitleText;
-    ShowHint(main_, hint::kSelectFirst);
+    MarkBudgetAccepted(main_);
+    main_.Text1[money_box::kBalance].backColor = colors::kInactiveTitleText;
   }
   method73(values_, main_, desk_);
   main_.Label8.visible = false;
@@ -44,16 +41,9 @@ bool BudgetEntry::ConfirmsLargeBudget() {
       "Alert! ", "You have entered a very large amount of money. Are you sure this is correct",
       BoxIcon::Question, BoxButtons::YesNo);
   if (answer == BoxAnswer::Yes) return true;
-  if (values_.TotalDonated <= Currency()) {
-    main_.Text1[0].Write("");
-    main_.Text1[1].Write("");
-    values_.Budget = Currency();
-  } else {
-    main_.Text1[0].Write(values_.TotalDonated.ToText());
-    values_.Budget = values_.TotalDonated;
-    main_.Text1[1].Write("0");
-    values_.Balance = Currency();
-  }
+  // Back to what is given already.
+  values_.Budget = std::max(values_.TotalDonated, Currency());
+  if (values_.TotalDonated > Currency()) values_.Balance = Currency();
   return false;
 }
 

@@ -63,18 +63,26 @@ void Charges::Show() {
   }
 }
 
+PaymentDue Charges::Due() const {
+  const int method = ChosenMethod();
+  const ListView& list = main_.ListView1;
+  return {Payee(rates_, method),
+          PaymentAmount(values_, rates_, ServiceFeeTotal(list), method, main_.mnuRound.checked),
+          values_.Budget, ChargedTotal(values_, rates_, list, method, main_.mnuAddFees.checked)};
+}
+
 // Fees that come on top of the Budget stand behind what is left of it.
 void Charges::ShowUse(Currency serviceFees, const ByMethod& charges) {
   using Part = MoneyBar::Part;
   MoneyBar& bar = main_.BudgetUse;
   bar = MoneyBar();
-  const auto method = static_cast<std::size_t>(std::max(Chosen(payment_.Option1), 0));
+  const auto method = static_cast<std::size_t>(std::max(ChosenMethod(), 0));
   const bool deducts = main_.mnuDeductFees.checked;
   Currency methodFee;
   if (deducts) {
     methodFee = CardFeeTotal(main_.ListView1);
     if (values_.SessionFeeTaken) methodFee += rates_.SessionFee;
-  } else if (charges[method] && Chosen(payment_.Option1) >= 0) {
+  } else if (charges[method] && ChosenMethod() >= 0) {
     methodFee = charges[method]->methodFee;
   }
   const Part left{Part::Use::Left, "Left", values_.Balance};

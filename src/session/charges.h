@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 
 #include "forms/frmBVX.h"
 #include "forms/frmPayOpt.h"
@@ -22,6 +23,14 @@ struct Charge {
 Charge ChargeWith(int option, const SessionValues& values, const FeeRates& rates,
                   Currency serviceFees, bool roundUp);
 
+// What a session comes to when it is paid with the chosen method.
+struct PaymentDue {
+  std::string payee;
+  std::string amountText;  // as the payment page gets it
+  Currency budget;
+  Currency charged;  // Budget plus the fees that the user pays
+};
+
 // Shows, before anything is finalized, how the Budget is used and what each payment method would
 // charge. All of it follows from the session; nothing is kept.
 class Charges {
@@ -31,6 +40,11 @@ class Charges {
 
   // Brings both windows into line with the session; with sums beyond their type they show nothing.
   void Show();
+
+  // A constant of `payment`, or -1 while none is chosen.
+  [[nodiscard]] int ChosenMethod() const { return Chosen(payment_.Option1); }
+  // By the rates as they are now. Raises RuntimeError on overflow.
+  [[nodiscard]] PaymentDue Due() const;
 
  private:
   using ByMethod = std::array<std::optional<Charge>, 3>;

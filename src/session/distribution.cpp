@@ -1,7 +1,5 @@
 #include "session/distribution.h"
 
-#include <algorithm>
-
 #include "base/runtime_error.h"
 #include "database/organization_list.h"
 

@@ -1,6 +1,7 @@
 #include "session/donation_entry.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "base/format.h"
 #include "base/number_text.h"
@@ -8,6 +9,7 @@
 #include "database/organization_list.h"
 #include "session/fees.h"
 #include "session/modes.h"
+#include "session/options_record.h"
 #include "session/totals.h"
 
 namespace benevix {
@@ -21,32 +23,36 @@ Currency WholeDollars(Currency amount) {
   return rest > 0 ? amount + Currency::FromUnits(Currency::kScale - rest) : amount;
 }
 
-// Numeric, and its dollars within 32 bits.
-bool IsWholeNumber(const std::string& text) {
+// Nothing when the text is not numeric, or its dollars are beyond 32 bits.
+std::optional<Currency> AmountIn(const std::string& text) {
   try {
     const auto number = ParseNumber(text);
-    if (number) ToInt32(*number);
-    return number.has_value();
+    if (!number) return std::nullopt;
+    ToInt32(*number);  // raises beyond its range
+    return Currency::FromDouble(*number);
   } catch (const RuntimeError&) {
-    return false;
+    return std::nullopt;
   }
 }
 
 std::string DeliveryText(const frmBVX& main) {
-  if (!main.Option2[0].value) return main.Option2[1].caption;
-  const std::string& caption = main.Option2[0].caption;
+  if (!main.Option2[delivery_option::kPool].value)
+    return main.Option2[delivery_option::kStandAlone].caption;
+  const std::string& caption = main.Option2[delivery_option::kPool].caption;
   return caption.substr(caption.find(' ') + 1);
 }
 
 std::string FromText(const frmBVX& main) {
-  return main.Option1[2].value ? main.Option1[2].caption : main.Combo1.text;
+  return main.Option1[donor_option::kAnonymous].value
+             ? main.Option1[donor_option::kAnonymous].caption
+             : main.Combo1.text;
 }
 
 }  // namespace
 
 void DonationEntry::Text1_Change() {
   try {
-    if (const auto typed = ParseNumber(main_.Text1[2].text)) {
+    if (const auto typed = ParseNumber(main_.Text1[money_box::kDonation].text)) {
       values_.Donation = Currency::FromWhole(ToInt32(*typed));
     }
   } catch (const RuntimeError&) {
@@ -57,10 +63,10 @@ void DonationEntry::Text1_Change() {
 }
 
 void DonationEntry::Enter() {
-  const TextBox& box = main_.Text1[2];
-  if (!box.typed || !IsWholeNumber(box.text)) return;
-  Give(Currency::FromDouble(ParseNumber(box.text).value_or(0)),
-       main_.mnuPercentBal.checked ? Unit::Percent : Unit::Dollars);
+  const TextBox& box = main_.Text1[money_box::kDonation];
+  const auto amount = AmountIn(box.text);
+  if (!box.typed || !amount) return;
+  Give(*amount, main_.mnuPercentBal.checked ? Unit::Percent : Unit::Dollars);
 }
 
 void DonationEntry::Give(Currency amount) {
@@ -78,7 +84,8 @@ bool DonationEntry::IsForeignDonor() const {
 }
 
 Currency DonationEntry::ServiceFee() const {
-  return Currency::FromWhole(main_.Option2[0].value ? rates_.PoolFee : rates_.StandAloneFee);
+  return Currency::FromWhole(main_.Option2[delivery_option::kPool].value ? rates_.PoolFee
+                                                                         : rates_.StandAloneFee);
 }
 
 // The charge for e-checks is taken with the first donation of a session.
@@ -94,7 +101,7 @@ void DonationEntry::Give(Currency amount, Unit unit) {
 
   // A donation that is refused, or whose numbers overflow, leaves the session as it was.
   const SessionValues before = values_;
-  const bool feeModeOpen = main_.Option3[0].enabled;
+  const bool feeModeOpen = main_.Option3[fee_option::kAdd].enabled;
   const auto restore = [&] {
     values_.Balance = before.Balance;
     values_.SessionFeeTaken = before.SessionFeeTaken;
@@ -167,41 +174,39 @@ void DonationEntry::OverLimit(const Row& row) {
   const Currency lacks = values_.Donation + std::max(fees, Currency()) -
                          (Deducts() ? row.available : balance + row.amount);
 
-  const BoxAnswer answer =
-      messages_.Show(messages_.Product() + " - Input Error",
-                     "With the present options the maximum donation is: $" + Maximum(row).ToText() +
-                         ".   Would you like to adjust the Budget instead?   ",
-                     BoxIcon::Information, BoxButtons::YesNo);
+  const BoxAnswer answer = messages_.Show(messages_.Title(message_kind::kInputError),
+                                          kMaximumDonationText + Maximum(row).ToText() +
+                                              ".   Would you like to adjust the Budget instead?   ",
+                                          BoxIcon::Information, BoxButtons::YesNo);
   if (answer != BoxAnswer::Yes) {
-    ++main_.Text1[2].selections;  // the next amount replaces the refused one
+    ++main_.Text1[money_box::kDonation].selections;  // the next amount replaces the refused one
     return;
   }
   const Currency rise = WholeDollars(lacks);
   const Currency raised = values_.Balance + rise;
   values_.Budget += rise;  // both or, when one overflows, none
   values_.Balance = raised;
-  main_.Text1[0].Write(Format(values_.Budget, kMoneyPattern));
-  main_.Text1[1].Write(Format(values_.Balance, kMoneyPattern));
-  main_.Text1[1].foreColor = colors::kRed;
-  main_.Text1[2].Write("");
+  main_.Text1[money_box::kBudget].Write(Format(values_.Budget, kMoneyPattern));
+  main_.Text1[money_box::kBalance].Write(Format(values_.Balance, kMoneyPattern));
+  main_.Text1[money_box::kBalance].foreColor = colors::kRed;
+  main_.Text1[money_box::kDonation].Write("");
 }
 
 Currency DonationEntry::Maximum(const Row& row) const {
   if (!Deducts()) return std::max(row.available - row.fee - row.cardFee, Currency());
   if (!DeductsCardFee()) return std::max(row.available - values_.BvxFee, Currency());
-  return LargestWithin(row.available - values_.BvxFee, values_.BvxFee);
+  return LargestWithCardFee(row.available - values_.BvxFee, values_.BvxFee);
 }
 
 Currency DonationEntry::LargestWithin(Currency room) const {
   if (TakesSessionFee()) room -= rates_.SessionFee;
   if (Deducts()) room -= ServiceFee();
-  if (DeductsCardFee()) return LargestWithin(room, ServiceFee());
+  if (DeductsCardFee()) return LargestWithCardFee(room, ServiceFee());
   return Currency::FromUnits(std::max<std::int64_t>(room.Units() / kCent, 0) * kCent);
 }
 
-// The largest donation whose card fee, with the rate that the next one will use, fits as well. The
-// fee grows with the donation, so it can be halved in on.
-Currency DonationEntry::LargestWithin(Currency left, Currency serviceFee) const {
+// The fee grows with the donation, so a binary search finds the largest.
+Currency DonationEntry::LargestWithCardFee(Currency left, Currency serviceFee) const {
   const FeeRates next = NextCardRates(rates_, IsForeignDonor());
   std::int64_t fits = 0;
   std::int64_t tooMuch = std::max<std::int64_t>(left.Units() / kCent, 0) + 1;
@@ -235,6 +240,8 @@ void DonationEntry::MoveMoney(const Row& row) {
     ++list.changes;
   }
   values_.Balance = balance;
+  // Meant so, in both fee modes: what would overdraw the Balance is given less one service fee, and
+  // the Balance is then used up.
   if (values_.Balance < Currency()) {
     values_.Donation -= values_.BvxFee;
     values_.Balance = Currency();
@@ -252,18 +259,18 @@ void DonationEntry::method72(int row) {
 
 void DonationEntry::WriteRow(int row) {
   ListView& list = main_.ListView1;
-  main_.Text1[1].Write(Format(values_.Balance, kMoneyPattern));
   if (values_.Donation != Currency()) {
     method72(row);
-    list.SetSubItem(
-        row, column::kRecord,
-        list.SubItem(row, column::kId) + "," + list.SubItem(row, column::kAmount) + "," +
-            list.SubItem(row, column::kPool) + "," + list.SubItem(row, column::kFrom) + "," +
-            std::to_string(main_.Check2.value) + "," + std::to_string(main_.Check1.value));
+    const OptionsRecord record{.organization = list.SubItem(row, column::kId),
+                               .amount = list.SubItem(row, column::kAmount),
+                               .delivery = list.SubItem(row, column::kPool),
+                               .from = list.SubItem(row, column::kFrom),
+                               .certificate = std::to_string(main_.Check2.value),
+                               .proof = std::to_string(main_.Check1.value)};
+    list.SetSubItem(row, column::kRecord, record.ToText());
   }
-  main_.Text1[2].Write("");
+  main_.Text1[money_box::kDonation].Write("");
   RecalcTotalDonated(values_, list);
-  desk_.SetFocus(list);
 }
 
 }  // namespace benevix

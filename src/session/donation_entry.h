@@ -71,7 +71,8 @@ class DonationEntry {
   [[nodiscard]] bool IsOverLimit(const Row& row) const;
   void OverLimit(const Row& row);
   [[nodiscard]] Currency Maximum(const Row& row) const;
-  [[nodiscard]] Currency LargestWithin(Currency left, Currency serviceFee) const;
+  // The largest donation that fits into `left` with its card fee, at the rate of the next one.
+  [[nodiscard]] Currency LargestWithCardFee(Currency left, Currency serviceFee) const;
   void MoveMoney(const Row& row);
   void WriteRow(int row);
 

@@ -11,7 +11,7 @@ bool EditCommands::RowCarriesDonation() const {
 
 void EditCommands::mnuCls_Click() {
   if (RowCarriesDonation()) donation_.Give(Currency());
-  main_.Text1[2].Write("");
+  main_.Text1[money_box::kDonation].Write("");
 }
 
 void EditCommands::mnuCorrect_Click() {

@@ -5,7 +5,6 @@
 #include <set>
 
 #include "base/number_text.h"
-#include "base/runtime_error.h"
 
 namespace benevix {
 namespace {

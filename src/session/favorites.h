@@ -1,16 +1,12 @@
 #pragma once
 
-#include <functional>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "core/messages.h"
 #include "core/settings_store.h"
 #include "database/organization_database.h"
 #include "forms/frmBVX.h"
-#include "session/donation_entry.h"
 #include "session/list_view_events.h"
 
 namespace benevix {

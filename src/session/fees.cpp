@@ -36,7 +36,8 @@ Currency CardFeeOf(Currency donation, Currency serviceFee, const FeeRates& rates
 }
 
 Currency ComputeCardFee(const SessionValues& values, FeeRates& rates, bool foreign) {
-  rates = NextCardRates(rates, foreign);
+  rates =
+      NextCardRates(rates, foreign);  // kept on purpose: the rate of a foreign donor goes on rising
   return CardFeeOf(values.Donation, values.BvxFee, rates);
 }
 
@@ -50,9 +51,9 @@ void ReadFeeRates(const std::string& text, FeeRates& rates, frmBVX& main) {
   }
   std::string_view rest = text;
   rates.PoolFee = ToInt16(Val(CutField(rest, ',')));
-  AddFeeToToolTip(main.Option2[0], rates.PoolFee);
+  AddFeeToToolTip(main.Option2[delivery_option::kPool], rates.PoolFee);
   rates.StandAloneFee = ToInt16(Val(CutField(rest, ',')));
-  AddFeeToToolTip(main.Option2[1], rates.StandAloneFee);
+  AddFeeToToolTip(main.Option2[delivery_option::kStandAlone], rates.StandAloneFee);
   rates.CardRate = Currency::FromText(CutField(rest, ','));
   rates.CardFixed = Currency::FromText(CutField(rest, ','));
   rates.PublishedCardRate = rates.CardRate;

@@ -1,7 +1,7 @@
 #include "session/list_typing.h"
 
 #include <algorithm>
-#include <cmath>
+#include <cstdlib>
 
 #include "base/text.h"
 

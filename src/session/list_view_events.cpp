@@ -18,7 +18,8 @@ void ListViewEvents::ListView1_ItemClick(const EventArgs& args) {
 
 void ListViewEvents::ListView1_KeyUp(const EventArgs& args) {
   if (args.key != keys::kEnter || main_.ListView1.selected == 0) return;
-  desk_.SetFocus(main_.Text1[main_.Text1[0].text.empty() ? 0 : 2]);
+  const bool hasBudget = !main_.Text1[money_box::kBudget].text.empty();
+  desk_.SetFocus(main_.Text1[hasBudget ? money_box::kDonation : money_box::kBudget]);
 }
 
 void ListViewEvents::EnableOrganizationCommands(bool enabled) {
@@ -30,11 +31,11 @@ void ListViewEvents::EnableOrganizationCommands(bool enabled) {
 }
 
 void ListViewEvents::LeftClick(bool organization, bool byKeyboard) {
-  if (main_.Text1[0].text.empty()) {
-    if (!byKeyboard) desk_.SetFocus(main_.Text1[0]);
+  if (main_.Text1[money_box::kBudget].text.empty()) {
+    if (!byKeyboard) desk_.SetFocus(main_.Text1[money_box::kBudget]);
     return;
   }
-  main_.Text1[2].enabled = organization;
+  main_.Text1[money_box::kDonation].enabled = organization;
   main_.mnuDistribFavs.enabled = organization;
   if (organization) {
     for (OptionButton& option : main_.Option1) option.enabled = true;

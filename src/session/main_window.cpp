@@ -13,12 +13,12 @@ void MainWindow::Text1_KeyPress(EventArgs& args) {
 
 void MainWindow::Text1_KeyUp(int index, const EventArgs& args) {
   if (args.key != keys::kEnter && args.key != keys::kTab) return;
-  if (index == 0) budget_.Enter();
-  if (index == 2) donation_.Enter();
+  if (index == money_box::kBudget) budget_.Enter();
+  if (index == money_box::kDonation) donation_.Enter();
 }
 
 void MainWindow::Text1_Change(int index) {
-  if (index == 2) donation_.Text1_Change();
+  if (index == money_box::kDonation) donation_.Text1_Change();
 }
 
 void MainWindow::Text1_GotFocus(int index) {

@@ -6,7 +6,7 @@ void SetFeeMode(frmBVX& main, FeeMode mode) {
   const bool deduct = mode == FeeMode::Deduct;
   main.mnuAddFees.checked = !deduct;
   main.mnuDeductFees.checked = deduct;
-  Choose(main.Option3, deduct ? 1 : 0);
+  Choose(main.Option3, deduct ? fee_option::kDeduct : fee_option::kAdd);
 }
 
 void EnableFeeMode(frmBVX& main, bool enabled) {

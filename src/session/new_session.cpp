@@ -45,7 +45,7 @@ void ResetSession(frmBVX& main, SessionValues& values, Desk& desk) {
   ResetSessionControls(main);
   // Gone even when the reload fails, so that no donation outlives its session.
   main.ListView1.SetRows(nullptr);
-  desk.SetFocus(main.Text1[0]);
+  desk.SetFocus(main.Text1[money_box::kBudget]);
 }
 
 }  // namespace benevix

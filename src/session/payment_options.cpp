@@ -5,7 +5,7 @@
 namespace benevix {
 
 void PaymentOptions::AskOnce() {
-  if (Chosen(window_.Option1) >= 0) return;
+  if (IsChosen()) return;
   desk_.Show(window_, Modality::Modeless, Attention::KeepsMainDisabled);
 }
 
@@ -30,7 +30,7 @@ void PaymentOptions::Continue() {
   main_.mnuChgPayMethod.enabled = false;
   const int chosen = Chosen(window_.Option1);
   if (chosen >= 0) main_.Label4.caption = window_.Option1[chosen].caption + " Payment method ";
-  main_.Label4.tag = "1";
+  main_.Label4.tag = "1";  // says that a method was chosen; only scripts ask for it
   main_.Timer1.tag.clear();
   main_.Timer1.enabled = true;
   desk_.Hide(window_);

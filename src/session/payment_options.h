@@ -19,6 +19,7 @@ class PaymentOptions {
   PaymentOptions(frmPayOpt& window, frmBVX& main, Desk& desk, Follow follow)
       : window_(window), main_(main), desk_(desk), follow_(std::move(follow)) {}
 
+  [[nodiscard]] bool IsChosen() const { return Chosen(window_.Option1) >= 0; }
   // At the first Budget entry: asks when nothing is chosen yet; the main window waits for it.
   void AskOnce();
   // The menu's Change Payment Method.

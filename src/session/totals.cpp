@@ -15,18 +15,20 @@ void RecalcTotalDonated(SessionValues& values, const ListView& list) {
 }
 
 void method73(const SessionValues& values, frmBVX& main, Desk& desk) {
-  main.Text1[0].Write(Format(values.Budget, kMoneyPattern));
-  main.Text1[1].Write(Format(values.Balance, kMoneyPattern));
-  if (values.Balance > Currency()) {
-    main.Text1[1].foreColor = colors::kBlack;
-    ShowHint(main, hint::kSelectAnother);
-  } else {
-    main.Text1[1].Write("0.00");
-    main.Text1[1].foreColor = colors::kRed;
-    ShowHint(main, hint::kContinue);
-  }
+  const bool isLeft = values.Balance > Currency();
+  TextBox& balance = main.Text1[money_box::kBalance];
+  main.Text1[money_box::kBudget].Write(Format(values.Budget, kMoneyPattern));
+  balance.Write(isLeft ? Format(values.Balance, kMoneyPattern) : "0.00");
+  balance.foreColor = isLeft ? colors::kBlack : colors::kRed;
+  ShowHint(main, isLeft ? hint::kSelectAnother : hint::kContinue);
   main.Command1.enabled = values.Balance <= values.BvxFee;
   desk.SetFocus(main.ListView1);
+}
+
+void MarkBudgetAccepted(frmBVX& main) {
+  main.Text1[money_box::kBudget].fontSize = 9;
+  main.Text1[money_box::kBudget].fontBold = true;
+  main.Text1[money_box::kBudget].backColor = colors::kLightGrey;
 }
 
 }  // namespace benevix

@@ -164,7 +164,7 @@ TEST_F(MirrorTest, InputDuringAWaitIsThrownAway) {
 TEST_F(MirrorTest, TheWaitNoticeFollowsTheBytesOfARequestAndGoes) {
   const auto window = [&]() -> QWidget& { return mirror.BindingOf(wait)->Widget(); };
   input.Enter([&] {
-    WaitNotice notice(wait, desk, mirror);
+    WaitNotice notice({wait, desk, mirror});
     const WaitScope request(mirror);
     ASSERT_TRUE(window().isVisible());
     auto& bar = *window().findChild<QProgressBar*>();
@@ -180,7 +180,7 @@ TEST_F(MirrorTest, TheWaitNoticeFollowsTheBytesOfARequestAndGoes) {
   });
   EXPECT_EQ(mirror.BindingOf(wait), nullptr);
   input.Enter([&] {
-    const WaitNotice again(wait, desk, mirror);
+    const WaitNotice again({wait, desk, mirror});
     mirror.DoEvents();
     EXPECT_EQ(window().findChild<QProgressBar*>()->maximum(), 0);
   });

@@ -10,13 +10,11 @@ namespace {
 
 class HistoryTest : public testing::Test, public ProgramOfATest {
  protected:
-  std::string Write(const std::string& id) {
+  SessionRecord Write(const std::string& id) {
     ListView list = ListOfATest();
     PutDonation(list, 2, "2,5.00,Pool,John Doe,0,1");
-    std::string heading = "old";
-    history_.WriteHistory({id, "7.50", Currency::FromWhole(5), Currency::FromWhole(7)}, list,
-                          heading);
-    return heading;
+    return history_.WriteHistory({id, "7.50", Currency::FromWhole(5), Currency::FromWhole(7), {}},
+                                 list);
   }
   static std::string Record(const std::string& id) {
     const std::string indent(13, ' ');
@@ -29,12 +27,13 @@ class HistoryTest : public testing::Test, public ProgramOfATest {
 
   std::string path_ = world.info.Resource("history.dat");
   Surroundings surroundings_ = program.TheSurroundings();
-  History history_{surroundings_, program.TheMessages(), program.TheDesk(),
-                   program.TheForms().Get<frmInfo>()};
+  InformationViewer viewer_{program.TheForms().Get<frmInfo>(), program.TheForms().Get<frmBVX>(),
+                            program.TheDesk(), waits};
+  History history_{surroundings_, program.TheMessages(), viewer_};
 };
 
 TEST_F(HistoryTest, WhatCannotBeWrittenIsToldKeptAndTriedAgain) {
-  EXPECT_EQ(Write("A"), "A,7.50,03-05-2003 @ 12:34");
+  EXPECT_EQ(HeadingLine(Write("A").time), "-- 03-05-2003 @ 12:34");
   std::filesystem::rename(path_, path_ + ".kept");
   std::filesystem::create_directory(path_);  // in the file's place
   for (const char* id : {"B", "C"}) {

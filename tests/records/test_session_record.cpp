@@ -34,12 +34,12 @@ TEST(SessionRecord, TellsMoneyInItsThreeForms) {
                {"100.5", "100.5", "101", "101 - BVX Fee: $ . - CC Fee: $.5"},
                {"99.99", "101.99", "50.00", "50.00 - BVX Fee: $ 2. - CC Fee: $-51.99"}};
   for (const auto& [budget, charged, amount, payment] : cases) {
-    const SessionRecord record{"ID", amount, Currency::FromText(budget),
-                               Currency::FromText(charged)};
+    const SessionRecord record{
+        "ID", amount, Currency::FromText(budget), Currency::FromText(charged), {}};
     EXPECT_EQ(TransactionLine(record), kIndent + "Transaction ID: ID - Budget: $" + budget);
     EXPECT_EQ(PaymentLine(record), kIndent + "Payment: $" + payment);
   }
-  EXPECT_THROW(PaymentLine({"ID", "1e300", Currency(), Currency()}), RuntimeError);
+  EXPECT_THROW(PaymentLine({"ID", "1e300", Currency(), Currency(), {}}), RuntimeError);
 }
 
 }  // namespace

@@ -41,18 +41,21 @@ class OpenFile {
     return status;
   }
 
-  // Reads on to `most` bytes or the file's end.
-  [[nodiscard]] std::string Read(std::size_t most) const {
-    std::string bytes(most, '\0');
+  // Reads on to `size` bytes or the file's end; gives their number.
+  std::size_t Read(char* place, std::size_t size) const {
     std::size_t count = 0;
-    while (count < most) {
-      const ssize_t got = read(descriptor_, bytes.data() + count, most - count);
+    while (count < size) {
+      const ssize_t got = read(descriptor_, place + count, size - count);
       if (got == 0) break;
       if (got < 0 && errno == EINTR) continue;
       if (got < 0) Fail(path_);
       count += static_cast<std::size_t>(got);
     }
-    bytes.resize(count);
+    return count;
+  }
+  [[nodiscard]] std::string Read(std::size_t most) const {
+    std::string bytes(most, '\0');
+    bytes.resize(Read(bytes.data(), most));
     return bytes;
   }
 
@@ -77,6 +80,18 @@ class OpenFile {
   int descriptor_;
 };
 
+class LinuxFileReader : public FileReader {
+ public:
+  explicit LinuxFileReader(const std::string& path)
+      : file_(path, O_RDONLY), size_(static_cast<std::size_t>(file_.Status().st_size)) {}
+  [[nodiscard]] std::size_t Size() const override { return size_; }
+  std::size_t Read(char* place, std::size_t size) override { return file_.Read(place, size); }
+
+ private:
+  OpenFile file_;
+  std::size_t size_;
+};
+
 // Makes a file's new name in its folder last.
 void SyncFolderOf(const std::string& path) {
   const std::string folder = std::filesystem::path(path).parent_path().string();
@@ -93,6 +108,10 @@ std::string WithLinksFollowed(const std::string& path) {
 
 bool LinuxFiles::Exists(const std::string& path) const {
   return access(path.c_str(), F_OK) == 0;
+}
+
+std::unique_ptr<FileReader> LinuxFiles::Open(const std::string& path) const {
+  return std::make_unique<LinuxFileReader>(path);
 }
 
 std::string LinuxFiles::ReadAll(const std::string& path) const {

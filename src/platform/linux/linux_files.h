@@ -9,6 +9,7 @@ namespace benevix {
 class LinuxFiles : public Files {
  public:
   [[nodiscard]] bool Exists(const std::string& path) const override;
+  [[nodiscard]] std::unique_ptr<FileReader> Open(const std::string& path) const override;
   [[nodiscard]] std::string ReadAll(const std::string& path) const override;
   void Replace(const std::string& path, const std::string& bytes) override;
   // Programs that append to one file at the same time wait for each other.

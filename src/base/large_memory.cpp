@@ -1,6 +1,8 @@
-#include "platform/large_memory.h"
+#include "base/large_memory.h"
 
+#if defined(__linux__)
 #include <sys/mman.h>
+#endif
 
 namespace benevix {
 namespace {
@@ -13,8 +15,10 @@ constexpr std::align_val_t kAlignment{kLargePage};
 void* AllocateLarge(std::size_t size) {
   if (size < kLargePage) return ::operator new(size);
   void* const memory = ::operator new(size, kAlignment);
+#if defined(__linux__)
   // Whole pages, so that nothing else comes to lie in the last one. A refusal costs only time.
   madvise(memory, size / kLargePage * kLargePage, MADV_HUGEPAGE);
+#endif
   return memory;
 }
 

@@ -1,0 +1,52 @@
+#include "program/own_settings.h"
+
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "core/shell_helpers.h"
+
+namespace benevix {
+namespace {
+
+bool IsFirstRun(SettingsStore& settings) {
+  try {
+    return Val(settings.GetUserString("BVXDB")) == 0;
+  } catch (const RuntimeError&) {
+    return true;  // a number beyond all versions is no version
+  }
+}
+
+}  // namespace
+
+void UpdateOwnSettings(SettingsStore& settings, Surroundings& surroundings) {
+  if (IsFirstRun(settings)) InitSettings(settings, surroundings);
+  const auto keepCurrent = [&](const std::string& name, const std::string& value) {
+    if (settings.GetUserString(name) != value) settings.SaveUserString(name, value);
+  };
+  keepCurrent("ExeName", surroundings.info.exeName);
+  keepCurrent("Version", surroundings.info.Version());
+  if (settings.GetUserString("updater") == "1") CleanUpdater(settings, surroundings);
+}
+
+void InitSettings(SettingsStore& settings, Surroundings& surroundings) {
+  const ProgramInfo& info = surroundings.info;
+  settings.SaveString(Root::LocalMachine, kSettingsPath, "Proxy", "");
+  settings.SaveString(Root::LocalMachine, kSettingsPath, "TimeOut", "5");
+  settings.SaveUserString("BVXDB", "1.0000");
+  settings.SaveUserString("LangVer", "english");
+  settings.SaveUserString("Version", info.Version());
+  settings.SaveUserString("StartIn", FromUtf8(info.folder));
+  settings.SaveUserString("ExeName", info.exeName);
+  CreateDesktopShortcut(surroundings.shell, info);
+}
+
+void CleanUpdater(SettingsStore& settings, Surroundings& surroundings) {
+  try {
+    surroundings.files.Remove(surroundings.info.folder + "/updater.exe");
+  } catch (const RuntimeError&) {
+    // It is no longer started either way.
+  }
+  settings.SaveUserString("updater", "");
+}
+
+}  // namespace benevix

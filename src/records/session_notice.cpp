@@ -1,0 +1,42 @@
+#include "records/session_notice.h"
+
+#include "records/transaction.h"
+#include "server/mail_notice.h"
+
+namespace benevix {
+
+SessionNotice::Outcome SessionNotice::Send() {
+  Outcome outcome;
+  SessionRecord& session = outcome.session;
+  // Made before the server is asked, so that details that cannot be told stop everything.
+  const std::string contact = contact_.ForNotice();
+  session.transactionId =
+      TransactionId(surroundings_.clock, surroundings_.random, charges_.ChosenMethod());
+  if (!server_.CheckServerStatus()) return outcome;
+  server_.LoadFeeRates();
+  const std::string records = OrganizationRecords(main_.ListView1);
+  lastSession_.Remember(records);
+  const std::string ranking = ranking_.ForNotice(contact_.TakesPartInRanking());
+  outcome.due = charges_.Due();
+  session.budget = outcome.due.budget;
+  session.charged = outcome.due.charged;
+  session.amountText = outcome.due.amountText;
+
+  const std::string& id = session.transactionId;
+  const MailOutcome mail =
+      SendMailNotice(server_, {.sender = surroundings_.info.deployment.mail,
+                               .recipient = std::nullopt,
+                               .subject = id,
+                               .body = id + "/" + contact + records + ranking});
+  if (mail.result == MailResult::NoScript) {
+    outcome.result = Result::NoMailScript;
+  } else if (mail.result == MailResult::NotSent) {
+    outcome.result = Result::NotTaken;
+  } else {
+    const bool hasEmptyField = mail.address.find(",,") != std::string::npos;
+    outcome.result = hasEmptyField ? Result::EmptyField : Result::Sent;
+  }
+  return outcome;
+}
+
+}  // namespace benevix

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "people/contact_information.h"
+#include "people/donors_ranking.h"
+#include "platform/surroundings.h"
+#include "records/last_session.h"
+#include "records/session_record.h"
+#include "server/server_files.h"
+#include "session/charges.h"
+
+namespace benevix {
+
+// Makes a session's transaction and sends the server a notice of it, before anything is paid.
+class SessionNotice {
+ public:
+  SessionNotice(const frmBVX& main, const Charges& charges, ServerFiles& server,
+                const ContactInformation& contact, DonorsRanking& ranking, LastSession& lastSession,
+                Surroundings& surroundings)
+      : main_(main),
+        charges_(charges),
+        server_(server),
+        contact_(contact),
+        ranking_(ranking),
+        lastSession_(lastSession),
+        surroundings_(surroundings) {}
+
+  enum class Result {
+    Sent,
+    ServerBusy,    // not available; nothing was sent or stored
+    NoMailScript,  // the server does not say where its mail script is
+    NotTaken,      // the mail script did not take the notice
+    EmptyField     // sent, but with an empty field, which must never reach the payment
+  };
+  struct Outcome {
+    Result result = Result::ServerBusy;
+    PaymentDue due;
+    SessionRecord session;
+  };
+
+  // Takes a session whose payment method is chosen. What Recall Last Session brings back is
+  // remembered before the notice is sent. Raises RuntimeError when the session cannot be told.
+  Outcome Send();
+
+ private:
+  const frmBVX& main_;
+  const Charges& charges_;
+  ServerFiles& server_;
+  const ContactInformation& contact_;
+  DonorsRanking& ranking_;
+  LastSession& lastSession_;
+  Surroundings& surroundings_;
+};
+
+}  // namespace benevix
