@@ -12,7 +12,7 @@
 namespace benevix {
 namespace {
 
-// The standard input and output of a process to be started.
+// Starts a process with redirected standard streams.
 class Streams {
  public:
   Streams() { posix_spawn_file_actions_init(&actions_); }
@@ -46,7 +46,7 @@ std::array<int, 2> Pipe() {
 }  // namespace
 
 double TimeToEnd(const Command& command) {
-  // A pipe, since grep looks for a single match only when it knows that nobody reads.
+  // A pipe, since grep stops at the first match when its output is /dev/null.
   const auto [output, childOutput] = Pipe();
   Streams streams;
   streams.Connect(childOutput, STDOUT_FILENO);

@@ -8,27 +8,25 @@ namespace benevix {
 
 using Command = std::vector<std::string>;
 
-// Milliseconds from before the process starts to its end. Raises std::runtime_error when it fails.
+// Runs a process and returns its time in milliseconds. Raises std::runtime_error when it fails.
 double TimeToEnd(const Command& command);
 
-// A process that says when it is ready by a line on its standard output, and ends when its standard
-// input does.
+// A process that writes a line when it is ready and exits at the end of its standard input.
 class ReadyChild {
  public:
-  // Returns when the first line has come. Raises std::runtime_error when none comes.
+  // Waits for the line. Raises std::runtime_error when the process ends without it.
   explicit ReadyChild(const Command& command);
   ReadyChild(const ReadyChild&) = delete;
   ReadyChild& operator=(const ReadyChild&) = delete;
   ~ReadyChild();
 
   [[nodiscard]] int Process() const { return process_; }
-  // What the first line says.
   [[nodiscard]] const std::string& Line() const { return line_; }
-  // Milliseconds from before the process started to its first line.
+  // Milliseconds from the start of the process to its line.
   [[nodiscard]] double Elapsed() const { return elapsed_; }
 
  private:
-  // The end that is read, then the one that is written.
+  // The read end, then the write end.
   using PipeEnds = std::array<int, 2>;
 
   ReadyChild(const Command& command, PipeEnds toChild, PipeEnds fromChild);

@@ -10,7 +10,7 @@
 namespace benevix {
 namespace {
 
-constexpr int kTimed = 301;
+constexpr int kRuns = 301;
 constexpr auto kBudget = "9000";
 
 class NoWaits : public Waits {
@@ -28,8 +28,8 @@ class NoBoxes : public MessageBoxes {
   }
 };
 
-void Must(bool done, const char* what) {
-  if (!done) throw std::runtime_error(std::string("could not be done: ") + what);
+void Check(bool done, const char* action) {
+  if (!done) throw std::runtime_error(std::string("failed: ") + action);
 }
 
 class Donor {
@@ -38,33 +38,35 @@ class Donor {
       : input_(program.TheInput()), forms_(program.TheForms()), values_(program.Values()) {}
 
   void Enter() {
-    Must(input_.Click(forms_.Get<frmSplash>().Image2[0]), "enter");
+    Check(input_.Click(forms_.Get<frmSplash>().Image2[0]), "enter");
     forms_.Get<frmPersInfo>().Text1[contact_field::kCountry].Write("U.S.A.");
     Type(forms_.Get<frmBVX>().Text1[0], kBudget);
-    Must(input_.Choose(forms_.Get<frmPayOpt>().Option1[payment::kCreditCard]), "choose a payment");
-    Must(input_.Click(forms_.Get<frmPayOpt>().Command1[0]), "confirm the payment");
+    Check(input_.Choose(forms_.Get<frmPayOpt>().Option1[payment::kCreditCard]), "choose a payment");
+    Check(input_.Click(forms_.Get<frmPayOpt>().Command1[0]), "confirm the payment");
   }
 
-  // To the organizations of the list in their order; after `different` ones again to the first.
-  void Give(int different) {
+  // Gives to the next organization of the list; after `count` of them starts again with the first,
+  // changing its amount.
+  void Give(int count) {
     const ListView& list = forms_.Get<frmBVX>().ListView1;
-    const bool again = given_ >= different;
-    if (given_ % different == 0) row_ = 0;
+    const bool again = given_ >= count;
+    if (given_ % count == 0) row_ = 0;
     do {
       ++row_;
     } while (!list.Text(row_).empty());
     const Currency before = values_.TotalDonated;
-    Must(input_.SelectRow(forms_.Get<frmBVX>().ListView1, row_, MouseButton::Left), "select a row");
+    Check(input_.SelectRow(forms_.Get<frmBVX>().ListView1, row_, MouseButton::Left),
+          "select a row");
     Type(forms_.Get<frmBVX>().Text1[2], again ? "4" : "5");
-    Must((values_.TotalDonated > before) != again, "give");
+    Check((values_.TotalDonated > before) != again, "give");
     ++given_;
   }
 
  private:
   void Type(TextBox& box, const std::string& text) {
-    Must(input_.Focus(box), "focus a box");
-    Must(input_.Type(box, text), "type");
-    Must(input_.Key(box, keys::kEnter), "press Enter");
+    Check(input_.Focus(box), "focus a box");
+    Check(input_.Type(box, text), "type");
+    Check(input_.Key(box, keys::kEnter), "press Enter");
   }
 
   Input& input_;
@@ -86,7 +88,7 @@ DonationTimes TimeDonationEntries(const std::string& folder, int given) {
   donor.Enter();
   for (int i = 0; i < given; ++i) donor.Give(given);
   std::vector<double> times;
-  for (int i = 0; i < kTimed; ++i) {
+  for (int i = 0; i < kRuns; ++i) {
     const Stopwatch watch;
     donor.Give(given);
     times.push_back(watch.Milliseconds());

@@ -9,7 +9,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The port of a service that hardly any machine runs: nobody listens.
+// Port 9 (discard) is closed on practically every machine.
 constexpr auto kDeployment = R"(ServerBase=http://127.0.0.1:9/
 PaymentBase=http://127.0.0.1:9/xclick/business=
 Mail=app@benevix.example

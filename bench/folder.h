@@ -5,8 +5,8 @@
 
 namespace benevix {
 
-// A scratch folder, gone at the end. Settings and home of this process and of those it starts stand
-// in it, so that nothing of the user's is touched.
+// A temporary folder, removed by the destructor. It becomes the home and settings folder of this
+// process and its children, so that the user's own stay untouched.
 class ScratchFolder {
  public:
   ScratchFolder();
@@ -20,7 +20,7 @@ class ScratchFolder {
   std::filesystem::path path_;
 };
 
-// Makes a program folder with the given list, whose server refuses connections.
+// Creates a program folder with the given list and a server address that refuses connections.
 void MakeProgramFolder(const std::filesystem::path& folder, const std::filesystem::path& list,
                        const std::filesystem::path& resources);
 

@@ -1,4 +1,4 @@
-// Measures what the program's users wait for, beside yardsticks taken in the same run.
+// Measures what users wait for, next to reference programs measured in the same run.
 
 #include <QApplication>
 #include <cstdio>
@@ -14,6 +14,7 @@
 #include "folder.h"
 #include "make_list.h"
 #include "memory.h"
+#include "platform/linux/linux_files.h"
 #include "stopwatch.h"
 
 namespace {
@@ -24,16 +25,16 @@ namespace fs = std::filesystem;
 constexpr int kOrganizations = 2'000'000;
 constexpr int kCountries = 250;
 constexpr int kGiven = 1000;
-constexpr int kGivenInBoth = 400;  // the shipped list has few more organizations
+constexpr int kGivenInBoth = 400;  // the shipped list has hardly more organizations
 constexpr int kRuns = 9;
 constexpr double kMegabyte = 1e6;
 
-// What "--load FILE" does, in a process of its own as at a start: loads the list and tells the
-// milliseconds and the bytes of memory that took.
+// "--load FILE": loads the list in a new process, as the program does at its start, and writes the
+// milliseconds and the bytes of memory that it took.
 int Load(const std::string& file) {
   const double before = MemoryOf("self").resident;
   const Stopwatch watch;
-  const OrganizationList list(file);
+  const OrganizationList list(*LinuxFiles().Open(file));
   const double elapsed = watch.Milliseconds();
   if (list.Count() < kOrganizations) return 1;
   std::cout << elapsed << ' ' << MemoryOf("self").resident - before << std::endl;
@@ -117,7 +118,7 @@ void BenchStart(const fs::path& programs, const fs::path& shipped, const fs::pat
     many.Run({(programs / "bench-start").string(), big.string()});
   }
   Title("From the start of the process to the main window shown");
-  Line("minimal program of the same toolkit", Median(minimal.times), "ms");
+  Line("minimal Qt program", Median(minimal.times), "ms");
   Line("benevix, shipped list", Median(few.times), "ms");
   Line("benevix, long list", Median(many.times), "ms");
   Ratio("shipped list / minimal program", Median(few.times) / Median(minimal.times), 2);
@@ -151,7 +152,7 @@ int main(int argc, char** argv) {
   try {
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     if (argc == 3 && std::string(argv[1]) == "--load") return Load(argv[2]);
-    // Windows are drawn off the screen, so that figures of different machines can be compared.
+    // Offscreen, so that results of different machines can be compared.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_LOGGING_RULES", "*.warning=false");
     const QApplication app(argc, argv);

@@ -23,7 +23,7 @@ constexpr std::array<std::string_view, 8> kTypes = {
     "Education", "Health", "Environment", "Water", "Culture", "Animals", "Relief", "Human Rights"};
 
 template <std::size_t size>
-std::string_view AnyOf(const std::array<std::string_view, size>& words, std::mt19937& random) {
+std::string_view PickFrom(const std::array<std::string_view, size>& words, std::mt19937& random) {
   return words[random() % size];
 }
 
@@ -31,18 +31,18 @@ std::string Organization(int number, std::mt19937& random) {
   std::array<char, 16> id{};
   std::snprintf(id.data(), id.size(), "%08d ", number);
   std::string line = id.data();
-  line += AnyOf(kFirst, random);
+  line += PickFrom(kFirst, random);
   line += ' ';
-  line += AnyOf(kMiddle, random);
+  line += PickFrom(kMiddle, random);
   line += ' ';
-  line += AnyOf(kLast, random);
+  line += PickFrom(kLast, random);
   if (random() % 4 == 0) {
     line += " of the ";
-    line += AnyOf(kFirst, random);
+    line += PickFrom(kFirst, random);
     line += " District";
   }
   line += ", ";
-  line += AnyOf(kTypes, random);
+  line += PickFrom(kTypes, random);
   return line;
 }
 

@@ -1,4 +1,4 @@
-// A window with a menu bar and a tree of 200 rows: the least that a program of the toolkit does.
+// A minimal Qt program: a window with a menu bar and a tree of 200 rows.
 
 #include <QApplication>
 #include <QMainWindow>
@@ -20,7 +20,7 @@ int main(int argc, char** argv) {
   }
   window.setCentralWidget(tree);
   window.resize(1024, 720);
-  benevix::TellWhenShown();
+  benevix::ReportWhenShown();
   window.show();
   return QApplication::exec();
 }

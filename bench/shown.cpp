@@ -17,12 +17,12 @@ class FirstPaint : public QObject {
     if (event->type() != QEvent::Paint) return false;
     if (qobject_cast<QMainWindow*>(watched) == nullptr) return false;
     qApp->removeEventFilter(this);
-    // The event loop comes round again when the whole window is painted.
+    // Back in the event loop, the whole window has been painted.
     QTimer::singleShot(0, qApp, [] {
       std::cout << "shown" << std::endl;
-      // Whoever looks at this process's memory closes its input when he has seen enough.
+      // The benchmark reads this process's memory, then closes its input.
       while (std::cin.get() != std::char_traits<char>::eof()) continue;
-      // Not quit(), which a window that answers its closing itself would hold up.
+      // Not quit(), which a window may refuse in its close event.
       QCoreApplication::exit();
     });
     return false;
@@ -31,7 +31,7 @@ class FirstPaint : public QObject {
 
 }  // namespace
 
-void TellWhenShown() {
+void ReportWhenShown() {
   qApp->installEventFilter(new FirstPaint(qApp));
 }
 

@@ -2,8 +2,8 @@
 
 namespace benevix {
 
-// Once the main window has been painted for the first time, writes the line "shown" to the standard
-// output and ends the application when the standard input ends.
-void TellWhenShown();
+// Writes the line "shown" when the main window has been painted for the first time, then exits at
+// the end of the standard input.
+void ReportWhenShown();
 
 }  // namespace benevix

@@ -1,4 +1,4 @@
-// The program as its own main starts it, but entered from the splash at once.
+// Starts the program like its own main, but closes the splash at once.
 //
 // usage: bench-start FOLDER
 
@@ -26,7 +26,7 @@ int Run(const std::string& folder) {
   Machine machine(folder + "/benevix", mirror, boxes);
   Program program(machine.TheSurroundings());
   mirror.Attach(program.TheDesk(), program.TheInput());
-  TellWhenShown();
+  ReportWhenShown();
   program.Main();
   QTimer::singleShot(
       0, &mirror, [&] { program.TheInput().Click(program.TheForms().Get<frmSplash>().Image2[0]); });

@@ -17,7 +17,7 @@ class Stopwatch {
   std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
 };
 
-// The middle one of several measurements, which must not be empty.
+// `values` must not be empty.
 inline double Median(std::vector<double> values) {
   const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
   std::nth_element(values.begin(), middle, values.end());

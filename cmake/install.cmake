@@ -1,5 +1,5 @@
-# What stands after "cmake --install" runs where it stands: the programs, their plug-in, the data
-# files, the deployment values, the demonstration site and the manual.
+# "cmake --install" makes a folder in which the programs run: with their plug-in, the data files,
+# deployment.ini, the demonstration site and the manual pages.
 install(TARGETS benevix benevix-site benevix-demo RUNTIME DESTINATION .)
 install(TARGETS benevix_page_viewer LIBRARY DESTINATION plugins)
 install(FILES resources/deployment.ini DESTINATION .)

@@ -1,6 +1,6 @@
-# The Debian package: the component "package" alone, laid out for the system's root. Only the program
-# itself ships: the demonstration rewrites deployment.ini beside itself, and its site and the player
-# are for whoever runs a server or develops the program, who has the sources.
+# The Debian package: only the component "package", with paths relative to /. It contains only the
+# program: the demonstration rewrites the deployment.ini in its folder, and the site and the player
+# are for server operators and developers, who have the sources.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME benevix)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
@@ -18,24 +18,24 @@ set(CPACK_PACKAGE_DESCRIPTION
 "Benevix is for people who give to charity. You type a budget, pick
 organizations from a list that is grouped by country and give each an amount,
 while fees and balance stay right to the cent. Payments open in the program's
-own page viewer, and every session is found again in the history.
+own page viewer, and a history keeps every session.
 
-Each user works on data files of their own, filled from the installed ones
-at the first start.")
+Each user has their own data files, made from the installed ones at the first
+start.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The drawer of the program's pictures is loaded while it runs, so that no library's list names it.
+# The SVG plug-in is loaded at run time, so that shlibdeps does not find it.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS libqt6svg6)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "ca-certificates, qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/conffiles)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 include(CPack)
 
-# One rule of install() for the package alone.
+# An install() rule for the package only.
 macro(package_install)
   install(${ARGN} COMPONENT package EXCLUDE_FROM_ALL)
 endmacro()
 package_install(TARGETS benevix RUNTIME DESTINATION usr/bin)
-# Beside the toolkit's own plug-ins, where any program's are looked for.
+# Qt's plug-in folder, where every Qt program looks.
 package_install(TARGETS benevix_page_viewer
   LIBRARY DESTINATION usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}/qt6/plugins)
 package_install(FILES resources/deployment.ini DESTINATION etc/benevix)
@@ -45,8 +45,8 @@ package_install(FILES src/mirror/look/images/benevix.svg
   DESTINATION usr/share/icons/hicolor/scalable/apps)
 package_install(FILES packaging/example.benevix.benevix.metainfo.xml
   DESTINATION usr/share/metainfo)
-# Links, and files that are made of others.
-set(made ${PROJECT_BINARY_DIR}/package)
+# Links and generated files.
+set(generated ${PROJECT_BINARY_DIR}/package)
 configure_file(cmake/package_files.cmake.in package_files.cmake @ONLY)
 package_install(SCRIPT ${PROJECT_BINARY_DIR}/package_files.cmake)
-package_install(DIRECTORY ${made}/ DESTINATION .)
+package_install(DIRECTORY ${generated}/ DESTINATION .)

@@ -9,20 +9,20 @@
 namespace benevix {
 namespace {
 
-constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
-constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
+constexpr std::int64_t kMax = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t kMin = std::numeric_limits<std::int64_t>::min();
 
 [[noreturn]] void RaiseOverflow() {
   throw RuntimeError("Overflow");
 }
 
-// 128 bits, unsigned: no compiler's own wide type is relied on.
-struct Wide {
+// Not __int128, which is a compiler extension.
+struct UInt128 {
   std::uint64_t high = 0;
   std::uint64_t low = 0;
 };
 
-Wide Multiply(std::uint64_t a, std::uint64_t b) {
+UInt128 Multiply(std::uint64_t a, std::uint64_t b) {
   constexpr std::uint64_t mask = 0xFFFFFFFF;
   const std::uint64_t a0 = a & mask, a1 = a >> 32, b0 = b & mask, b1 = b >> 32;
   const std::uint64_t low = a0 * b0;
@@ -31,8 +31,8 @@ Wide Multiply(std::uint64_t a, std::uint64_t b) {
   return {a1 * b1 + (middle1 >> 32) + (middle2 >> 32), (middle2 << 32) | (low & mask)};
 }
 
-// value / divisor for a divisor below 2^32, with the remainder.
-Wide Divide(Wide value, std::uint64_t divisor, std::uint64_t& remainder) {
+// Long division in base 2^32; `divisor` is below 2^32.
+UInt128 Divide(UInt128 value, std::uint64_t divisor, std::uint64_t& remainder) {
   const std::uint64_t limbs[4] = {value.high >> 32, value.high & 0xFFFFFFFF, value.low >> 32,
                                   value.low & 0xFFFFFFFF};
   std::uint64_t quotient[4];
@@ -45,15 +45,15 @@ Wide Divide(Wide value, std::uint64_t divisor, std::uint64_t& remainder) {
   return {(quotient[0] << 32) | quotient[1], (quotient[2] << 32) | quotient[3]};
 }
 
-// The bits below `count` (1 to 127) dropped, halves to even.
-Wide ShiftRightToEven(Wide value, int count) {
+// value / 2^count, rounded half to even; `count` is 1 to 127.
+UInt128 ShiftRight(UInt128 value, int count) {
   const auto bit = [&](int i) {
     return i < 64 ? (value.low >> i) & 1 : (value.high >> (i - 64)) & 1;
   };
   const bool half = bit(count - 1) != 0;
   bool rest = false;
   for (int i = 0; i < count - 1 && !rest; ++i) rest = bit(i) != 0;
-  Wide result;
+  UInt128 result;
   if (count < 64) {
     result = {value.high >> count, (value.low >> count) | (value.high << (64 - count))};
   } else {
@@ -63,12 +63,12 @@ Wide ShiftRightToEven(Wide value, int count) {
   return result;
 }
 
-std::int64_t Signed(Wide magnitude, bool negative) {
-  const std::uint64_t limit = static_cast<std::uint64_t>(kMost) + (negative ? 1 : 0);
+std::int64_t ToSigned(UInt128 magnitude, bool negative) {
+  const std::uint64_t limit = static_cast<std::uint64_t>(kMax) + (negative ? 1 : 0);
   if (magnitude.high != 0 || magnitude.low > limit) RaiseOverflow();
   if (!negative) return static_cast<std::int64_t>(magnitude.low);
-  return magnitude.low > static_cast<std::uint64_t>(kMost)
-             ? kLeast
+  return magnitude.low > static_cast<std::uint64_t>(kMax)
+             ? kMin
              : -static_cast<std::int64_t>(magnitude.low);
 }
 
@@ -84,15 +84,15 @@ Currency Currency::FromDouble(double value) {
   const double fraction = std::frexp(std::fabs(value), &exponent);
   if (exponent > 64) RaiseOverflow();
   const auto mantissa = static_cast<std::uint64_t>(std::ldexp(fraction, 53));
-  Wide scaled = Multiply(mantissa, static_cast<std::uint64_t>(kScale));
+  UInt128 scaled = Multiply(mantissa, static_cast<std::uint64_t>(kScale));
   const int shift = 53 - exponent;
   if (shift >= 128) return Currency();
   if (shift > 0) {
-    scaled = ShiftRightToEven(scaled, shift);
+    scaled = ShiftRight(scaled, shift);
   } else {
     scaled = Multiply(mantissa << -shift, static_cast<std::uint64_t>(kScale));
   }
-  return Currency(Signed(scaled, std::signbit(value)));
+  return Currency(ToSigned(scaled, std::signbit(value)));
 }
 
 Currency Currency::FromText(std::string_view text) {
@@ -115,24 +115,24 @@ std::string Currency::ToText() const {
 }
 
 Currency operator+(Currency a, Currency b) {
-  if (b.units_ > 0 ? a.units_ > kMost - b.units_ : a.units_ < kLeast - b.units_) RaiseOverflow();
+  if (b.units_ > 0 ? a.units_ > kMax - b.units_ : a.units_ < kMin - b.units_) RaiseOverflow();
   return Currency(a.units_ + b.units_);
 }
 
 Currency operator-(Currency a, Currency b) {
-  if (b.units_ < 0 ? a.units_ > kMost + b.units_ : a.units_ < kLeast + b.units_) RaiseOverflow();
+  if (b.units_ < 0 ? a.units_ > kMax + b.units_ : a.units_ < kMin + b.units_) RaiseOverflow();
   return Currency(a.units_ - b.units_);
 }
 
 Currency Product(Currency a, Currency b) {
-  const Wide product = Multiply(Magnitude(a.Units()), Magnitude(b.Units()));
+  const UInt128 product = Multiply(Magnitude(a.Units()), Magnitude(b.Units()));
   std::uint64_t remainder = 0;
-  Wide quotient = Divide(product, static_cast<std::uint64_t>(Currency::kScale), remainder);
+  UInt128 quotient = Divide(product, static_cast<std::uint64_t>(Currency::kScale), remainder);
   constexpr auto half = static_cast<std::uint64_t>(Currency::kScale / 2);
   if (remainder > half || (remainder == half && (quotient.low & 1) != 0)) {
     if (++quotient.low == 0) ++quotient.high;
   }
-  return Currency::FromUnits(Signed(quotient, (a.Units() < 0) != (b.Units() < 0)));
+  return Currency::FromUnits(ToSigned(quotient, (a.Units() < 0) != (b.Units() < 0)));
 }
 
 }  // namespace benevix

@@ -43,7 +43,7 @@ void Decimal::RoundTo(int count) {
 
 Decimal Decimal::FromDouble(double value, int significant) {
   if (!std::isfinite(value)) throw RuntimeError("Overflow");
-  // 767 digits hold the exact decimal expansion of any double.
+  // Any double has at most 767 significant decimal digits.
   std::array<char, 800> buffer{};
   const auto* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
                                         std::fabs(value), std::chars_format::scientific, 766)

@@ -6,19 +6,19 @@
 
 namespace benevix {
 
-// A number as its decimal digits: 0.d1d2d3... x 10^exponent, no zero first or last; zero has no
-// digits and exponent 0.
+// A decimal number, 0.d1d2d3... x 10^exponent. `digits` has no leading or trailing zeros; for zero
+// it is empty and the exponent 0.
 struct Decimal {
   bool negative = false;
   std::string digits;
   int exponent = 0;
 
-  // The exact digits, rounded half away from zero to `significant` of them. Raises RuntimeError
-  // when the value is not finite.
+  // The exact value, rounded half away from zero to `significant` digits. Raises RuntimeError
+  // ("Overflow") when it is not finite.
   static Decimal FromDouble(double value, int significant);
   static Decimal FromCurrency(Currency value);
 
-  // Rounds half away from zero to `count` digits after the point (may be negative).
+  // Rounds half away from zero to `count` digits after the point; -2 rounds to hundreds.
   void RoundTo(int count);
 };
 

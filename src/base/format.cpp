@@ -7,35 +7,35 @@ namespace benevix {
 namespace {
 
 struct Pattern {
-  std::size_t forcedWhole = 0;     // digits before the point that are always written
-  std::size_t decimals = 0;        // digit places after the point
-  std::size_t forcedDecimals = 0;  // of these, up to the last `0`
+  std::size_t minWhole = 0;
+  std::size_t decimalPlaces = 0;
+  std::size_t minDecimals = 0;  // places up to the last `0`; a `#` before it counts as `0`
   bool hasPoint = false;
   bool grouped = false;
-  std::string_view after;  // what stands after the point, places and literal text
+  std::string_view afterPoint;  // digit places and literal text
 };
 
-Pattern Read(std::string_view text) {
+Pattern Parse(std::string_view text) {
   Pattern pattern;
   const auto point = text.find('.');
   pattern.hasPoint = point != std::string_view::npos;
-  bool comma = false;
-  bool places = false;
+  bool placeSeen = false;
+  bool commaSeen = false;  // after a place; a place must follow too
   for (const char c : text) {
-    if (c == ',') comma = places;
+    if (c == ',') commaSeen = placeSeen;
     if (c != '0' && c != '#') continue;
-    pattern.grouped = pattern.grouped || comma;
-    places = true;
+    pattern.grouped = pattern.grouped || commaSeen;
+    placeSeen = true;
   }
   for (const char c : text.substr(0, point)) {
-    if (c == '0' || (c == '#' && pattern.forcedWhole > 0)) ++pattern.forcedWhole;
+    if (c == '0' || (c == '#' && pattern.minWhole > 0)) ++pattern.minWhole;
   }
   if (!pattern.hasPoint) return pattern;
-  pattern.after = text.substr(point + 1);
-  for (const char c : pattern.after) {
+  pattern.afterPoint = text.substr(point + 1);
+  for (const char c : pattern.afterPoint) {
     if (c != '0' && c != '#') continue;
-    ++pattern.decimals;
-    if (c == '0') pattern.forcedDecimals = pattern.decimals;
+    ++pattern.decimalPlaces;
+    if (c == '0') pattern.minDecimals = pattern.decimalPlaces;
   }
   return pattern;
 }
@@ -50,30 +50,30 @@ std::string Group(const std::string& digits) {
 }
 
 std::string Apply(Decimal value, std::string_view text) {
-  const Pattern pattern = Read(text);
-  value.RoundTo(static_cast<int>(pattern.decimals));
+  const Pattern pattern = Parse(text);
+  value.RoundTo(static_cast<int>(pattern.decimalPlaces));
   const auto digitAt = [&](int place) {  // 0 is the first digit after the point
     const int index = value.exponent + place;
-    const bool within = index >= 0 && index < static_cast<int>(value.digits.size());
-    return within ? value.digits[static_cast<std::size_t>(index)] : '0';
+    const bool exists = index >= 0 && index < static_cast<int>(value.digits.size());
+    return exists ? value.digits[static_cast<std::size_t>(index)] : '0';
   };
   std::string whole;
   for (int place = -value.exponent; place < 0; ++place) whole += digitAt(place);
-  if (whole.size() < pattern.forcedWhole) whole.insert(0, pattern.forcedWhole - whole.size(), '0');
+  if (whole.size() < pattern.minWhole) whole.insert(0, pattern.minWhole - whole.size(), '0');
 
-  std::size_t shown = pattern.forcedDecimals;
-  for (std::size_t i = shown; i < pattern.decimals; ++i) {
-    if (digitAt(static_cast<int>(i)) != '0') shown = i + 1;
+  std::size_t decimals = pattern.minDecimals;
+  for (std::size_t i = decimals; i < pattern.decimalPlaces; ++i) {
+    if (digitAt(static_cast<int>(i)) != '0') decimals = i + 1;
   }
   std::string result = value.negative ? "-" : "";
   result += pattern.grouped ? Group(whole) : whole;
   if (pattern.hasPoint) result += '.';
   std::size_t place = 0;
-  for (const char c : pattern.after) {
+  for (const char c : pattern.afterPoint) {
     if (c == ',') continue;
     if (c != '0' && c != '#') {
       result += c;
-    } else if (place < shown) {
+    } else if (place < decimals) {
       result += digitAt(static_cast<int>(place++));
     }
   }

@@ -7,23 +7,23 @@
 namespace benevix {
 namespace {
 
-constexpr std::size_t kLargePage = std::size_t{2} << 20;
-constexpr std::align_val_t kAlignment{kLargePage};
+constexpr std::size_t kHugePage = std::size_t{2} << 20;
+constexpr std::align_val_t kAlignment{kHugePage};
 
 }  // namespace
 
 void* AllocateLarge(std::size_t size) {
-  if (size < kLargePage) return ::operator new(size);
+  if (size < kHugePage) return ::operator new(size);
   void* const memory = ::operator new(size, kAlignment);
 #if defined(__linux__)
-  // Whole pages, so that nothing else comes to lie in the last one. A refusal costs only time.
-  madvise(memory, size / kLargePage * kLargePage, MADV_HUGEPAGE);
+  // Whole pages only, so that no other allocation shares the last one. Failing costs only speed.
+  madvise(memory, size / kHugePage * kHugePage, MADV_HUGEPAGE);
 #endif
   return memory;
 }
 
 void FreeLarge(void* memory, std::size_t size) {
-  if (size < kLargePage) {
+  if (size < kHugePage) {
     ::operator delete(memory);
   } else {
     ::operator delete(memory, kAlignment);

@@ -5,12 +5,12 @@
 
 namespace benevix {
 
-// Memory for megabytes at a time, in the largest pages that the system gives: in common ones, the
-// first touch of each takes longer than reading a file into it. Raises std::bad_alloc.
+// Allocates `size` bytes, in huge pages where the system has them: with 4 KB pages the page faults
+// of a large buffer take longer than reading a file into it. Raises std::bad_alloc.
 void* AllocateLarge(std::size_t size);
 void FreeLarge(void* memory, std::size_t size);
 
-// For containers that hold much. New elements of simple types are left uninitialized.
+// For large containers; resize() leaves new elements of trivial types uninitialized.
 template <class T>
 struct LargeAllocator {
   using value_type = T;
@@ -22,12 +22,12 @@ struct LargeAllocator {
   T* allocate(std::size_t count) { return static_cast<T*>(AllocateLarge(count * sizeof(T))); }
   void deallocate(T* memory, std::size_t count) { FreeLarge(memory, count * sizeof(T)); }
 
-  template <class Made, class... Arguments>
-  void construct(Made* place, const Arguments&... arguments) {
+  template <class Element, class... Arguments>
+  void construct(Element* place, const Arguments&... arguments) {
     if constexpr (sizeof...(arguments) == 0) {
-      ::new (static_cast<void*>(place)) Made;
+      ::new (static_cast<void*>(place)) Element;
     } else {
-      ::new (static_cast<void*>(place)) Made(arguments...);
+      ::new (static_cast<void*>(place)) Element(arguments...);
     }
   }
 

@@ -11,14 +11,14 @@
 namespace benevix {
 namespace line_scan {
 
-struct Marks {
+// Bit i stands for byte i of 64.
+struct Masks {
   std::uint64_t lineFeeds = 0;
   std::uint64_t commas = 0;
 };
 
-// One bit for each of 64 bytes.
-inline Marks MarksOf64(const char* bytes) {
-  Marks marks;
+inline Masks Match64(const char* bytes) {
+  Masks masks;
 #if defined(__SSE2__) || defined(_M_X64)
   const __m128i lineFeed = _mm_set1_epi8('\n');
   const __m128i comma = _mm_set1_epi8(',');
@@ -28,33 +28,34 @@ inline Marks MarksOf64(const char* bytes) {
       const int bits = _mm_movemask_epi8(_mm_cmpeq_epi8(sixteen, wanted));
       return static_cast<std::uint64_t>(static_cast<unsigned>(bits)) << at;
     };
-    marks.lineFeeds |= mask(lineFeed);
-    marks.commas |= mask(comma);
+    masks.lineFeeds |= mask(lineFeed);
+    masks.commas |= mask(comma);
   }
 #else
   for (int i = 0; i < 64; ++i) {
-    marks.lineFeeds |= static_cast<std::uint64_t>(bytes[i] == '\n') << i;
-    marks.commas |= static_cast<std::uint64_t>(bytes[i] == ',') << i;
+    masks.lineFeeds |= static_cast<std::uint64_t>(bytes[i] == '\n') << i;
+    masks.commas |= static_cast<std::uint64_t>(bytes[i] == ',') << i;
   }
 #endif
-  return marks;
+  return masks;
 }
 
 }  // namespace line_scan
 
-// Finds line ends in bytes that arrive piece by piece, and on the way the last comma before each.
-// It is the one pass over a list of a hundred megabytes, so it looks at 64 bytes at a time.
+// Finds the line feeds of a text that arrives in chunks, and the last comma before each. As the one
+// pass over a list of 100 MB, it compares 64 bytes at a time.
 class LineScan {
  public:
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
-  // Takes the bytes up to `end` of `text` that were not seen yet and calls line(begin, end, comma)
-  // for each line feed: where the line begins, where the line feed stands, and the last comma
-  // before it (which may belong to an earlier line; kNone when there was none yet). The callback
-  // gives false to end the scan.
+  // Scans on from where the last call stopped to `end`; `text` always begins at the same byte.
+  // Calls line(begin, end, comma) for each line feed, with the offsets of the line's first byte, of
+  // the line feed and of the last comma before it, which may belong to an earlier line (kNone
+  // without one). Stops and returns false when the callback returns false.
   template <class OnLine>
   bool Advance(const char* text, std::size_t end, OnLine&& line);
 
+  // Offsets of the line that has no line feed yet, and of the last comma.
   [[nodiscard]] std::size_t LineBegin() const { return lineBegin_; }
   [[nodiscard]] std::size_t LastComma() const { return lastComma_; }
 
@@ -66,20 +67,20 @@ class LineScan {
 
 template <class OnLine>
 bool LineScan::Advance(const char* text, std::size_t end, OnLine&& line) {
-  const auto lastOf = [](std::uint64_t bits) {
+  const auto highestBit = [](std::uint64_t bits) {
     return static_cast<std::size_t>(63 - std::countl_zero(bits));
   };
   for (; seen_ + 64 <= end; seen_ += 64) {
-    line_scan::Marks marks = line_scan::MarksOf64(text + seen_);
-    for (; marks.lineFeeds != 0; marks.lineFeeds &= marks.lineFeeds - 1) {
-      const auto at = static_cast<std::size_t>(std::countr_zero(marks.lineFeeds));
-      const std::uint64_t before = marks.commas & ((std::uint64_t{1} << at) - 1);
-      const std::size_t comma = before != 0 ? seen_ + lastOf(before) : lastComma_;
+    line_scan::Masks masks = line_scan::Match64(text + seen_);
+    for (; masks.lineFeeds != 0; masks.lineFeeds &= masks.lineFeeds - 1) {
+      const auto at = static_cast<std::size_t>(std::countr_zero(masks.lineFeeds));
+      const std::uint64_t before = masks.commas & ((std::uint64_t{1} << at) - 1);
+      const std::size_t comma = before != 0 ? seen_ + highestBit(before) : lastComma_;
       const std::size_t begin = lineBegin_;
       lineBegin_ = seen_ + at + 1;
       if (!line(begin, seen_ + at, comma)) return false;
     }
-    if (marks.commas != 0) lastComma_ = seen_ + lastOf(marks.commas);
+    if (masks.commas != 0) lastComma_ = seen_ + highestBit(masks.commas);
   }
   for (; seen_ < end; ++seen_) {
     if (text[seen_] == ',') lastComma_ = seen_;

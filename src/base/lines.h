@@ -5,11 +5,11 @@
 
 namespace benevix {
 
-// The lines of a text; a line ends at LF or CR LF, the last one at the end of the text.
+// The lines of a text without their ends, LF or CR LF; the last one may have none.
 std::vector<std::string_view> Lines(std::string_view text);
 
-// Cuts the text before the first `separator` off the front of `text`, the separator with it.
-// Without one the whole text is cut off.
+// Returns the part of `text` before the first `separator` (all of it without one) and removes it
+// and the separator from `text`.
 std::string_view CutField(std::string_view& text, char separator);
 
 }  // namespace benevix

@@ -15,7 +15,7 @@ bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-// A decimal number collected character by character, as both readings share it.
+// The parts of a decimal number.
 struct Digits {
   std::string whole;
   std::string decimals;
@@ -23,14 +23,14 @@ struct Digits {
   bool any() const { return !whole.empty() || !decimals.empty(); }
 };
 
-// Nothing when the value is beyond a double.
-std::optional<double> Value(const Digits& digits) {
+// Nothing when the value is too large for a double.
+std::optional<double> ToDouble(const Digits& digits) {
   const std::string text = (digits.whole.empty() ? "0" : digits.whole) + "." + digits.decimals +
                            "0e" + std::to_string(digits.exponent);
   double value = 0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
   if (result.ec != std::errc::result_out_of_range) return value;
-  // Out of range is too large or too small to tell from zero: the first digit's place decides.
+  // Overflow or underflow: the place of the first significant digit tells which.
   const std::string all = digits.whole + digits.decimals;
   const auto first = static_cast<long>(all.find_first_not_of('0'));
   const long place = static_cast<long>(digits.whole.size()) - first + digits.exponent;
@@ -38,32 +38,28 @@ std::optional<double> Value(const Digits& digits) {
   return 0.0;
 }
 
-// Exponents are capped where every double is long exhausted, so that no count can overflow.
+// Capped far beyond the exponents of a double, so that the int cannot overflow.
 void AddExponentDigit(int& exponent, char digit) {
-  constexpr int most = 100'000'000;
-  if (exponent < most) exponent = exponent * 10 + (digit - '0');
+  constexpr int limit = 100'000'000;
+  if (exponent < limit) exponent = exponent * 10 + (digit - '0');
 }
 
+// -1 for a character that is not a digit of the base (up to 16).
 int DigitValue(char c, int base) {
-  int value = 99;
-  if (IsDigit(c)) {
-    value = c - '0';
-  } else if (c >= 'A' && c <= 'F') {
-    value = c - 'A' + 10;
-  } else if (c >= 'a' && c <= 'f') {
-    value = c - 'a' + 10;
-  }
-  return value < base ? value : -1;
+  constexpr std::string_view digits = "0123456789abcdef";
+  const auto lower = static_cast<char>(LowerCaseOf(static_cast<unsigned char>(c)));
+  const auto value = digits.substr(0, static_cast<std::size_t>(base)).find(lower);
+  return value == std::string_view::npos ? -1 : static_cast<int>(value);
 }
 
-// Characters with those that may stand between digits skipped.
-class Skipping {
+// Walks over a text, leaving out the characters in `skipped`.
+class Cursor {
  public:
-  Skipping(std::string_view text, std::string_view skipped) : text_(text), skipped_(skipped) {
+  Cursor(std::string_view text, std::string_view skipped) : text_(text), skipped_(skipped) {
     Skip();
   }
-  // The NUL that ends the text fits no number either.
-  [[nodiscard]] char Now() const { return at_ < text_.size() ? text_[at_] : '\0'; }
+  // NUL at the end of the text; as no number contains one, that ends every number.
+  [[nodiscard]] char Peek() const { return at_ < text_.size() ? text_[at_] : '\0'; }
   [[nodiscard]] bool AtEnd() const { return at_ >= text_.size(); }
   void Advance() {
     ++at_;
@@ -79,25 +75,27 @@ class Skipping {
   std::size_t at_ = 0;
 };
 
-// After `&H` or `&O`: up to 16 bits are a signed 16-bit number unless a closing "&" asks for 32.
-std::optional<double> ReadBased(Skipping& in, int base) {
+// The digits after `&H` or `&O`. Up to four hexadecimal digits, or 16 bits in octal, are a signed
+// 16-bit number; more, or a trailing "&", make it a signed 32-bit one. Nothing beyond 32 bits.
+std::optional<double> ReadHexOrOctal(Cursor& in, int base) {
   std::uint64_t value = 0;
   int count = 0;
-  for (; DigitValue(in.Now(), base) >= 0; in.Advance(), ++count) {
+  for (; DigitValue(in.Peek(), base) >= 0; in.Advance(), ++count) {
     value = value * static_cast<unsigned>(base) +
-            static_cast<std::uint64_t>(DigitValue(in.Now(), base));
+            static_cast<std::uint64_t>(DigitValue(in.Peek(), base));
     if (value > 0xFFFFFFFFU) return std::nullopt;
   }
-  bool wide = base == 16 ? count > 4 : value > 0xFFFF;
-  if (count > 0 && in.Now() == '&') {
-    wide = true;
+  bool is32Bit = base == 16 ? count > 4 : value > 0xFFFF;
+  if (count > 0 && in.Peek() == '&') {
+    is32Bit = true;
     in.Advance();
   }
-  if (wide) return static_cast<std::int32_t>(static_cast<std::uint32_t>(value));
+  if (is32Bit) return static_cast<std::int32_t>(static_cast<std::uint32_t>(value));
   return static_cast<std::int16_t>(static_cast<std::uint16_t>(value));
 }
 
-int BaseAfterAmpersand(char c) {
+// 16 for the H of `&H`, 8 for the O of `&O`, otherwise 0.
+int BaseOf(char c) {
   if (c == 'H' || c == 'h') return 16;
   return c == 'O' || c == 'o' ? 8 : 0;
 }
@@ -106,14 +104,18 @@ bool IsExponentMark(char c) {
   return c == 'E' || c == 'e' || c == 'D' || c == 'd';
 }
 
-void ReadExponent(Skipping& in, Digits& digits) {
-  if (!IsExponentMark(in.Now())) return;
-  Skipping ahead = in;
+void ReadDecimalsAndExponent(Cursor& in, Digits& digits) {
+  if (in.Peek() == '.') {
+    in.Advance();
+    for (; IsDigit(in.Peek()); in.Advance()) digits.decimals += in.Peek();
+  }
+  if (!IsExponentMark(in.Peek())) return;
+  Cursor ahead = in;
   ahead.Advance();
-  const bool negative = ahead.Now() == '-';
-  if (negative || ahead.Now() == '+') ahead.Advance();
-  if (!IsDigit(ahead.Now())) return;
-  for (; IsDigit(ahead.Now()); ahead.Advance()) AddExponentDigit(digits.exponent, ahead.Now());
+  const bool negative = ahead.Peek() == '-';
+  if (negative || ahead.Peek() == '+') ahead.Advance();
+  if (!IsDigit(ahead.Peek())) return;
+  for (; IsDigit(ahead.Peek()); ahead.Advance()) AddExponentDigit(digits.exponent, ahead.Peek());
   if (negative) digits.exponent = -digits.exponent;
   in = ahead;
 }
@@ -121,28 +123,24 @@ void ReadExponent(Skipping& in, Digits& digits) {
 }  // namespace
 
 double Val(std::string_view text) {
-  Skipping in(text, " \t\n");
+  Cursor in(text, " \t\n");
   std::optional<double> value;
-  if (in.Now() == '&') {
+  if (in.Peek() == '&') {
     in.Advance();
-    const int base = BaseAfterAmpersand(in.Now());
+    const int base = BaseOf(in.Peek());
     if (base == 0) return 0;
     in.Advance();
-    value = ReadBased(in, base);
+    value = ReadHexOrOctal(in, base);
     if (!value) throw RuntimeError("Overflow");
     return *value;
   }
-  const bool negative = in.Now() == '-';
-  if (negative || in.Now() == '+') in.Advance();
+  const bool negative = in.Peek() == '-';
+  if (negative || in.Peek() == '+') in.Advance();
   Digits digits;
-  for (; IsDigit(in.Now()); in.Advance()) digits.whole += in.Now();
-  if (in.Now() == '.') {
-    in.Advance();
-    for (; IsDigit(in.Now()); in.Advance()) digits.decimals += in.Now();
-  }
+  for (; IsDigit(in.Peek()); in.Advance()) digits.whole += in.Peek();
+  ReadDecimalsAndExponent(in, digits);
   if (!digits.any()) return 0;
-  ReadExponent(in, digits);
-  value = Value(digits);
+  value = ToDouble(digits);
   if (!value) throw RuntimeError("Overflow");
   return negative ? -*value : *value;
 }
@@ -154,13 +152,13 @@ std::optional<double> ParseNumber(std::string_view text) {
 
   bool negative = false;
   bool signSeen = false;
-  bool open = false;
+  bool parenthesis = false;
   bool dollar = false;
   for (; !text.empty(); text.remove_prefix(1)) {
     const char c = text.front();
     if (!signSeen && (c == '-' || c == '+' || c == '(')) {
       signSeen = true;
-      open = c == '(';
+      parenthesis = c == '(';
       negative = c != '+';
     } else if (!dollar && c == '$') {
       dollar = true;
@@ -168,39 +166,35 @@ std::optional<double> ParseNumber(std::string_view text) {
       break;
     }
   }
-  Skipping in(text, "");
+  Cursor in(text, "");
   std::optional<double> value;
-  if (in.Now() == '&' && !signSeen && !dollar) {
+  if (in.Peek() == '&' && !signSeen && !dollar) {
     in.Advance();
-    const int base = BaseAfterAmpersand(in.Now());
+    const int base = BaseOf(in.Peek());
     if (base == 0) return std::nullopt;
     in.Advance();
-    if (DigitValue(in.Now(), base) < 0) return std::nullopt;
-    value = ReadBased(in, base);
+    if (DigitValue(in.Peek(), base) < 0) return std::nullopt;
+    value = ReadHexOrOctal(in, base);
     return in.AtEnd() ? value : std::nullopt;
   }
   Digits digits;
-  for (bool comma = false; IsDigit(in.Now()) || in.Now() == ',' || comma; in.Advance()) {
-    if (comma && !IsDigit(in.Now())) return std::nullopt;
-    comma = in.Now() == ',';
+  for (bool comma = false; IsDigit(in.Peek()) || in.Peek() == ',' || comma; in.Advance()) {
+    if (comma && !IsDigit(in.Peek())) return std::nullopt;
+    comma = in.Peek() == ',';
     if (comma && digits.whole.empty()) return std::nullopt;
-    if (!comma) digits.whole += in.Now();
+    if (!comma) digits.whole += in.Peek();
   }
-  if (in.Now() == '.') {
-    in.Advance();
-    for (; IsDigit(in.Now()); in.Advance()) digits.decimals += in.Now();
-  }
+  ReadDecimalsAndExponent(in, digits);
   if (!digits.any()) return std::nullopt;
-  ReadExponent(in, digits);
-  if (open) {
-    if (in.Now() != ')') return std::nullopt;
+  if (parenthesis) {
+    if (in.Peek() != ')') return std::nullopt;
     in.Advance();
-  } else if (!signSeen && (in.Now() == '-' || in.Now() == '+')) {
-    negative = in.Now() == '-';
+  } else if (!signSeen && (in.Peek() == '-' || in.Peek() == '+')) {
+    negative = in.Peek() == '-';
     in.Advance();
   }
   if (!in.AtEnd()) return std::nullopt;
-  value = Value(digits);
+  value = ToDouble(digits);
   if (value && negative) value = -*value;
   return value;
 }
@@ -228,14 +222,14 @@ double RoundHalfEven(double value) {
   return std::fmod(below, 2) == 0 ? below : below + 1;
 }
 
-template <class Whole>
-Whole ToWhole(double value) {
+template <class Integer>
+Integer ToInteger(double value) {
   const double rounded = RoundHalfEven(value);
-  if (!(rounded >= std::numeric_limits<Whole>::min() &&
-        rounded <= std::numeric_limits<Whole>::max())) {
+  if (!(rounded >= std::numeric_limits<Integer>::min() &&
+        rounded <= std::numeric_limits<Integer>::max())) {
     throw RuntimeError("Overflow");
   }
-  return static_cast<Whole>(rounded);
+  return static_cast<Integer>(rounded);
 }
 
 std::string ToText(double value, int significant) {
@@ -265,10 +259,10 @@ std::string ToText(double value, int significant) {
 }  // namespace
 
 std::int16_t ToInt16(double value) {
-  return ToWhole<std::int16_t>(value);
+  return ToInteger<std::int16_t>(value);
 }
 std::int32_t ToInt32(double value) {
-  return ToWhole<std::int32_t>(value);
+  return ToInteger<std::int32_t>(value);
 }
 
 float ToSingle(double value) {

@@ -7,26 +7,29 @@
 
 namespace benevix {
 
-// The number that a text begins with: blanks, tabs and line feeds are skipped, `&H` and `&O` are
-// read, the first character that does not fit ends it; no digits give 0. Raises RuntimeError when
-// the number is beyond a double.
+// The number at the beginning of a text, up to the first character that cannot belong to it; 0
+// without digits. Blanks, tabs and line feeds are skipped, even between digits; `&H` and `&O` begin
+// a hexadecimal or octal number. Raises RuntimeError ("Overflow") when it is too large.
 double Val(std::string_view text);
 
-// The number that the whole text denotes: signs before or after, parentheses for negative, one "$",
-// commas between digits, exponents, `&H` and `&O`. Nothing when the text is not such a number.
+// The number that is the whole text; nothing for any other text. Allowed are blanks and tabs at
+// both ends, a sign before or after, parentheses for negative, one "$", commas between digits, an
+// exponent, `&H` and `&O`.
 std::optional<double> ParseNumber(std::string_view text);
 bool IsNumeric(std::string_view text);
 
-// "True" or "False" in any case, otherwise a number. Raises RuntimeError for anything else.
+// "True" or "False" in any case, or a number, of which only 0 is false. Raises RuntimeError ("Type
+// mismatch") for any other text.
 bool TextToBoolean(std::string_view text);
 
-// Rounded half to even; RuntimeError beyond 16 or 32 bits.
+// Rounded half to even. Raises RuntimeError ("Overflow") when out of range, as ToSingle does.
 std::int16_t ToInt16(double value);
 std::int32_t ToInt32(double value);
-// Rounded to the nearest single; RuntimeError beyond its range.
 float ToSingle(double value);
 
-// 15 (7) significant digits, plain where they suffice, otherwise scientific (1E+15).
+// The value with 15 (7) significant digits, rounded half away from zero; in scientific notation
+// (1E+15) when 15 (7) digits before or after the point do not suffice. Raises RuntimeError
+// ("Overflow") when it is not finite.
 std::string DoubleToText(double value);
 std::string SingleToText(float value);
 

@@ -5,14 +5,14 @@
 
 namespace benevix {
 
-// The one error type of the program. The place that owns a failure catches it.
+// The program's only error type, caught by the code that is responsible for the failed operation.
 class RuntimeError : public std::runtime_error {
  public:
   explicit RuntimeError(const std::string& what) : std::runtime_error(what) {}
 };
 
-// Thrown when the program stops at once. No failure, so no handler of RuntimeError holds it up;
-// caught only where an event enters.
+// Thrown to end the program at once. Not a RuntimeError, so that no error handler stops it; caught
+// only where events are dispatched.
 struct ProgramEnded {};
 
 }  // namespace benevix

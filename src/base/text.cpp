@@ -7,8 +7,8 @@ namespace benevix {
 namespace {
 
 // Windows-1252, 0x80 to 0x9F: https://www.unicode.org/Public/MAPPINGS/VENDORS/MICSFT/WINDOWS/
-// CP1252.TXT; the five free places hold the control character of the same number.
-constexpr std::array<char32_t, 32> kUpperControls = {
+// CP1252.TXT; the five unassigned bytes map to the control characters of the same code.
+constexpr std::array<char32_t, 32> kBytes80To9F = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
@@ -22,14 +22,14 @@ unsigned char Upper(unsigned char c) {
 }
 
 template <class Map>
-std::string Mapped(std::string_view text, Map map) {
+std::string MapBytes(std::string_view text, Map map) {
   std::string result(text);
   for (char& c : result) c = static_cast<char>(map(static_cast<unsigned char>(c)));
   return result;
 }
 
-// The character that begins at `at`, which moves behind it; 0xFFFFFFFF for bytes that are no UTF-8.
-char32_t NextUtf8(std::string_view text, std::size_t& at) {
+// Decodes the character at `at` and moves `at` past it; 0xFFFFFFFF for invalid UTF-8.
+char32_t DecodeUtf8(std::string_view text, std::size_t& at) {
   constexpr char32_t bad = 0xFFFFFFFF;
   const auto lead = static_cast<unsigned char>(text[at++]);
   if (lead < 0x80) return lead;
@@ -40,9 +40,9 @@ char32_t NextUtf8(std::string_view text, std::size_t& at) {
     if (at >= text.size() || (static_cast<unsigned char>(text[at]) & 0xC0U) != 0x80U) return bad;
     value = (value << 6) | (static_cast<unsigned char>(text[at]) & 0x3FU);
   }
-  // Written with more bytes than it needs, a character is none.
-  constexpr char32_t least[] = {0, 0x80, 0x800, 0x10000};
-  return value < least[more] ? bad : value;
+  // Overlong encodings are invalid.
+  constexpr char32_t minimum[] = {0, 0x80, 0x800, 0x10000};
+  return value < minimum[more] ? bad : value;
 }
 
 }  // namespace
@@ -61,10 +61,10 @@ bool SameLetter(char a, char b) {
 }
 
 std::string UpperCase(std::string_view text) {
-  return Mapped(text, Upper);
+  return MapBytes(text, Upper);
 }
 std::string LowerCase(std::string_view text) {
-  return Mapped(text, LowerCaseOf);
+  return MapBytes(text, LowerCaseOf);
 }
 
 bool BeginsWith(std::string_view text, std::string_view word) {
@@ -79,16 +79,15 @@ std::string_view Trim(std::string_view text) {
 }
 
 char32_t CodePageCharacter(unsigned char byte) {
-  return byte >= 0x80 && byte < 0xA0 ? kUpperControls[byte - 0x80U] : byte;
+  return byte >= 0x80 && byte < 0xA0 ? kBytes80To9F[byte - 0x80U] : byte;
 }
 
 int CodePageByte(char32_t character) {
   if (character < 0x80 || (character >= 0xA0 && character < 0x100)) {
     return static_cast<int>(character);
   }
-  const auto* const found = std::find(kUpperControls.begin(), kUpperControls.end(), character);
-  return found == kUpperControls.end() ? -1
-                                       : 0x80 + static_cast<int>(found - kUpperControls.begin());
+  const auto* const found = std::find(kBytes80To9F.begin(), kBytes80To9F.end(), character);
+  return found == kBytes80To9F.end() ? -1 : 0x80 + static_cast<int>(found - kBytes80To9F.begin());
 }
 
 std::string ToUtf8(std::string_view text) {
@@ -115,7 +114,7 @@ std::string FromUtf8(std::string_view text, bool* lost) {
   result.reserve(text.size());
   if (lost != nullptr) *lost = false;
   for (std::size_t at = 0; at < text.size();) {
-    const int byte = CodePageByte(NextUtf8(text, at));
+    const int byte = CodePageByte(DecodeUtf8(text, at));
     if (byte >= 0) {
       result += static_cast<char>(byte);
     } else if (lost != nullptr) {

@@ -1,15 +1,20 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 namespace benevix {
 
 // Controls are plain data that any code may read and write; writing raises no event.
 struct Control {
+  Control() = default;
+  explicit Control(std::string tip, const char* heldBy = "")
+      : toolTip(std::move(tip)), holder(heldBy) {}
+
   bool enabled = true;
   bool visible = true;
   std::string toolTip;
-  std::string tag;
+  std::string tag;  // what the program keeps with the control, never shown
   // The frame, picture box or menu of the same window that holds it; none when empty. What is held
   // can be used only while its holder can.
   const char* holder = "";

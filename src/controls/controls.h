@@ -13,8 +13,8 @@
 
 namespace benevix {
 
-// 0x00BBGGRR, or a system colour: 0x80000000 plus its index. Colours are roles; what a role looks
-// like in a light or dark scheme is the mirror's business.
+// A colour stands for a role: 0x00BBGGRR, or 0x80000000 plus the index of a system colour. The
+// mirror gives each role a look of its own in the light and in the dark scheme (RoleColor).
 using Color = std::uint32_t;
 
 namespace colors {
@@ -24,24 +24,24 @@ inline constexpr Color kGreen = 0x0000FF00;
 inline constexpr Color kLightGrey = 0x00E0E0E0;
 inline constexpr Color kSand = 0x00A2D1D1;
 inline constexpr Color kLightSand = 0x00A5D5D6;
-inline constexpr Color kActiveTitleBar = 0x80000002;
-inline constexpr Color kInactiveTitleBar = 0x80000003;
+inline constexpr Color kAccent = 0x80000002;  // what is chosen, or under the mouse
+inline constexpr Color kSplashBorder = 0x80000003;
 inline constexpr Color kWindowBackground = 0x80000005;
 inline constexpr Color kWindowText = 0x80000008;
-inline constexpr Color kInactiveBorder = 0x8000000B;
+inline constexpr Color kMuted = 0x8000000B;  // borders, and a text that is less important
 inline constexpr Color kButtonFace = 0x8000000F;
-inline constexpr Color kButtonShadow = 0x80000010;
+inline constexpr Color kOff = 0x80000010;  // an indicator or a link that has nothing to tell
 inline constexpr Color kButtonText = 0x80000012;
-inline constexpr Color kInactiveTitleText = 0x80000013;
-inline constexpr Color kDarkShadow3D = 0x80000015;
-inline constexpr Color kLight3D = 0x80000016;
+inline constexpr Color kBalanceGround = 0x80000013;
+inline constexpr Color kNewsText = 0x80000015;
+inline constexpr Color kNewsLit = 0x80000016;  // the news indicator with news
 }  // namespace colors
 
 struct TextBox : Control {
   TextBox() = default;
-  explicit TextBox(std::string tip) { toolTip = std::move(tip); }
+  explicit TextBox(std::string tip) : Control(std::move(tip)) {}
 
-  // The program's own writing: what stands in the box is no longer what the user typed.
+  // For the program: the box then no longer holds what the user typed.
   void Write(std::string written) {
     text = std::move(written);
     typed = false;
@@ -54,28 +54,25 @@ struct TextBox : Control {
   Color backColor = colors::kWindowBackground;
   int fontSize = 8;  // points
   bool fontBold = false;
-  int selections = 0;  // how often the whole text was asked to be selected
+  int selections = 0;  // how often the whole text was to be selected
 };
 
 struct Label : Control {
   Label() = default;
   explicit Label(std::string text, std::string tip = {}, const char* heldBy = "")
-      : caption(std::move(text)) {
-    toolTip = std::move(tip);
-    holder = heldBy;
-  }
+      : Control(std::move(tip), heldBy), caption(std::move(text)) {}
 
   std::string caption;
   Color foreColor = colors::kButtonText;
-  int left = 0, top = 0;  // twips
-  int height = 0;         // twips, of the whole text
+  // Twips. Only a label on a panel of its own can be moved, and there the mirror sets the height to
+  // that of the whole text.
+  int left = 0, top = 0, height = 0;
 };
 
 struct Button : Control {
   Button() = default;
-  explicit Button(std::string text, std::string tip = {}) : caption(std::move(text)) {
-    toolTip = std::move(tip);
-  }
+  explicit Button(std::string text, std::string tip = {})
+      : Control(std::move(tip)), caption(std::move(text)) {}
 
   std::string caption;
 };
@@ -84,10 +81,7 @@ struct Button : Control {
 struct OptionButton : Control {
   OptionButton() = default;
   explicit OptionButton(std::string text, std::string tip = {}, const char* heldBy = "")
-      : caption(std::move(text)) {
-    toolTip = std::move(tip);
-    holder = heldBy;
-  }
+      : Control(std::move(tip), heldBy), caption(std::move(text)) {}
 
   std::string caption;
   bool value = false;
@@ -111,10 +105,7 @@ int Chosen(const OptionButton (&group)[N]) {
 struct CheckBox : Control {
   CheckBox() = default;
   explicit CheckBox(std::string text, std::string tip = {}, const char* heldBy = "")
-      : caption(std::move(text)) {
-    toolTip = std::move(tip);
-    holder = heldBy;
-  }
+      : Control(std::move(tip), heldBy), caption(std::move(text)) {}
 
   std::string caption;
   int value = 0;  // 0 or 1
@@ -123,10 +114,7 @@ struct CheckBox : Control {
 struct ComboBox : Control {
   ComboBox() = default;
   explicit ComboBox(bool canBeTyped, std::string tip = {}, const char* heldBy = "")
-      : editable(canBeTyped) {
-    toolTip = std::move(tip);
-    holder = heldBy;
-  }
+      : Control(std::move(tip), heldBy), editable(canBeTyped) {}
 
   bool editable = false;
   std::string text;
@@ -136,22 +124,19 @@ struct ComboBox : Control {
 struct MenuItem : Control {
   MenuItem() = default;
   explicit MenuItem(std::string text, const char* heldBy = "", bool afterSeparator = false)
-      : caption(std::move(text)), separated(afterSeparator) {
-    holder = heldBy;
-  }
+      : Control({}, heldBy), caption(std::move(text)), separated(afterSeparator) {}
 
   std::string caption;
   bool checked = false;
   bool separated = false;  // a separator stands before it
-  int popUps = 0;          // how often it was asked to open at the mouse
+  int popUps = 0;          // how often it was to open at the mouse
 };
 
 // Menu items that are made at run time, by index. The array's own fields hold for all of them.
 struct MenuArray : Control {
   MenuArray() = default;
-  explicit MenuArray(const char* heldBy, bool afterSeparator = false) : separated(afterSeparator) {
-    holder = heldBy;
-  }
+  explicit MenuArray(const char* heldBy, bool afterSeparator = false)
+      : Control({}, heldBy), separated(afterSeparator) {}
 
   bool separated = false;
   std::map<int, MenuItem> items;
@@ -167,18 +152,17 @@ struct Frame : Control {
 // A panel that can hold other controls, or a picture that can be clicked.
 struct PictureBox : Control {
   PictureBox() = default;
-  explicit PictureBox(std::string tip) { toolTip = std::move(tip); }
+  explicit PictureBox(std::string tip) : Control(std::move(tip)) {}
 };
 
 struct Shape : Control {
   Color fillColor = colors::kButtonFace;
-  Color borderColor = colors::kInactiveBorder;
-  int fillStyle = 0;  // 0 solid, 1 transparent
-  int borderWidth = 1;
-  int top = 0;          // twips
-  std::string meaning;  // what its colours tell, for those who do not see them
+  Color borderColor = colors::kMuted;
+  int fillStyle = 0;    // 0 solid, 1 transparent
+  std::string meaning;  // of its colours, for users who do not see them
 };
 
+// A line between parts of a window; no drawing has one.
 struct Line : Control {};
 
 struct Timer : Control {
@@ -189,14 +173,14 @@ struct Timer : Control {
 };
 
 struct ScrollBar : Control {
-  int max = 0;
-  int value = 0;
+  int max = 0;    // twips
+  int value = 0;  // twips, 0 to max
 };
 
 // How far a request is; with a max of 0 it only shows that something is under way.
 struct ProgressBar : Control {
   int max = 0;
-  int value = 0;
+  int value = 0;  // 0 to max
 };
 
 // How an amount is used: its parts side by side, each as wide as it is large.
@@ -212,8 +196,8 @@ struct MoneyBar : Control {
 };
 
 struct PageViewer : Control {
-  std::string address;
-  int navigations = 0;
+  std::string address;  // a web address, or a file's path and perhaps "#" and an anchor
+  int navigations = 0;  // how often a page was asked for
 
   void Navigate2(std::string to) {
     address = std::move(to);
@@ -230,11 +214,10 @@ enum class MousePointer { Default, Hourglass };
 
 struct Window {
   std::string caption;
-  bool enabled = true;
   bool topmost = false;
-  bool closesByEscape = true;  // unless a control of it takes Escape
+  bool closesByEscape = true;  // unless a control has the shortcut Escape
   MousePointer mousePointer = MousePointer::Default;
-  int left = 0, top = 0, width = 0, height = 0;  // twips
+  int left = 0, top = 0;  // twips; 0, 0 leaves the place to the toolkit
 };
 
 using AnyControl =

@@ -50,7 +50,7 @@ void Desk::Load(Window& window) {
 void Desk::Show(Window& window, Modality modality, Attention attention) {
   Load(window);
   Entry& entry = Find(window);
-  if (!entry.loaded) return;  // its own load took it away again
+  if (!entry.loaded) return;  // its load handler has unloaded it
   const bool opened = !entry.shown;
   entry.shown = true;
   entry.modal = modality == Modality::Modal;
@@ -72,7 +72,7 @@ void Desk::Hide(Window& window) {
 void Desk::Unload(Window& window) {
   Entry& entry = Find(window);
   if (!entry.loaded) return;
-  entry.loaded = false;  // so that an unload from within the handler changes nothing
+  entry.loaded = false;  // before the handler, which may unload it again
   Fire(window, Event::Unload);
   Hide(window);
   entry.focus = nullptr;
@@ -85,7 +85,6 @@ void Desk::End() {
 }
 
 bool Desk::IsEnabled(const Window& window) const {
-  if (!window.enabled) return false;
   if (entries_.empty() || entries_.front().window != &window) return true;
   return std::none_of(entries_.begin(), entries_.end(),
                       [](const Entry& entry) { return entry.shown && entry.keepsMainDisabled; });

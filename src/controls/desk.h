@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -14,8 +13,8 @@ namespace benevix {
 enum class Modality { Modeless, Modal };
 enum class Attention { None, KeepsMainDisabled };
 
-// Knows which windows are loaded, shown, modal and topmost, and where the focus is. A window that
-// is unloaded goes back to its design values; a hidden one keeps what it holds.
+// The desk: which windows are loaded, shown, modal and in front, and where the focus is. A window
+// that is unloaded goes back to its design values; a hidden one keeps what it holds.
 class Desk {
  public:
   struct Entry {
@@ -26,18 +25,21 @@ class Desk {
     bool shown = false;
     bool modal = false;
     bool keepsMainDisabled = false;
-    int loads = 0;  // tells one life of the window from the next
+    int loads = 0;  // how often it has been loaded; a window loaded again is drawn anew
     Control* focus = nullptr;
     std::function<void()> reset;
   };
 
   explicit Desk(const EventTable& events) : events_(events) {}
 
-  // Takes a window struct that bears its name as kName. The first one added is the main window.
+  // Adds a window, whose struct gives its name as kName. The first one is the main window.
   template <class W>
   void Add(W& window) {
-    entries_.push_back({W::kName, &window, ControlsOf(window), false, false, false, false, 0,
-                        nullptr, [&window] { window = W(); }});
+    Entry& entry = entries_.emplace_back();
+    entry.name = W::kName;
+    entry.window = &window;
+    entry.controls = ControlsOf(window);
+    entry.reset = [&window] { window = W(); };
   }
 
   void Load(Window& window);
@@ -53,14 +55,13 @@ class Desk {
   [[nodiscard]] bool IsLoaded(const Window& window) const { return Find(window).loaded; }
   [[nodiscard]] bool IsShown(const Window& window) const { return Find(window).shown; }
 
-  // The window's own value, and for the main window that no shown window keeps the user's
-  // attention.
+  // The main window is disabled while a shown window keeps the user's attention.
   [[nodiscard]] bool IsEnabled(const Window& window) const;
 
-  // Whether the user can work in the window: shown, enabled and not held up by a modal one.
+  // Whether the user can work in the window: it is shown, enabled and not below a modal one.
   [[nodiscard]] bool IsUsable(const Window& window) const;
 
-  // Whether the user can work with the control: so can its window, its holders and itself.
+  // Whether the user can work with the control: its window, all that holds it and itself.
   [[nodiscard]] bool IsUsable(const Entry& entry, const Control& control) const;
 
   // The control that has the focus in the window, or null.
@@ -73,7 +74,7 @@ class Desk {
   // To the next (previous) control in the window's order that takes the focus.
   void MoveFocus(Entry& entry, bool forward);
 
-  // Forgets the focus of controls that can no longer have it; nobody is told.
+  // Takes the focus from controls that can no longer have it, without an event.
   void Settle();
 
   [[nodiscard]] const std::vector<Entry>& Entries() const { return entries_; }
@@ -86,7 +87,7 @@ class Desk {
   // The shown windows from the bottom to the top.
   [[nodiscard]] const std::vector<Window*>& Shown() const { return shown_; }
 
-  // What can take the focus by its kind: boxes, buttons, options, combos and lists.
+  // Whether a control of this kind can take the focus.
   [[nodiscard]] static bool TakesFocus(const NamedControl& control);
 
  private:

@@ -42,7 +42,9 @@ struct EventArgs {
   bool byKeyboard = false;
 };
 
-// Which event of which control or window goes to which handler.
+// Which event of which control or window goes to which handler. They are known by their addresses,
+// which hold: the window structs live as long as the program, and going back to their design
+// assigns them in place.
 class EventTable {
  public:
   using Handler = std::function<void(EventArgs&)>;

@@ -19,18 +19,18 @@ bool BreaksLines(const NamedControl& control) {
 }  // namespace
 
 void Input::Enter(const std::function<void()>& what) {
-  // One thread, one deed at a time: what arrives while a handler waits is thrown away.
+  // One action at a time: what the user does while a handler waits is thrown away.
   if (busy_ || desk_.Ended()) return;
   busy_ = true;
   try {
     what();
   } catch (const ProgramEnded&) {
-    // The desk has marked the end already.
+    // The desk has recorded the end.
   } catch (const RuntimeError& error) {
     try {
       onError(error);
     } catch (const ProgramEnded&) {
-      // Ended while the error was told.
+      // Ended while the error was shown.
     }
   }
   busy_ = false;
@@ -63,7 +63,7 @@ bool Input::Click(const NamedControl& control, int element) {
 
 bool Input::Shortcut(const NamedControl& control) {
   Button* const button = control.As<Button>();
-  // Whoever works by keys stays where he is.
+  // The focus stays where the user works.
   if (button != nullptr) return Do(*button, [&](Desk::Entry&) { Fire(*button, Event::Click); });
   return Desk::TakesFocus(control) ? Focus(control.Base()) : Click(control);
 }
@@ -107,33 +107,18 @@ bool Input::ChooseMenu(MenuArray& array, int index) {
   if (element == array.items.end() || !element->second.enabled || !element->second.visible) {
     return false;
   }
-  return Do(array, [&](Desk::Entry&) {
-    EventArgs args;
-    args.index = index;
-    Fire(array, Event::Click, args);
-  });
+  return Do(array, [&](Desk::Entry&) { Fire(array, Event::Click, {.index = index}); });
 }
 
-bool Input::Click(Label& label) {
-  return Do(label, [&](Desk::Entry&) {
-    Fire(label, Event::Click);
-    Fire(label, Event::MouseUp);
-  });
-}
-
-bool Input::Click(PictureBox& picture) {
-  return Do(picture, [&](Desk::Entry&) {
-    Fire(picture, Event::Click);
-    Fire(picture, Event::MouseUp);
+bool Input::ClickWithoutFocus(Control& control) {
+  return Do(control, [&](Desk::Entry&) {
+    Fire(control, Event::Click);
+    Fire(control, Event::MouseUp);
   });
 }
 
 bool Input::MouseUp(Control& control, MouseButton button) {
-  return Do(control, [&](Desk::Entry&) {
-    EventArgs args;
-    args.button = button;
-    Fire(control, Event::MouseUp, args);
-  });
+  return Do(control, [&](Desk::Entry&) { Fire(control, Event::MouseUp, {.button = button}); });
 }
 
 bool Input::Hover(Control& control) {
@@ -175,20 +160,14 @@ bool Input::Type(ComboBox& combo, std::string text) {
 
 bool Input::Type(ListView& list, char typed) {
   return Do(list, [&](Desk::Entry&) {
-    EventArgs args;
-    args.key = static_cast<unsigned char>(typed);
-    Fire(list, Event::KeyPress, args);
+    Fire(list, Event::KeyPress, {.key = static_cast<unsigned char>(typed)});
   });
 }
 
 bool Input::Key(const Control& control, int key) {
   const Desk::Entry& entry = desk_.Holding(control);
   const int life = entry.loads;
-  const bool done = Do(control, [&](Desk::Entry&) {
-    EventArgs args;
-    args.key = key;
-    Fire(control, Event::KeyUp, args);
-  });
+  const bool done = Do(control, [&](Desk::Entry&) { Fire(control, Event::KeyUp, {.key = key}); });
   if (!done || !entry.loaded || entry.loads != life) return done;
   const NamedControl& named = Named(entry, control);
   if (key == keys::kEnter && named.As<Button>() != nullptr) {
@@ -215,11 +194,7 @@ bool Input::AnswerKey(const Desk::Entry& entry, int key) {
 
 bool Input::Tab(Control& control, bool forward) {
   return Do(control, [&](Desk::Entry& entry) {
-    if (forward) {
-      EventArgs args;
-      args.key = keys::kTab;
-      Fire(control, Event::KeyUp, args);
-    }
+    if (forward) Fire(control, Event::KeyUp, {.key = keys::kTab});
     const bool stayed = entry.focus == nullptr || entry.focus == &control;
     if (stayed && desk_.IsUsable(*entry.window)) desk_.MoveFocus(entry, forward);
   });
@@ -244,10 +219,7 @@ bool Input::SelectRow(ListView& list, int row, MouseButton button, bool byKeyboa
   return Do(list, [&](Desk::Entry&) {
     desk_.SetFocus(list);
     list.selected = row;
-    EventArgs args;
-    args.button = button;
-    args.byKeyboard = byKeyboard;
-    Fire(list, Event::ItemClick, args);
+    Fire(list, Event::ItemClick, {.button = button, .byKeyboard = byKeyboard});
   });
 }
 

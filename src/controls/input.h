@@ -8,21 +8,21 @@
 
 namespace benevix {
 
-// What the user does, on either face: each deed changes the structs as the user's hand would and
-// raises its events. A deed that cannot be done (the control is disabled, hidden or held up, or the
+// The user's actions, the same for both front ends: each changes the structs and raises its events.
+// An action that cannot be done (the control is disabled, hidden or below a modal window, or the
 // program waits or has ended) changes nothing and gives false.
 class Input {
  public:
   Input(Desk& desk, const EventTable& events) : desk_(desk), events_(events) {}
 
-  // Called after every deed, first: brings what the windows show of other values into line.
+  // Called after every action: works out what the structs show of the program's other values.
   std::function<void()> derive = [] {};
-  // Called after every deed, last; the mirror brings the windows into line.
+  // Called after that; the mirror brings the windows into line.
   std::function<void()> afterEvent = [] {};
-  // An error that no handler took.
+  // Called with an error that no handler caught.
   std::function<void(const RuntimeError&)> onError = [](const RuntimeError&) {};
 
-  // A click on what takes clicks; `element` is a menu array's.
+  // A click on any control that takes clicks; `element` is the index in a menu array.
   bool Click(const NamedControl& control, int element = -1);
   // The control's shortcut was pressed: a click that leaves the focus where it is, or the way to a
   // box or list.
@@ -32,8 +32,8 @@ class Input {
   bool Toggle(CheckBox& box);
   bool ChooseMenu(MenuItem& item);
   bool ChooseMenu(MenuArray& array, int index);
-  bool Click(Label& label);
-  bool Click(PictureBox& picture);
+  bool Click(Label& label) { return ClickWithoutFocus(label); }
+  bool Click(PictureBox& picture) { return ClickWithoutFocus(picture); }
   bool MouseUp(Control& control, MouseButton button);
   bool Hover(Control& control);
 
@@ -41,23 +41,25 @@ class Input {
   bool Focus(Control& control);
   bool Leave(Control& control);
 
-  // Whether the typed character stays; asks the box's key filter.
+  // Whether the box's key filter lets the typed character in.
   bool Accepts(TextBox& box, char typed);
-  // The user's change made `text` of what the box held.
+  // The user has changed the text to `text`.
   bool Type(TextBox& box, std::string text);
   bool Type(ComboBox& combo, std::string text);
   // The character was typed in the list.
   bool Type(ListView& list, char typed);
-  // A key was pressed and released in the control. Enter then presses a button that has the focus,
-  // otherwise what takes Enter in the window; Escape presses what takes it, or closes the window.
+  // A key (see keys) was pressed and released in the control. Enter then presses the button that
+  // has the focus, otherwise the control with the shortcut Enter; Escape presses the control with
+  // the shortcut Escape, or closes the window.
   bool Key(const Control& control, int key);
-  // The same in a window where nothing has the focus.
+  // The same in a window where no control has the focus.
   bool Key(Window& window, int key);
   // Tab moves the focus on, unless its handler moved it.
   bool Tab(Control& control, bool forward);
   bool Tab(Window& window, bool forward);
 
-  bool Pick(ComboBox& combo, int index);
+  bool Pick(ComboBox& combo, int index);  // from 0
+  // The row counts from 1.
   bool SelectRow(ListView& list, int row, MouseButton button, bool byKeyboard = false);
   bool Scroll(ScrollBar& bar, int value);
   bool Tick(Timer& timer);
@@ -65,12 +67,13 @@ class Input {
   // The user closes the window by its frame.
   bool Close(Window& window);
 
-  // Runs something of the program where its end and its errors are taken; afterwards the windows
-  // are brought into line.
+  // Runs a part of the program as an action: catches its end and its errors, and afterwards brings
+  // the windows into line.
   void Enter(const std::function<void()>& what);
 
  private:
   bool Do(const Control& control, const std::function<void(Desk::Entry&)>& what);
+  bool ClickWithoutFocus(Control& control);
   bool AnswerKey(const Desk::Entry& entry, int key);
   void Fire(const Control& control, Event event, EventArgs args = {});
 

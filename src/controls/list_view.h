@@ -18,8 +18,8 @@ class RowSource {
   [[nodiscard]] virtual std::string Text(int row, int column) const = 0;
 };
 
-// A report list: the rows of its source, and over them the few cells that were written since. So an
-// event costs the same with three hundred rows and with two million.
+// A list with columns: the rows of its source, and over them the few cells that were written since.
+// So an event costs the same with three hundred rows and with two million.
 struct ListView : Control {
   static constexpr int kColumns = 10;
   using Cells = std::array<std::string, kColumns>;
@@ -29,9 +29,8 @@ struct ListView : Control {
   std::map<int, Cells> cells;  // by row; an empty text shows the source's
   int selected = 0;            // row, 0 for none
   int top = 0;                 // the row last scrolled into view, 0 for none
-  int scrolls = 0;             // how often a row was asked to be scrolled into view
+  int scrolls = 0;             // how often a row was to be scrolled into view
   int changes = 0;             // how often a text was written or the rows were replaced
-  int appearance = 0;          // 1 three-dimensional
 
   [[nodiscard]] int Count() const { return rows ? rows->Count() : 0; }
 

@@ -34,11 +34,10 @@ inline constexpr int kDeduct = 1;
 // The main window.
 struct frmBVX : Window {
   static constexpr const char* kName = "frmBVX";
+  static constexpr int kWidth = 15360;  // twips; where the credit line comes in
 
   frmBVX() {
     caption = "BENEVIX";
-    width = 15360;
-    height = 10800;
     ListView1.columns = {"Country", "Organization", "Type", "Amount", "D.Pool",
                          "From",    "ID",           "",     "Fee",    "CC Fee"};
     Text1[money_box::kDonation].enabled = false;

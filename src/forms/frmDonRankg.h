@@ -10,8 +10,6 @@ struct frmDonRankg : Window {
 
   frmDonRankg() {
     caption = " Donors Ranking";
-    width = 6000;
-    height = 3600;
     Command1.shortcut = kEnterShortcut;
   }
 

@@ -11,8 +11,6 @@ struct frmInfo : Window {
   frmInfo() {
     caption = kTitle;
     topmost = true;
-    width = 10800;
-    height = 8400;
     wb1.visible = false;
     Label3.visible = false;
     Label1.holder = "Picture1";

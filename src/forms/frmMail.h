@@ -10,8 +10,6 @@ struct frmMail : Window {
 
   frmMail() {
     caption = " BVX Messenger";
-    width = 7800;
-    height = 6600;
     Text1[1].multiLine = true;
     Command1[2].enabled = false;
     // Not by Enter: what is sent cannot be called back.

@@ -17,8 +17,6 @@ struct frmPayOpt : Window {
   frmPayOpt() {
     caption = " Payment Options";
     topmost = true;
-    width = 6600;
-    height = 3600;
     Command1[0].enabled = false;
     Command1[0].shortcut = kEnterShortcut;
     Command1[1].shortcut = "F1";

@@ -17,8 +17,6 @@ struct frmPersInfo : Window {
 
   frmPersInfo() {
     caption = " Contact Information";
-    width = 7200;
-    height = 5700;
     Command1[0].shortcut = kEnterShortcut;
     Command1[1].shortcut = kEscapeShortcut;
   }

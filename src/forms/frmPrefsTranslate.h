@@ -17,8 +17,6 @@ struct frmPrefsTranslate : Window {
 
   frmPrefsTranslate() {
     caption = " Translation Preferences";
-    width = 6000;
-    height = 3300;
     Command2.shortcut = kEnterShortcut;
     Command1.shortcut = kEscapeShortcut;
     Text1[translate_field::kFromLanguage].text = "en";

@@ -10,8 +10,6 @@ struct frmSplash : Window {
 
   frmSplash() {
     caption = "Benevix";
-    width = 7200;
-    height = 4800;
     Image2[0].shortcut = kEnterShortcut;
     Image2[1].shortcut = kEscapeShortcut;
   }

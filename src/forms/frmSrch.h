@@ -10,8 +10,6 @@ struct frmSrch : Window {
 
   frmSrch() {
     caption = " Find";
-    width = 4800;
-    height = 2400;
     Option1[0].value = true;
     Command1.shortcut = kEnterShortcut;
   }

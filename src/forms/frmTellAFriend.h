@@ -17,8 +17,6 @@ struct frmTellAFriend : Window {
 
   frmTellAFriend() {
     caption = " Tell a friend about Benevix";
-    width = 6000;
-    height = 3300;
     Command1[0].shortcut = kEnterShortcut;
     Command1[1].shortcut = kEscapeShortcut;
   }

@@ -10,8 +10,6 @@ struct frmWait : Window {
 
   frmWait() {
     caption = " Contacting Remote Server";
-    width = 5400;
-    height = 1800;
     closesByEscape = false;
   }
 

@@ -9,8 +9,6 @@ struct frmWizard : Window {
   static constexpr const char* kName = "frmWizard";
 
   frmWizard() {
-    width = 6600;
-    height = 4200;
     Command1.shortcut = kEnterShortcut;
     Command2.shortcut = "F1";
   }

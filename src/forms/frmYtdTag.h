@@ -8,11 +8,7 @@ namespace benevix {
 struct frmYtdTag : Window {
   static constexpr const char* kName = "frmYtdTag";
 
-  frmYtdTag() {
-    caption = " Status";
-    width = 3600;
-    height = 2400;
-  }
+  frmYtdTag() { caption = " Status"; }
 
   Label Label1[4] = {Label("Today"), Label("This Month"), Label("This Year"), Label("Total Ever")};
   Label Label2[4];  // the amounts

@@ -11,32 +11,33 @@ inline std::filesystem::path PathOf(const std::string& utf8) {
   return {std::u8string(utf8.begin(), utf8.end())};
 }
 
-// A file that is read piece by piece, from its beginning.
+// Reads a file sequentially.
 class FileReader {
  public:
   virtual ~FileReader() = default;
-  // The file's bytes when it was opened.
+  // In bytes, when the file was opened.
   [[nodiscard]] virtual std::size_t Size() const = 0;
-  // Reads at most `size` bytes to `place` and gives their number, 0 at the end. Raises
+  // Reads up to `size` bytes and returns their number, 0 at the end of the file. Raises
   // RuntimeError.
-  virtual std::size_t Read(char* place, std::size_t size) = 0;
+  virtual std::size_t Read(char* buffer, std::size_t size) = 0;
 };
 
-// The files of the program folder. Paths are UTF-8. Failures raise RuntimeError with the file's
-// name and the reason.
+// Access to files by their paths (UTF-8). Failures raise RuntimeError with the file's name and the
+// reason.
 class Files {
  public:
   virtual ~Files() = default;
   [[nodiscard]] virtual bool Exists(const std::string& path) const = 0;
   [[nodiscard]] virtual std::unique_ptr<FileReader> Open(const std::string& path) const = 0;
   [[nodiscard]] virtual std::string ReadAll(const std::string& path) const = 0;
-  // Written beside and renamed: at any instant the old or the new file stands, never half.
+  // Atomic: writes a temporary file in the same folder and renames it.
   virtual void Replace(const std::string& path, const std::string& bytes) = 0;
-  // Appended in one write and flushed to the disk; the file is made when it is not there. When it
-  // fails the file is as it was.
+  // Appends in one write and flushes to the disk; creates a missing file. On failure the file stays
+  // as it was.
   virtual void Append(const std::string& path, const std::string& bytes) = 0;
-  // A missing file is no error.
+  // Does nothing when the file does not exist.
   virtual void Remove(const std::string& path) = 0;
+  // Overwrites `to`.
   virtual void Copy(const std::string& from, const std::string& to) = 0;
 };
 

@@ -6,27 +6,27 @@
 
 namespace benevix {
 
-inline constexpr std::size_t kAnswerLimit = std::size_t{64} << 20;   // bytes
-inline constexpr std::size_t kDownloadLimit = std::size_t{1} << 30;  // bytes
+inline constexpr std::size_t kResponseLimit = std::size_t{64} << 20;  // bytes
+inline constexpr std::size_t kDownloadLimit = std::size_t{1} << 30;   // bytes
 
 struct HttpOptions {
-  std::string proxy;  // host:port, empty for none
-  int timeout = 5;    // seconds without a byte received; below 1 counts as 5
-  std::size_t limit = kAnswerLimit;
-  bool needsOk = false;  // an answer of another status than 200 comes back empty
-  // Called while the answer comes in; total is 0 while it is not known.
+  std::string proxy;                   // host:port, or empty
+  int timeout = 5;                     // seconds without a byte received; below 1 counts as 5
+  std::size_t limit = kResponseLimit;  // bytes
+  bool needsOk = false;  // a response with a status other than 200 is returned as empty
+  // Called for each chunk received, with bytes; `total` is 0 when the server does not tell.
   std::function<void(std::size_t received, std::size_t total)> progress;
 };
 
-// One synchronous GET request at a time.
+// Synchronous GET requests, one at a time.
 class HttpClient {
  public:
   virtual ~HttpClient() = default;
 
-  // The whole answer, whatever its status. `address` is taken as built; what may not stand in a
-  // request line is percent-encoded on its way out. An answer above the limit is cut off and comes
-  // back empty, which no caller takes for an answer. Raises RuntimeError when no answer comes: no
-  // connection, closed, time-out.
+  // Returns the response body, whatever the status. Characters of `address` that are not allowed in
+  // a request line are percent-encoded. A response larger than `limit` is aborted and returned as
+  // empty, which no caller accepts. Raises RuntimeError without a complete response: no connection,
+  // connection closed, timeout.
   virtual std::string OpenURL(const std::string& address, const HttpOptions& options) = 0;
 };
 

@@ -9,41 +9,41 @@
 
 namespace benevix {
 
-// The lines of a file that may be too large to be held whole. A line ends at LF, which does not
-// belong to it, the last one at the end of the file.
+// Reads a file line by line, without holding all of it in memory. Lines end with LF, which is not
+// returned; the last one may have none.
 class LineReader {
  public:
   explicit LineReader(std::unique_ptr<FileReader> file) : file_(std::move(file)) {}
 
-  // Good until the next call; nothing at the end. Raises RuntimeError when the file cannot be read.
+  // The next line, valid until the next call; nothing at the end. Raises RuntimeError when the file
+  // cannot be read.
   std::optional<std::string_view> Next() {
-    for (std::size_t looked = begin_;;) {
-      const auto end = bytes_.find('\n', looked);
+    for (std::size_t searchFrom = begin_;;) {
+      const auto end = bytes_.find('\n', searchFrom);
       if (end != std::string::npos) return Take(end, 1);
-      looked = bytes_.size() - begin_;
-      if (!ReadOn()) break;
+      searchFrom = bytes_.size() - begin_;
+      if (!ReadChunk()) break;
     }
     if (begin_ == bytes_.size()) return std::nullopt;
     return Take(bytes_.size(), 0);
   }
 
  private:
-  // The text up to `end`; what follows its separator comes next.
-  std::string_view Take(std::size_t end, std::size_t separator) {
+  std::string_view Take(std::size_t end, std::size_t lineFeed) {
     const std::size_t begin = begin_;
-    begin_ = end + separator;
+    begin_ = end + lineFeed;
     return std::string_view(bytes_).substr(begin, end - begin);
   }
 
-  // Puts the next piece behind the line that has begun, which moves to the front.
-  bool ReadOn() {
-    constexpr std::size_t piece = std::size_t{64} << 10;
+  // Drops the lines already returned and appends the next chunk; false at the end of the file.
+  bool ReadChunk() {
+    constexpr std::size_t chunk = std::size_t{64} << 10;
     bytes_.erase(0, begin_);
     begin_ = 0;
-    const std::size_t had = bytes_.size();
-    bytes_.resize(had + piece);
-    bytes_.resize(had + file_->Read(bytes_.data() + had, piece));
-    return bytes_.size() > had;
+    const std::size_t size = bytes_.size();
+    bytes_.resize(size + chunk);
+    bytes_.resize(size + file_->Read(bytes_.data() + size, chunk));
+    return bytes_.size() > size;
   }
 
   std::unique_ptr<FileReader> file_;

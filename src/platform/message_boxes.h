@@ -8,7 +8,7 @@ enum class BoxIcon { None, Information, Question, Critical };
 enum class BoxButtons { OK, YesNo };
 enum class BoxAnswer { OK, Yes, No };
 
-// Modal message boxes; return when the user answers.
+// Modal message boxes: Show returns when the user has answered.
 class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;

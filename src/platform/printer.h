@@ -8,10 +8,10 @@ namespace benevix {
 class Printer {
  public:
   virtual ~Printer() = default;
-  // Prints a line of the code page that begins at a tab column, counted from 1; the first one
-  // begins a document. Raises RuntimeError without a printer.
+  // Prints a line (code page) at a tab column, counted from 1; the first line begins a document.
+  // Raises RuntimeError when there is no usable printer.
   virtual void PrintLine(int column, const std::string& line) = 0;
-  // Ends the document and sends it; does nothing when none was begun. Raises nothing.
+  // Ends the document and sends it to the printer. Does nothing without one. Raises nothing.
   virtual void EndDoc() = 0;
 };
 

@@ -4,10 +4,10 @@
 
 namespace benevix {
 
-// Values of deployment.ini.
+// The values of deployment.ini, in the code page.
 struct Deployment {
-  std::string serverBase;   // http or https, ends in "/"
-  std::string paymentBase;  // ends in "/xclick/business=" at the payment service
+  std::string serverBase;   // http or https address that ends in "/"
+  std::string paymentBase;  // of the payment service, ends in "/xclick/business="
   std::string mail;         // the application's own mail address
   std::string translationName;
   std::string translationBase;
@@ -15,10 +15,10 @@ struct Deployment {
   std::string product;
 };
 
-// What the program knows of itself from its start on.
+// Facts about the program and its machine, set once at start-up.
 struct ProgramInfo {
   std::string folder;   // the program folder, UTF-8, no slash at the end
-  std::string exeName;  // the executable's file name without folder and extension
+  std::string exeName;  // file name of the executable without folder and extension
   int major = 0, minor = 0, revision = 0;
   int platformId = 2;                             // as the operating system reports it
   int screenWidth = 15360, screenHeight = 11520;  // twips

@@ -13,7 +13,7 @@
 
 namespace benevix {
 
-// Everything outside the program that it may touch.
+// The interfaces to everything outside the program.
 struct Surroundings {
   ProgramInfo info;
   Registry& registry;

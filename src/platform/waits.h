@@ -2,14 +2,14 @@
 
 namespace benevix {
 
-// Told around everything that keeps the program's one thread waiting (a request, a question), so
-// that the windows stand as they should and take no input meanwhile.
+// Called before and after everything that blocks the program's only thread (a request, a message
+// box), so that the windows are up to date and ignore input meanwhile. Calls may be nested.
 class Waits {
  public:
   virtual ~Waits() = default;
   virtual void Begin() = 0;
   virtual void End() = 0;
-  // Lets pending window events run once: the windows paint.
+  // Processes the pending window events, so that windows are painted.
   virtual void DoEvents() = 0;
 };
 

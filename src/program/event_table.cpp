@@ -30,9 +30,9 @@ void Program::ConnectSplash() {
   events_.On(splash, Event::Load, Plain([this] { frmSplash_Load(); }));
   events_.On(splash, Event::Close, Plain([this] { desk_.End(); }));
   events_.On(splash.Image1, Event::MouseMove,
-             Plain([&splash] { splash.Shape2.borderColor = colors::kInactiveTitleBar; }));
+             Plain([&splash] { splash.Shape2.borderColor = colors::kSplashBorder; }));
   events_.On(splash.Image2, Event::MouseMove,
-             [&splash](int, EventArgs&) { splash.Shape2.borderColor = colors::kActiveTitleBar; });
+             [&splash](int, EventArgs&) { splash.Shape2.borderColor = colors::kAccent; });
   events_.On(splash.Image2, Event::Click, [this](int index, EventArgs&) { Image2_Click(index); });
 }
 

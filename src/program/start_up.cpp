@@ -62,7 +62,7 @@ void Program::LoadMainWindow() {
   PutOwnName(main_, contact.Text1[contact_field::kFullName].text);
   otherNames_.LoadOtherNames(main_.Combo1);
   run_.PlatformCode = GetPlatformCode(surroundings_.info.platformId);
-  main_.Label4.left = main_.width;  // the credit line comes in from the right
+  main_.Label4.left = frmBVX::kWidth;  // the credit line comes in from the right
   BuildQuickHelpMenu(surroundings_.files, surroundings_.info.Resource("qhelp.html"), main_.qhelp1);
   wizard_.ReadStartMark();
   favorites_.LoadFavoritesMenu();

@@ -30,9 +30,9 @@ void News::LoadNews() {
 
 void News::Show(const std::string& news) {
   main_.Label12.tag = news;
-  main_.Label12.foreColor = colors::kDarkShadow3D;
+  main_.Label12.foreColor = colors::kNewsText;
   main_.Timer2.enabled = true;
-  main_.Shape5.fillColor = colors::kLight3D;
+  main_.Shape5.fillColor = colors::kNewsLit;
   main_.Shape5.meaning = "There is news";
 }
 
@@ -67,10 +67,10 @@ void News::Label12_Click() {
 void News::Quiet() {
   main_.Timer2.enabled = false;
   main_.Shape7.fillStyle = 1;
-  main_.Shape7.borderColor = colors::kInactiveBorder;
-  main_.Shape5.borderColor = colors::kInactiveBorder;
+  main_.Shape7.borderColor = colors::kMuted;
+  main_.Shape5.borderColor = colors::kMuted;
   main_.Shape5.fillColor = colors::kButtonFace;
-  main_.Label12.foreColor = colors::kInactiveBorder;
+  main_.Label12.foreColor = colors::kMuted;
   main_.Shape5.meaning = kNoNews;
 }
 

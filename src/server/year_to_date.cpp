@@ -67,7 +67,7 @@ void YearToDate::ShowAmounts(std::string_view amounts) {
 
 void YearToDate::SetMark(Mark mark) {
   const bool found = mark == Mark::Found;
-  main_.iLbl.foreColor = found ? colors::kBlack : colors::kButtonShadow;
+  main_.iLbl.foreColor = found ? colors::kBlack : colors::kOff;
   main_.Shape2.fillColor = found ? colors::kGreen : colors::kLightGrey;
   main_.Shape2.meaning = found ? "Amounts are known" : kNoAmounts;
 }

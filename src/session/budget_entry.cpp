@@ -28,7 +28,7 @@ void BudgetEntry::Enter() {
     values_.Balance = balance;
     main_.Label8.caption = values_.Balance.ToText();
     MarkBudgetAccepted(main_);
-    main_.Text1[money_box::kBalance].backColor = colors::kInactiveTitleText;
+    main_.Text1[money_box::kBalance].backColor = colors::kBalanceGround;
   }
   method73(values_, main_, desk_);
   main_.Label8.visible = false;

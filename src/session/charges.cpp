@@ -101,7 +101,7 @@ void Charges::ShowCharge(std::size_t option, const std::optional<Charge>& charge
   const std::string fees = charge ? FeesText(option, *charge) : "once something is given";
   const bool chosen = payment_.Option1[option].value;
   main_.ChargeAmount[option].caption = amount;
-  main_.ChargeAmount[option].foreColor = chosen ? colors::kActiveTitleBar : Label().foreColor;
+  main_.ChargeAmount[option].foreColor = chosen ? colors::kAccent : Label().foreColor;
   main_.ChargeFees[option].caption = fees;
   payment_.ChargeAmount[option].caption = amount;
   payment_.ChargeAmount[option].visible = charge.has_value();

@@ -41,8 +41,7 @@ void MainWindow::Timer1_Tick() {
 
 void MainWindow::Timer2_Tick() {
   Shape& indicator = main_.Shape5;
-  indicator.fillColor =
-      indicator.fillColor == colors::kLight3D ? colors::kButtonShadow : colors::kLight3D;
+  indicator.fillColor = indicator.fillColor == colors::kNewsLit ? colors::kOff : colors::kNewsLit;
 }
 
 }  // namespace benevix

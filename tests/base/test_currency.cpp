@@ -5,18 +5,19 @@
 #include <limits>
 #include <random>
 
-#include "../cases_of_a_test.h"
+#include "../text_cases.h"
 #include "base/currency.h"
 #include "base/runtime_error.h"
 
 namespace benevix {
 namespace {
 
-constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
-constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
+constexpr std::int64_t kMax = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t kMin = std::numeric_limits<std::int64_t>::min();
 
-TEST(Currency, TakesTheExactDoubleHalvesToEven) {
-  // 0.00005 is a little above the half, 0.00015 a little below, 0.03125 and 0.09375 are halves.
+TEST(Currency, RoundsTheExactDoubleHalfToEven) {
+  // As a double, 0.00005 is just above the half and 0.00015 just below; 0.03125 and 0.09375 are
+  // exact halves.
   for (const auto& [value, text] :
        Cases({"-0.0 => 0", "-1.5 => -1.5", "100.5 => 100.5", "0.0009 => 0.0009",
               "0.00005 => 0.0001", "0.00015 => 0.0001", "0.03125 => 0.0312", "0.09375 => 0.0938",
@@ -30,8 +31,8 @@ TEST(Currency, TakesTheExactDoubleHalvesToEven) {
   }
 }
 
-// The C library prints the exact decimal expansion of a double.
-TEST(Currency, AgreesWithTheDecimalExpansion) {
+// snprintf writes the exact decimal expansion of a double.
+TEST(Currency, AgreesWithSnprintf) {
   std::mt19937_64 random(1);
   for (int i = 0; i < 20000; ++i) {
     const auto mantissa = static_cast<double>(static_cast<std::int64_t>(random()));
@@ -56,7 +57,7 @@ TEST(Currency, MultipliesExactlyOrOverflows) {
   int overflows = 0;
   for (int i = 0; i < 50000; ++i) {
     const auto a = static_cast<std::int64_t>(random()) >> (random() % 63);
-    // Every other one a multiple of 5000, for products that end in a half.
+    // Multiples of 5000 give products that end in exactly one half.
     const auto b = i % 2 == 0 ? static_cast<std::int64_t>(random()) >> (random() % 63)
                               : static_cast<std::int64_t>(random() % 99) * 5000;
     const Int128 product = static_cast<Int128>(a) * b;
@@ -66,7 +67,7 @@ TEST(Currency, MultipliesExactlyOrOverflows) {
       rounded += product < 0 ? -1 : 1;
     }
     const auto multiply = [&] { return Product(Currency::FromUnits(a), Currency::FromUnits(b)); };
-    if (rounded > kMost || rounded < kLeast) {
+    if (rounded > kMax || rounded < kMin) {
       ++overflows;
       EXPECT_THROW(multiply(), RuntimeError);
     } else {
@@ -78,14 +79,14 @@ TEST(Currency, MultipliesExactlyOrOverflows) {
 #endif
 
 TEST(Currency, NeverWraps) {
-  const Currency most = Currency::FromUnits(kMost), least = Currency::FromUnits(kLeast);
-  const Currency unit = Currency::FromUnits(1), none;
-  EXPECT_EQ(most.ToText() + least.ToText(), "922337203685477.5807-922337203685477.5808");
-  EXPECT_EQ(most + least, none - unit);
-  EXPECT_EQ(least - least, none);
-  EXPECT_THROW(most + unit, RuntimeError);
-  EXPECT_THROW(least - unit, RuntimeError);
-  EXPECT_THROW(none - least, RuntimeError);
+  const Currency max = Currency::FromUnits(kMax), min = Currency::FromUnits(kMin);
+  const Currency unit = Currency::FromUnits(1), zero;
+  EXPECT_EQ(max.ToText() + min.ToText(), "922337203685477.5807-922337203685477.5808");
+  EXPECT_EQ(max + min, zero - unit);
+  EXPECT_EQ(min - min, zero);
+  EXPECT_THROW(max + unit, RuntimeError);
+  EXPECT_THROW(min - unit, RuntimeError);
+  EXPECT_THROW(zero - min, RuntimeError);
   EXPECT_EQ(Currency::FromText("1,000.00"), Currency::FromWhole(1));
   EXPECT_THROW(Currency::FromText("922337203685478"), RuntimeError);
 }

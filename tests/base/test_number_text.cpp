@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "../cases_of_a_test.h"
+#include "../text_cases.h"
 #include "base/format.h"
 #include "base/number_text.h"
 #include "base/runtime_error.h"
@@ -54,7 +54,7 @@ TEST(NumberText, ReadsTheLeadingNumber) {
   EXPECT_EQ(Val({"1\0002", 3}), 1);
 }
 
-TEST(NumberText, TellsWhatIsNumeric) {
+TEST(NumberText, RecognizesNumericTexts) {
   for (const char* text : {"1,000", "$5", "1e5", "&H10", "&O7", "(5)", "5-", "-.5", "5 ", "\t5",
                            "+5", "5.", "1.5e-3", "$1,234.50", "-$5", "&HFFFF&"}) {
     EXPECT_TRUE(IsNumeric(text)) << text;
@@ -71,7 +71,7 @@ TEST(NumberText, TellsWhatIsNumeric) {
   for (const char* text : {"yes", ""}) EXPECT_THROW(TextToBoolean(text), RuntimeError) << text;
 }
 
-TEST(NumberText, ReadsAnyBytesWithoutHarm) {
+TEST(NumberText, ReadsRandomBytesSafely) {
   std::mt19937 random(3);
   using std::string_literals::operator""s;
   const std::string letters = "0019.,-+eEdD&HhO()$ \t\n\r\0\xFF"s;
@@ -86,7 +86,7 @@ TEST(NumberText, ReadsAnyBytesWithoutHarm) {
   }
 }
 
-TEST(NumberText, RoundsToWholeNumbersHalvesToEven) {
+TEST(NumberText, RoundsToWholeNumbersHalfToEven) {
   const std::pair<double, int> cases[] = {
       {2.5, 2}, {3.5, 4}, {-2.5, -2}, {-3.5, -4}, {32767.4999, 32767}, {-32768.5, -32768}};
   for (const auto& [value, whole] : cases) EXPECT_EQ(ToInt16(value), whole);
@@ -114,7 +114,7 @@ TEST(NumberText, WritesDoublesAndSingles) {
   }
 }
 
-TEST(Format, WritesThePatterns) {
+TEST(Format, AppliesPatterns) {
   const struct {
     const char *value, *money, *amount, *fee;
   } cases[] = {{"0", ".00", ".00", "."},
@@ -140,7 +140,7 @@ TEST(Format, WritesThePatterns) {
   EXPECT_EQ(FormatDouble(7, "000"), "007");
   EXPECT_EQ(FormatDouble(-0.0, "0.0"), "0.0");
   EXPECT_EQ(FormatDouble(0.1 + 0.2, "#.################"), ".3");
-  // A currency has more digits than a double, a single fewer.
+  // A currency keeps more digits than a double, a single fewer.
   EXPECT_EQ(Format(Currency::FromUnits(9223372036854775807), kFeePattern), "922337203685477.58");
   EXPECT_EQ(FormatSingle(2.0013F, "#.0.##0"), "2.0.013");
   EXPECT_EQ(FormatSingle(16777216.0F, "#,#.0"), "16,777,220.0");

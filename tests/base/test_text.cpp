@@ -6,14 +6,14 @@
 namespace benevix {
 namespace {
 
-TEST(Text, KeepsEveryByteOnTheWayThroughUtf8) {
+TEST(Text, RoundTripsEveryByteThroughUtf8) {
   std::string all;
   for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
   bool lost = true;
   EXPECT_EQ(FromUtf8(ToUtf8(all), &lost), all);
   EXPECT_FALSE(lost);
   EXPECT_EQ(ToUtf8("\x80 \xE9 \x9F"), "€ é Ÿ");
-  // What has no place in the code page, and what is no UTF-8.
+  // Characters that the code page lacks, and invalid UTF-8.
   const std::pair<std::string, const char*> cases[] = {{"a\u0141b", "ab"},
                                                        {"\U0001F600!", "!"},
                                                        {"\xC2\x80", ""},
@@ -37,7 +37,7 @@ TEST(Text, KeepsEveryByteOnTheWayThroughUtf8) {
   }
 }
 
-TEST(Text, ChangesCaseAndTakesLinesApart) {
+TEST(Text, ChangesCaseAndSplitsLines) {
   EXPECT_EQ(UpperCase("u.s.a. \xE9\xFF\x9A\x9C\x9E \xDF\xF7"),
             "U.S.A. \xC9\x9F\x8A\x8C\x8E \xDF\xF7");
   for (int byte = 0; byte < 256; ++byte) {

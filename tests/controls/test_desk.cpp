@@ -1,26 +1,26 @@
 #include <gtest/gtest.h>
 
-#include "windows_of_a_test.h"
+#include "two_windows.h"
 
 namespace benevix {
 namespace {
 
-class DeskTest : public testing::Test, public DeskOfATest {};
+class DeskTest : public testing::Test, public TwoWindows {};
 
 TEST_F(DeskTest, UnloadGoesBackToTheDesignAndHideDoesNot) {
   events.On(side, Event::Unload, [this](EventArgs&) {
-    heard += side.text.text;
-    desk.Unload(side);  // from within: nothing more happens
+    raised += side.text.text;
+    desk.Unload(side);  // from its own handler: changes nothing
   });
   desk.Show(side);
   side.text.Write("kept");
   desk.Hide(side);
   desk.Show(side);
-  EXPECT_EQ(Heard(), "text.Got ");
+  EXPECT_EQ(Raised(), "text.Got ");
   EXPECT_EQ(side.text.text, "kept");
   desk.Unload(side);
   desk.Unload(side);
-  EXPECT_EQ(Heard(), "kept");
+  EXPECT_EQ(Raised(), "kept");
   EXPECT_EQ(side.text.text + side.text.toolTip, "tip");
   EXPECT_EQ(desk.FocusOf(side), nullptr);
   events.On(side, Event::Load, [this](EventArgs&) { desk.Unload(side); });
@@ -29,7 +29,7 @@ TEST_F(DeskTest, UnloadGoesBackToTheDesignAndHideDoesNot) {
   EXPECT_TRUE(desk.IsUsable(main));
 }
 
-TEST_F(DeskTest, ModalAndAttentionHoldTheMainWindowUp) {
+TEST_F(DeskTest, AModalWindowAndOneThatKeepsTheAttentionDisableTheMainWindow) {
   desk.Show(side, Modality::Modal);
   EXPECT_TRUE(desk.IsEnabled(main) && desk.IsUsable(side));
   EXPECT_FALSE(desk.IsUsable(main));
@@ -37,7 +37,7 @@ TEST_F(DeskTest, ModalAndAttentionHoldTheMainWindowUp) {
   desk.Show(side);  // a modal mark does not outlive its showing
   EXPECT_TRUE(desk.IsUsable(main));
   desk.Show(side, Modality::Modeless, Attention::KeepsMainDisabled);
-  desk.Show(side);  // asked for again while it stands: still kept
+  desk.Show(side);  // again while it is shown: the mark stays
   EXPECT_FALSE(desk.IsEnabled(main) || input.Close(main) || input.Click(main.label));
   EXPECT_TRUE(input.Close(side));
   EXPECT_TRUE(desk.IsUsable(main));
@@ -45,24 +45,24 @@ TEST_F(DeskTest, ModalAndAttentionHoldTheMainWindowUp) {
 
 TEST_F(DeskTest, FocusMovesWithItsEventsAndStaysOffWhatIsClosed) {
   desk.SetFocus(main.check);
-  EXPECT_EQ(Heard(), "box0.Lost check.Got ");
+  EXPECT_EQ(Raised(), "box0.Lost check.Got ");
   main.frame.enabled = main.button.visible = false;
   for (Control* closed :
        {static_cast<Control*>(&main.check), static_cast<Control*>(&main.box[1]),
         static_cast<Control*>(&main.option[0]), static_cast<Control*>(&main.button)}) {
-    desk.SetFocus(*closed);  // the first has it already
+    desk.SetFocus(*closed);  // the first one has it
   }
   EXPECT_EQ(desk.FocusOf(main), &main.check);
   main.check.enabled = false;
-  desk.Settle();  // lost without a word
-  EXPECT_EQ(Heard(), "");
+  desk.Settle();  // lost without an event
+  EXPECT_EQ(Raised(), "");
   EXPECT_EQ(desk.FocusOf(main), nullptr);
-  // A handler that moves the focus on: what it passes over never hears that it had it.
+  // A handler moves the focus on: the control that it was on its way to gets no event.
   desk.SetFocus(main.box[0]);
   events.On(main.box[0], Event::LostFocus, [this](EventArgs&) { desk.SetFocus(main.box[2]); });
-  Heard();
+  Raised();
   desk.SetFocus(main.list);
-  EXPECT_EQ(Heard().find("list.Got"), std::string::npos);
+  EXPECT_EQ(Raised().find("list.Got"), std::string::npos);
   EXPECT_EQ(desk.FocusOf(main), &main.box[2]);
 }
 
@@ -70,10 +70,10 @@ TEST_F(DeskTest, TabStopsAreOneForAGroupOfOptions) {
   const auto way = [this](bool forward) {
     for (int i = 0; i < 6; ++i) desk.MoveFocus(desk.Find(main), forward);
     std::string got;
-    for (std::size_t end = 0; (end = heard.find(".Got ", end)) != std::string::npos; ++end) {
-      got += heard.substr(heard.rfind(' ', end) + 1, end - heard.rfind(' ', end));
+    for (std::size_t end = 0; (end = raised.find(".Got ", end)) != std::string::npos; ++end) {
+      got += raised.substr(raised.rfind(' ', end) + 1, end - raised.rfind(' ', end));
     }
-    Heard();
+    Raised();
     return got;
   };
   EXPECT_EQ(way(true), "box2.option0.check.list.button.box0.");

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "../platform/surroundings_of_a_test.h"
+#include "../platform/temp_files.h"
 #include "core/settings_store.h"
 #include "platform/qt/settings_file.h"
 
@@ -42,7 +42,7 @@ TEST_F(SettingsStoreTest, ReadsEveryTypeAndAnyFile) {
   for (const std::string& damaged :
        {"[Software\\Quorl\\Benevix]\nName=text:a%00b%\nNumber=dword:zz\nHex=hex:0\n\0\xFF="s,
         "\0\0\0\n]["s, std::string(3'000'000, '[')}) {
-    Put(folder_ / "user/settings", damaged);
+    WriteFile(folder_ / "user/settings", damaged);
     EXPECT_EQ(store_.GetUserString("Number") + store_.GetUserString("Hex"), "");
     store_.SaveUserString("Name", "new");
     EXPECT_EQ(store_.GetUserString("Name"), "new") << damaged.substr(0, 50);

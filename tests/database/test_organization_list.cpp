@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "../platform/surroundings_of_a_test.h"
+#include "../platform/temp_files.h"
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "database/organization_list.h"
@@ -16,7 +16,7 @@ using namespace std::string_literals;
 // The rows as "Country|Organization|Type|ID", then the version and whether the list is damaged.
 std::string Loaded(const std::string& bytes) {
   const TempFolder folder;
-  Put(folder / "list", bytes);
+  WriteFile(folder / "list", bytes);
   const OrganizationList list(*LinuxFiles().Open(folder / "list"));
   std::string text;
   std::vector<int> headings;

@@ -1,7 +1,7 @@
 #include "core/shell_helpers.h"
 #include "platform/linux/linux_shell.h"
 
-// What the first run does on the desktop.
+// Creates the desktop shortcut as the first run does.
 int main() {
   benevix::LinuxShell shell;
   benevix::ProgramInfo info;

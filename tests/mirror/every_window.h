@@ -3,15 +3,15 @@
 #include <QApplication>
 #include <QTest>
 
-#include "../list_of_a_test.h"
+#include "../sample_list.h"
+#include "forms/forms.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
-#include "program/program.h"
 
 namespace benevix {
 
-// All windows of the program on the screen at once, each with everything in it shown and enabled,
-// and with texts where the program would write some.
+// All windows of the program shown at once, with all controls visible and enabled, and with texts
+// in the controls that the program would fill.
 class EveryWindow {
  public:
   explicit EveryWindow(Scheme scheme) : mirror(scheme, Mirror::Timers::Hold) {
@@ -19,7 +19,7 @@ class EveryWindow {
     forms.ForEach([this](auto& form) { desk.Add(form); });
     mirror.Attach(desk, input);
     input.Enter([this] {
-      forms.Get<frmBVX>().ListView1.SetRows(std::make_shared<RowsOfATest>());
+      forms.Get<frmBVX>().ListView1.SetRows(std::make_shared<SampleRows>());
       for (Desk::Entry& entry : desk.Entries()) {
         for (const NamedControl& control : entry.controls) Open(control);
         desk.Show(*entry.window);

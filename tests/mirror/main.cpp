@@ -5,9 +5,9 @@
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  // Also where the build asks for the names of the tests.
+  // The build asks the program for the names of its tests, without this variable.
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  qputenv("QT_SCALE_FACTOR", "2");  // so that a stroke has its full colour somewhere
+  qputenv("QT_SCALE_FACTOR", "2");  // so that every stroke has pixels of its full colour
   const QApplication app(argc, argv);
   benevix::ApplyTheme(*qApp, benevix::Scheme::Light);
   return RUN_ALL_TESTS();

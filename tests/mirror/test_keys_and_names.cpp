@@ -1,8 +1,6 @@
-// What a user of the keyboard or of a screen reader meets, in every window.
+// Every window as users of the keyboard and of screen readers find it.
 
-#include <QAbstractItemView>
 #include <QAccessible>
-#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -25,7 +23,41 @@ class WindowsTest : public testing::Test, protected EveryWindow {
   WindowBinding& BindingOf(const Desk::Entry& entry) { return *mirror.BindingOf(*entry.window); }
 };
 
-// What only holds others needs no name.
+TEST_F(WindowsTest, EveryControlHasAWidgetAndEveryWidgetAControl) {
+  // The main window is laid out without these pictures, frames and lines.
+  const std::set<std::string> withoutWidget = {
+      "frmBVX.Image1",   "frmBVX.Image2", "frmBVX.Image3", "frmBVX.Image4", "frmBVX.Image5",
+      "frmBVX.Picture2", "frmBVX.Shape1", "frmBVX.Shape3", "frmBVX.Shape4", "frmBVX.Shape6",
+      "frmBVX.Line1",    "frmBVX.Line2",  "frmBVX.Line3"};
+  // Containers of the layout, and the line that belongs to the page viewer.
+  const std::set<std::string> withoutControl = {"QWidget", "QFrame", "QSplitter"};
+  for (const Desk::Entry& entry : desk.Entries()) {
+    std::set<const QWidget*> widgets;
+    for (const NamedControl& control : entry.controls) {
+      const std::string name = entry.name + "." + control.name;
+      if (control.As<MenuItem>() != nullptr) {
+        EXPECT_NE(BindingOf(entry).ActionOf(control, -1), nullptr) << name;
+      }
+      if (IsMenu(control) || control.As<Timer>() != nullptr ||
+          control.As<HttpControl>() != nullptr) {
+        continue;
+      }
+      const QWidget* const widget = BindingOf(entry).WidgetOf(control.Base());
+      EXPECT_EQ(widget == nullptr, withoutWidget.count(name) != 0) << name << " " << control.index;
+      widgets.insert(widget);
+    }
+    for (const QWidget* const widget : BindingOf(entry).Widget().findChildren<QWidget*>()) {
+      const QString name = widget->objectName();
+      const bool drawn = !name.isEmpty() && !name.startsWith(QStringLiteral("qt_"));
+      if (drawn && name != QStringLiteral("hostLine") &&
+          withoutControl.count(widget->metaObject()->className()) == 0) {
+        EXPECT_EQ(widgets.count(widget), 1U) << entry.name << "." << name.toStdString();
+      }
+    }
+  }
+}
+
+// A widget that only contains others needs no name.
 bool IsContainer(QAccessible::Role role) {
   const std::set<QAccessible::Role> containers = {
       QAccessible::Client, QAccessible::Border,   QAccessible::Pane, QAccessible::LayeredPane,
@@ -99,8 +131,8 @@ TEST_F(WindowsTest, LinksCanBePressedByAScreenReader) {
   EXPECT_EQ(clicks, 1);
 }
 
-// Tab goes the same way by the desk and by the toolkit, which leads out of pages.
-TEST_F(WindowsTest, BothFacesHaveOneTabOrder) {
+// Tab moves by the order of the desk, and out of a page by the order of the toolkit.
+TEST_F(WindowsTest, BothFrontEndsHaveOneTabOrder) {
   for (const Desk::Entry& entry : desk.Entries()) {
     std::vector<const QWidget*> logic;
     for (const NamedControl& control : entry.controls) {
@@ -177,7 +209,7 @@ TEST_F(WindowsTest, LettersOfAltAndOfEachMenuAreUnique) {
     }
     ExpectOwnLetters(texts, entry.name);
   }
-  // Of two captions that mark the same letter the first keeps it.
+  // "File" and "Favorites" mark the same letter: the first keeps it.
   const QAction* const favorites = mirror.BindingOf(forms.Get<frmBVX>())
                                        ->ActionOf({"TFavs", -1, &forms.Get<frmBVX>().TFavs}, -1);
   EXPECT_EQ(favorites->text(), QStringLiteral("F&avorites"));

@@ -1,16 +1,12 @@
-// How the windows look: the contrast of every text, the room they need, the arrangement they keep.
+// How the windows look: the contrast of every text, their smallest size, the arrangement they keep.
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QPainter>
 #include <QRadioButton>
-#include <QSplitter>
-#include <QStyleOptionGroupBox>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <cmath>
@@ -35,7 +31,7 @@ double Luminance(QRgb color) {
          0.0722 * linear(qBlue(color));
 }
 
-// Between the ground, which is the colour met most often, and the pixel that stands out most.
+// Between the ground, which is the most frequent colour, and the pixel that differs most from it.
 double ContrastIn(const QImage& picture) {
   std::map<QRgb, int> count;
   for (int y = 0; y < picture.height(); ++y) {

@@ -1,7 +1,7 @@
 // The mirror between structs and real widgets, off the screen.
 
-#include <QApplication>
 #include <QClipboard>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -9,7 +9,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "../list_of_a_test.h"
+#include "../sample_list.h"
 #include "controls/desk.h"
 #include "controls/input.h"
 #include "core/wait_notice.h"
@@ -72,7 +72,7 @@ TEST_F(MirrorTest, PastedTextPassesTheKeyFilterCharacterByCharacter) {
   EXPECT_EQ(main.Text1[2].text, "123.4");
   EXPECT_EQ(edit.text(), QStringLiteral("123.4"));
   EXPECT_TRUE(main.Text1[2].typed);
-  // Into the middle of what stands there, and over a selection.
+  // Into the middle of the text, and over a selection.
   edit.setCursorPosition(1);
   edit.insert(QStringLiteral("x9"));
   EXPECT_EQ(main.Text1[2].text, "1923.4");
@@ -130,7 +130,7 @@ TEST_F(MirrorTest, ShortcutsWorkWhereTheirControlCanBeUsed) {
   });
   input.Enter([this] { desk.Show(payment, Modality::Modeless, Attention::KeepsMainDisabled); });
   EXPECT_EQ(press(), "");
-  // Nothing in that window has the focus: its own keys still work.
+  // While no control of a window has the focus, the keys of the window itself still work.
   input.Enter([this] { desk.ClearFocus(payment); });
   QTest::keyClick(mirror.BindingOf(payment)->Widget().windowHandle(), Qt::Key_Escape);
   QTest::qWait(0);
@@ -140,7 +140,7 @@ TEST_F(MirrorTest, ShortcutsWorkWhereTheirControlCanBeUsed) {
 
 TEST_F(MirrorTest, TheFocusAloneChoosesNoRow) {
   auto& view = Widget<QTableView>(main.ListView1);
-  input.Enter([this] { main.ListView1.SetRows(std::make_shared<RowsOfATest>()); });
+  input.Enter([this] { main.ListView1.SetRows(std::make_shared<SampleRows>()); });
   view.setFocus(Qt::TabFocusReason);
   ASSERT_TRUE(view.hasFocus());
   EXPECT_EQ(main.ListView1.selected, 0);
@@ -186,7 +186,7 @@ TEST_F(MirrorTest, TheWaitNoticeFollowsTheBytesOfARequestAndGoes) {
   });
 }
 
-TEST_F(MirrorTest, MainWindowWaitsForAWindowThatKeepsTheAttention) {
+TEST_F(MirrorTest, TheMainWindowIsDisabledWhileAWindowKeepsTheAttention) {
   input.Enter([this] { desk.Show(payment, Modality::Modeless, Attention::KeepsMainDisabled); });
   QWidget& window = mirror.BindingOf(main)->Widget();
   ClickOn(Widget<QPushButton>(main.Command1));

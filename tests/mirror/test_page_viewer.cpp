@@ -6,14 +6,14 @@
 #include <openssl/x509.h>
 #include <unistd.h>
 
-#include "pages_of_a_test.h"
+#include "page_viewer_test.h"
 
 namespace benevix {
 namespace {
 
 const char* const kSandboxVariable = "QTWEBENGINE_DISABLE_SANDBOX";
 
-// Stands in for the desktop, which opens what the program hands on.
+// Takes the place of the desktop, which opens the addresses that the program hands on.
 class Desktop : public QObject {
   Q_OBJECT
  public:
@@ -56,7 +56,7 @@ TEST_F(PageViewerTest, NothingIsKept) {
   EXPECT_TRUE(Becomes("localStorage.x", "1"));
   Value("location.href='/again'");
   EXPECT_TRUE(ShowsText("again"));
-  EXPECT_TRUE(site_.WasAsked("/again visit=1"));  // a payment needs its session
+  EXPECT_TRUE(site_.WasAsked("/again visit=1"));  // a payment page needs its cookie
   host_.Clear();
   Show(site_.Home() + "again?2");
   EXPECT_TRUE(ShowsText("again"));
@@ -75,7 +75,7 @@ TEST_F(PageViewerTest, LocalPageOpensAtItsAnchor) {
   Show(dosPath + "#Getting Started");
   EXPECT_TRUE(Becomes(top.arg(0), "0"));
   EXPECT_EQ(hostLine_->text(), "my help.html");
-  for (int i = 0; i < 2; ++i) {  // the same deed once more
+  for (int i = 0; i < 2; ++i) {  // the second time with the page shown already
     Show(file + "#Fees \xE9");
     EXPECT_TRUE(Becomes(top.arg(1), "0"));
     QTest::keyClick(window_.focusWidget(), Qt::Key_Home);
@@ -84,7 +84,7 @@ TEST_F(PageViewerTest, LocalPageOpensAtItsAnchor) {
 }
 
 TEST_F(PageViewerTest, TextFileIsShownAsItStands) {
-  // Bytes that look like another encoding, like data and like a page.
+  // Bytes that look like another encoding, like data, or like a page.
   const QByteArray record =
       "<html><b>-- 1/2/2024 @ 10:00 \x80 \xD0\xD1\xD2 \x01\r\n      two  blanks";
   Show(Put("history.dat", record));
@@ -97,7 +97,7 @@ TEST_F(PageViewerTest, TextFileIsShownAsItStands) {
   EXPECT_TRUE(Becomes("document.body.textContent.length", QString::number(count * 25)));
 }
 
-TEST_F(PageViewerTest, PageOfTheWebGetsAtNoFile) {
+TEST_F(PageViewerTest, PageOfTheWebCannotReadFiles) {
   const std::string text = Put("secret.dat", "secret");
   const std::string addresses[] = {"file://" + Put("secret.html", "<p>secret</p>"),
                                    "benevix-text://" + text};
@@ -139,7 +139,7 @@ TEST_F(PageViewerTest, WindowsDownloadsAndDevicesAreRefused) {
   QTest::qWait(500);
   EXPECT_TRUE(site_.WasAsked("/file "));
   EXPECT_FALSE(site_.WasAsked("/popup "));
-  EXPECT_EQ(Value("document.links.length"), "1");  // the page before it stays
+  EXPECT_EQ(Value("document.links.length"), "1");  // the page before the download is still shown
   EXPECT_TRUE(QDir::home().entryList({"virus*", "Downloads"}).isEmpty());
   ClickAt(20, 15);
   EXPECT_TRUE(ShowsText("next"));
@@ -225,9 +225,9 @@ TEST_F(PageViewerTest, NoEngineForTheAdministrator) {
 TEST_F(PageViewerTest, NoEngineWithoutThePlugIn) {
   const QString program = QCoreApplication::applicationFilePath();
   if (QFile::exists(QCoreApplication::applicationDirPath() + "/plugins")) {
-    const QString lonely = folder_.filePath("lonely");
-    ASSERT_TRUE(QFile::copy(program, lonely));
-    return RunAgain(lonely, QProcessEnvironment::systemEnvironment());
+    const QString alone = folder_.filePath("alone");
+    ASSERT_TRUE(QFile::copy(program, alone));
+    return RunAgain(alone, QProcessEnvironment::systemEnvironment());
   }
   host_.Navigate("http://host.example/");
   EXPECT_TRUE(Notice().contains("not installed"));
@@ -237,7 +237,7 @@ TEST_F(PageViewerTest, NoEngineWithoutThePlugIn) {
 }  // namespace benevix
 
 int main(int argc, char** argv) {
-  const QTemporaryDir home;  // shows what reaches the disk
+  const QTemporaryDir home;  // shows what pages leave on the disk
   qputenv("HOME", home.path().toUtf8());
   for (const char* variable : {"XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"}) {
     qunsetenv(variable);

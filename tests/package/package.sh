@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # package.sh BUILD: makes the Debian package of a build, installs it into a clean root of the same
-# release and has a user without rights start the program there. The root stays in BUILD for the
-# next run, until the package depends on something else.
+# release and starts the program there as an ordinary user. BUILD keeps the root for the next run,
+# until the package's dependencies change.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 build=$1
@@ -21,7 +21,7 @@ fail() {
   echo "failed: $*"
   exit 1
 }
-# Neither mounts nor processes outlive the command.
+# In namespaces of its own, so that no mount or process outlives the command.
 in_root() {
   unshare --mount --pid --fork --kill-child --mount-proc="$root/proc" chroot "$root" "$@" \
     >"$log" 2>&1 </dev/null
@@ -35,9 +35,9 @@ install_package() {
   in_root apt-get install -y --no-install-recommends "$@" /benevix.deb "${tools[@]}"
 }
 
-# A root for the packages named in `asked`, with everything fetched that is to be installed.
+# Creates the root and downloads all packages to be installed. The file `dependencies` records them.
 make_root() {
-  rm -rf "$root" "$folder/asked"
+  rm -rf "$root" "$folder/dependencies"
   debootstrap --variant=minbase "$VERSION_CODENAME" "$root" >"$log" 2>&1 ||
     skip "no clean root: $(tail -n 1 "$log")"
   chmod 1777 "$root/dev/shm"
@@ -46,28 +46,28 @@ make_root() {
   cp "$deb" "$root/benevix.deb"
   install_package --simulate || fail "the package's dependencies cannot be met"
   install_package --download-only || skip "packages cannot be fetched: $(tail -n 1 "$log")"
-  echo "$asked" >"$folder/asked"
+  echo "$dependencies" >"$folder/dependencies"
 }
 
-[ "$(id -u)" = 0 ] || skip "a clean root takes root rights"
+[ "$(id -u)" = 0 ] || skip "a clean root needs root rights"
 . /etc/os-release
-[ "${ID:-}" = debian ] || skip "this is no Debian system"
+[ "${ID:-}" = debian ] || skip "this is not a Debian system"
 for tool in debootstrap dpkg-shlibdeps file rsvg-convert unshare; do
-  command -v "$tool" >/dev/null || skip "there is no $tool"
+  command -v "$tool" >/dev/null || skip "$tool is not installed"
 done
 
-unshare --mount true 2>/dev/null || skip "mounts cannot be kept apart here"
+unshare --mount true 2>/dev/null || skip "mount namespaces cannot be created here"
 
 mkdir -p "$folder"
 cpack -G DEB --config "$build/CPackConfig.cmake" -B "$folder/made" >"$log" 2>&1 ||
-  fail "the package is not made"
+  fail "the package cannot be made"
 deb=$(ls -t "$folder"/made/*.deb | head -n 1)
 version=$(dpkg-deb -f "$deb" Version)
 [ "$(dpkg-parsechangelog -l "$here/../../packaging/changelog" -S Version)" = "$version" ] ||
   fail "the changelog does not begin with version $version"
 
-asked="$VERSION_CODENAME: $(dpkg-deb -f "$deb" Depends), ${tools[*]}"
-[ "$(cat "$folder/asked" 2>/dev/null)" = "$asked" ] || make_root
+dependencies="$VERSION_CODENAME: $(dpkg-deb -f "$deb" Depends), ${tools[*]}"
+[ "$(cat "$folder/dependencies" 2>/dev/null)" = "$dependencies" ] || make_root
 
 in_root dpkg --purge benevix || true
 in_root userdel --remove donor || true
@@ -75,17 +75,17 @@ rm -rf "$root"/tmp/.X*
 mkdir -m 1777 "$root/tmp/.X11-unix"
 cp "$deb" "$root/benevix.deb"
 cp "$here/session.sh" "$root/session.sh"
-install_package || fail "the package is not installed"
-in_root useradd --create-home donor || fail "there is no user"
-as_donor sh /session.sh || fail "the session of a user ends with $?"
+install_package || fail "the package cannot be installed"
+in_root useradd --create-home donor || fail "the user cannot be created"
+as_donor sh /session.sh || fail "the session ended with $?"
 
-# The user's own folder, and nothing written into the package's.
+# The user's folder has been filled, and nothing written into the package's.
 user=$root/home/donor/.local/share/benevix/Resources
 for file in help.html qhelp.html sharedb.dat wlist.res; do
   [ "$(readlink "$user/$file")" = "/usr/share/benevix/Resources/$file" ] ||
-    fail "the user's folder has no $file"
+    fail "$file is missing in the user's folder"
 done
 in_root dpkg --verify benevix || fail "files of the package have changed"
 [ ! -s "$log" ] || fail "files of the package have changed"
-[ -x "$root/home/donor/Desktop/benevix.desktop" ] || fail "there is no shortcut on the desktop"
-echo "$(basename "$deb") installed, started and seen"
+[ -x "$root/home/donor/Desktop/benevix.desktop" ] || fail "the desktop shortcut is missing"
+echo "$(basename "$deb") installed and started"

@@ -1,8 +1,8 @@
-# What a user sees of the installed program, on a display of its own. Waits without end for what does
-# not appear, so it takes a time limit; the last line told is the last thing seen.
+# Starts the installed program on its own X display and opens the help. Waits endlessly for each
+# window, so the caller sets a time limit; the last line of the output is the last step that worked.
 set -eu
 
-# The window of exactly this title that is to be seen.
+# The id of the visible window with exactly this title.
 window() {
   for id in $(xdotool search --onlyvisible --name "^$1\$"); do
     if [ "$(xdotool getwindowname "$id")" = "$1" ]; then
@@ -20,14 +20,14 @@ page_engine_runs() {
 }
 
 mkdir "$HOME/Desktop"
-# Without -noreset it begins anew, deaf meanwhile, when its first client has asked and left.
+# -noreset: otherwise it resets, refusing connections, when its first client disconnects.
 Xvfb "$DISPLAY" -screen 0 1280x1024x24 -nolisten tcp -noreset &
 await xdotool getdisplaygeometry
 benevix &
 
 splash=$(await window Benevix)
 echo "the splash is shown"
-# Its door stands somewhere at the left of its foot.
+# Try points upwards from the lower left of the splash until one opens the main window.
 eval "$(xdotool getwindowgeometry --shell "$splash")"
 x=$((X + WIDTH * 35 / 100))
 y=$((Y + HEIGHT))

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "../platform/surroundings_of_a_test.h"
+#include "../platform/temp_files.h"
 #include "people/other_names.h"
 #include "platform/linux/linux_files.h"
 
@@ -15,8 +15,8 @@ TEST(OtherNames, AreLinesInTheOrderOfTyping) {
   combo.list = {"own"};
   names.LoadOtherNames(combo);
   for (const char* name : {"Smith, J\xF6rg", "B", "B"}) names.AppendOtherName(name);
-  EXPECT_EQ(Got(folder / "names"), "Smith, J\xF6rg\r\nB\r\nB\r\n");
-  Put(folder / "names", "Smith, J\xF6rg\r\n\r\nno end");
+  EXPECT_EQ(ReadFile(folder / "names"), "Smith, J\xF6rg\r\nB\r\nB\r\n");
+  WriteFile(folder / "names", "Smith, J\xF6rg\r\n\r\nno end");
   names.LoadOtherNames(combo);
   OtherNames unreadable(files, folder / ".");
   unreadable.LoadOtherNames(combo);

@@ -3,20 +3,20 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "platform/qt/deployment_file.h"
-#include "surroundings_of_a_test.h"
+#include "temp_files.h"
 
 namespace benevix {
 namespace {
 
-TEST(DeploymentFile, ReadsValuesAsWrittenAndNamesFaults) {
+TEST(DeploymentFile, ReadsValuesAndNamesTheInvalidKey) {
   const TempFolder folder;
   const std::string file = folder / "d\xC3\xA9ployment.ini";
-  const std::string whole =
+  const std::string valid =
       "\xEF\xBB\xBF# note\r\n ServerBase = https://example.org:8443/a%20b/\r\n"
       "PaymentBase=https://pay.example/xclick/business=\r\n; Mail=no\r\n"
       "Mail=\"a;b\", 100%41 =x\\n\r\nTranslationName=T\nTranslationBase=http://t.example/\n"
       "Copyright=\xC2\xA9 M\xC3\xBCller \xE2\x82\xAC\nProduct=Benevix";
-  Put(file, whole);
+  WriteFile(file, valid);
   const Deployment deployment = ReadDeployment(file);
   EXPECT_EQ(deployment.serverBase, "https://example.org:8443/a%20b/");
   EXPECT_EQ(deployment.paymentBase, "https://pay.example/xclick/business=");
@@ -29,8 +29,8 @@ TEST(DeploymentFile, ReadsValuesAsWrittenAndNamesFaults) {
                                    {"https://example", "ftp://example", "ServerBase"},
                                    {"a%20b/\r", "a%20b\r", "ServerBase"}};
   for (const auto& [from, to, key] : faults) {
-    std::string text = whole;
-    Put(file, text.replace(text.find(from), from.size(), to));
+    std::string text = valid;
+    WriteFile(file, text.replace(text.find(from), from.size(), to));
     try {
       ReadDeployment(file);
       ADD_FAILURE() << key;

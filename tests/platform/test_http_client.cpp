@@ -13,7 +13,7 @@ using namespace std::string_literals;
 
 const std::string kOK = "HTTP/1.1 200 OK\r\n";
 
-// A loopback server that notes what arrives and gives out what `respond` writes, byte for byte.
+// A loopback server that records the request targets and sends the bytes that `respond` writes.
 class WireServer : public httplib::Server {
  public:
   WireServer() : port_(bind_to_any_port("127.0.0.1")), thread_([this] { listen_after_bind(); }) {
@@ -24,7 +24,7 @@ class WireServer : public httplib::Server {
     thread_.join();
   }
   [[nodiscard]] std::string Host() const { return "127.0.0.1:" + std::to_string(port_); }
-  void Answer(const std::string& bytes) {
+  void Respond(const std::string& bytes) {
     respond = [bytes](httplib::Stream& stream) { stream.write(bytes); };
   }
 
@@ -49,7 +49,7 @@ class WireServer : public httplib::Server {
   std::thread thread_;
 };
 
-struct CountedWaits : Waits {
+struct CountingWaits : Waits {
   void Begin() override { ++open; }
   void End() override { --open; }
   void DoEvents() override {}
@@ -58,12 +58,12 @@ struct CountedWaits : Waits {
 
 class HttpClientTest : public testing::Test {
  protected:
-  HttpClientTest() { server_.Answer(kOK + "Content-Length: 9\r\n\r\nserver ok"); }
+  HttpClientTest() { server_.Respond(kOK + "Content-Length: 9\r\n\r\nserver ok"); }
   ~HttpClientTest() override { EXPECT_EQ(waits_.open, 0); }
   std::string Open(const std::string& path = "") { return client_.OpenURL(base_ + path, options_); }
-  std::string Fault(const std::string& address) {
+  std::string Error(const std::string& address) {
     try {
-      return "no fault: " + client_.OpenURL(address, options_).substr(0, 100);
+      return "no error: " + client_.OpenURL(address, options_).substr(0, 100);
     } catch (const RuntimeError& error) {
       return error.what();
     }
@@ -71,12 +71,12 @@ class HttpClientTest : public testing::Test {
 
   WireServer server_;
   std::string base_ = "http://" + server_.Host() + "/";
-  CountedWaits waits_;
+  CountingWaits waits_;
   QtHttpClient client_{waits_};
   HttpOptions options_;
 };
 
-TEST_F(HttpClientTest, AddressesArriveWhole) {
+TEST_F(HttpClientTest, EncodesAddresses) {
   const std::string addresses[][2] = {
       {"a?email=a b@c,d&=1;2+3/4:5?6", "a?email=a%20b@c,d&=1;2+3/4:5?6"},
       {"m?&=x\r\nA: b\r\n\r\nGET /x", "m?&=x%0D%0AA:%20b%0D%0A%0D%0AGET%20/x"},
@@ -90,13 +90,13 @@ TEST_F(HttpClientTest, AddressesArriveWhole) {
     EXPECT_EQ(server_.targets.back(), "/" + target);
   }
   for (const auto* bad : {"", "file:///etc/passwd", "http://", "http://a b/", "http://\xFC.de/"}) {
-    EXPECT_NE(Fault(bad).find("is no web address"), std::string::npos) << Fault(bad);
+    EXPECT_NE(Error(bad).find("is no web address"), std::string::npos) << Error(bad);
   }
 }
 
-TEST_F(HttpClientTest, AnyStatusIsAnAnswer) {
+TEST_F(HttpClientTest, ReturnsTheResponseOfAnyStatus) {
   for (const std::string status : {"200", "302", "400", "401", "404", "407", "418", "500", "599"}) {
-    server_.Answer("HTTP/1.1 " + status + " X\r\nWWW-Authenticate: Basic\r\n\r\n<b>\0\xFF"s);
+    server_.Respond("HTTP/1.1 " + status + " X\r\nWWW-Authenticate: Basic\r\n\r\n<b>\0\xFF"s);
     EXPECT_EQ(Open(), "<b>\0\xFF"s) << status;
     options_.needsOk = true;
     EXPECT_EQ(Open().empty(), status != "200") << status;
@@ -104,22 +104,22 @@ TEST_F(HttpClientTest, AnyStatusIsAnAnswer) {
   }
 }
 
-TEST_F(HttpClientTest, NoWholeAnswerIsAFaultAndNothingIsSentTwice) {
-  const std::string answers[] = {"", "server ok\r\n\r\nserver ok", kOK + "Conte",
-                                 kOK + "Content-Length: 100\r\n\r\nserver ok",
-                                 kOK + "Transfer-Encoding: chunked\r\n\r\n9\r\nserver ok\r\n"};
-  for (int i = 0; i < 20; ++i) {  // how a closing shows is a matter of chance
+TEST_F(HttpClientTest, FailsWithoutACompleteResponseAndNeverRetries) {
+  const std::string responses[] = {"", "server ok\r\n\r\nserver ok", kOK + "Conte",
+                                   kOK + "Content-Length: 100\r\n\r\nserver ok",
+                                   kOK + "Transfer-Encoding: chunked\r\n\r\n9\r\nserver ok\r\n"};
+  for (int i = 0; i < 20; ++i) {  // closing shows as different errors, depending on timing
     server_.targets.clear();
-    for (const std::string& answer : answers) {
-      server_.Answer(answer);
-      EXPECT_TRUE(Fault(base_).starts_with("127.0.0.1: ")) << answer;
+    for (const std::string& response : responses) {
+      server_.Respond(response);
+      EXPECT_TRUE(Error(base_).starts_with("127.0.0.1: ")) << response;
     }
-    EXPECT_EQ(server_.targets.size(), std::size(answers));
+    EXPECT_EQ(server_.targets.size(), std::size(responses));
   }
-  EXPECT_TRUE(Fault("http://127.0.0.1:1/").starts_with("127.0.0.1: "));
+  EXPECT_TRUE(Error("http://127.0.0.1:1/").starts_with("127.0.0.1: "));
 }
 
-TEST_F(HttpClientTest, TimeOutCountsFromTheLastByte) {
+TEST_F(HttpClientTest, TimeoutRestartsWithEachByte) {
   options_.timeout = 1;
   server_.respond = [](httplib::Stream& stream) {
     stream.write(kOK + "\r\n");
@@ -127,29 +127,29 @@ TEST_F(HttpClientTest, TimeOutCountsFromTheLastByte) {
   };
   EXPECT_EQ(Open(), "xxxxxx");
   server_.respond = [](httplib::Stream& stream) {
-    char untilTheClientCloses = 0;
-    stream.read(&untilTheClientCloses, 1);
+    char byte = 0;
+    stream.read(&byte, 1);  // until the client closes
   };
-  EXPECT_EQ(Fault(base_), "127.0.0.1: nothing received for 1 seconds");
+  EXPECT_EQ(Error(base_), "127.0.0.1: nothing received for 1 seconds");
 }
 
-TEST_F(HttpClientTest, RedirectsStayOnTheWebAndEnd) {
-  const auto redirectTo = [&](const std::string& place) {
-    server_.Answer("HTTP/1.1 302 Found\r\nLocation: " + place + "\r\n\r\nno");
+TEST_F(HttpClientTest, LimitsRedirects) {
+  const auto redirectTo = [&](const std::string& location) {
+    server_.Respond("HTTP/1.1 302 Found\r\nLocation: " + location + "\r\n\r\nno");
   };
   redirectTo("file:///etc/passwd");
-  EXPECT_EQ(Fault(base_), "\"file:///etc/passwd\" is no web address");
+  EXPECT_EQ(Error(base_), "\"file:///etc/passwd\" is no web address");
   redirectTo("next?a=b%20c#d");
-  EXPECT_EQ(Fault(base_ + "f/x"), "127.0.0.1: too many redirects");
+  EXPECT_EQ(Error(base_ + "f/x"), "127.0.0.1: too many redirects");
   EXPECT_EQ(server_.targets.size(), 12U);
   EXPECT_EQ(server_.targets.back(), "/f/next?a=b%20c");
 }
 
-TEST_F(HttpClientTest, LimitCutsOff) {
+TEST_F(HttpClientTest, AbortsAboveTheLimit) {
   const std::string body(5'000'000, 'b');
   std::size_t last = 0;
   options_.progress = [&](std::size_t received, std::size_t) { last = received; };
-  server_.Answer(kOK + "\r\n" + body);
+  server_.Respond(kOK + "\r\n" + body);
   options_.limit = body.size();
   EXPECT_EQ(Open(), body);
   EXPECT_EQ(last, body.size());
@@ -160,13 +160,13 @@ TEST_F(HttpClientTest, LimitCutsOff) {
   EXPECT_LE(last, options_.limit);
 }
 
-TEST_F(HttpClientTest, AsksTheProxyGiven) {
+TEST_F(HttpClientTest, UsesOnlyTheGivenProxy) {
   options_.proxy = server_.Host();
   EXPECT_EQ(client_.OpenURL("http://nowhere.invalid/a#b", options_), "server ok");
   EXPECT_EQ(server_.targets.back(), "http://nowhere.invalid/a%23b");
   for (const auto* proxy : {"host", ":80", "host:0", "host:99999", "127.0.0.1:1", "a b:80"}) {
     options_.proxy = proxy;
-    EXPECT_FALSE(Fault(base_).starts_with("no fault")) << proxy;
+    EXPECT_FALSE(Error(base_).starts_with("no error")) << proxy;
   }
 }
 

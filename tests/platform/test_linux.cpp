@@ -7,69 +7,69 @@
 #include "platform/linux/linux_shell.h"
 #include "platform/linux/program_folder.h"
 #include "platform/linux/random_generator.h"
-#include "surroundings_of_a_test.h"
+#include "temp_files.h"
 
 namespace benevix {
 namespace {
 
-TEST(LinuxFiles, FailuresLeaveEverythingAsItWas) {
+TEST(LinuxFiles, FailuresChangeNothing) {
   const TempFolder folder;
   LinuxFiles files;
   const std::string history = folder / "history.dat";
   const std::string large(100, 'x');
   files.Append(history, "first\r\n");
-  FillDisk(20);
+  LimitFileSize(20);
   EXPECT_THROW(files.Append(history, large), RuntimeError);
   EXPECT_THROW(files.Append(folder / "new.dat", large), RuntimeError);
   EXPECT_THROW(files.Replace(history, large), RuntimeError);
-  FillDisk(RLIM_INFINITY);
-  EXPECT_EQ(Got(history), "first\r\n");
-  const std::filesystem::directory_iterator left(folder / "");
-  EXPECT_EQ(std::distance(begin(left), end(left)), 1);
+  LimitFileSize();
+  EXPECT_EQ(ReadFile(history), "first\r\n");
+  const std::filesystem::directory_iterator entries(folder / "");
+  EXPECT_EQ(std::distance(begin(entries), end(entries)), 1);
   files.Append(history, "second\r\n");
   EXPECT_EQ(files.ReadAll(history), "first\r\nsecond\r\n");
 }
 
-TEST(LinuxFiles, LinksAreWrittenThrough) {
+TEST(LinuxFiles, FollowsLinks) {
   const TempFolder folder;
   LinuxFiles files;
   const std::string real = folder / "real.dat", link = folder / "link.dat";
   const std::string large(3'000'000, 'l');
-  Put(real, "a longer old text");
-  Put(folder / "from.dat", large);
+  WriteFile(real, "a longer old text");
+  WriteFile(folder / "from.dat", large);
   std::filesystem::create_symlink(real, link);
   files.Replace(link, "new");
-  EXPECT_EQ(Got(real), "new");
+  EXPECT_EQ(ReadFile(real), "new");
   files.Copy(folder / "from.dat", link);
   EXPECT_TRUE(std::filesystem::is_symlink(link));
-  EXPECT_THROW(files.Copy(link, real), RuntimeError);  // onto itself
+  EXPECT_THROW(files.Copy(link, real), RuntimeError);  // the same file
   EXPECT_THROW(files.Copy(folder / "", real), RuntimeError);
   EXPECT_EQ(files.ReadAll(real), large);
 }
 
-TEST(LinuxShell, FindsTheDesktop) {
+TEST(LinuxShell, FindsTheDesktopFolder) {
   const TempFolder home;
   setenv("HOME", (home / "").c_str(), 1);
   setenv("XDG_CONFIG_HOME", "relative/is/ignored", 1);
   EXPECT_EQ(LinuxShell().SpecialFolder(kDesktopFolder), home / "Desktop");
   std::filesystem::create_directory(home / ".config");
-  Put(home / ".config/user-dirs.dirs",
-      "# XDG_DESKTOP_DIR=\"/no\"\nXDG_DESKTOP_DIR=\"$HOME/My \\\"Desk\\\"/\"\n");
+  WriteFile(home / ".config/user-dirs.dirs",
+            "# XDG_DESKTOP_DIR=\"/no\"\nXDG_DESKTOP_DIR=\"$HOME/My \\\"Desk\\\"/\"\n");
   EXPECT_EQ(LinuxShell().SpecialFolder(kDesktopFolder), home / "My \"Desk\"");
 }
 
 TEST(LinuxShell, StartsPrograms) {
   const TempFolder folder;
   LinuxShell shell;
-  Put(folder / "updater.exe", "#!/bin/sh\necho started > \"$0.ran\"\n");
+  WriteFile(folder / "updater.exe", "#!/bin/sh\necho started > \"$0.ran\"\n");
   shell.StartProgram(folder / "updater.exe");
   wait(nullptr);
-  EXPECT_EQ(Got(folder / "updater.exe.ran"), "started\n");
-  Put(folder / "page.exe", "<html>not found</html>");
+  EXPECT_EQ(ReadFile(folder / "updater.exe.ran"), "started\n");
+  WriteFile(folder / "page.exe", "<html>not found</html>");
   EXPECT_THROW(shell.StartProgram(folder / "page.exe"), RuntimeError);
 }
 
-TEST(RandomGenerator, RunsDifferAtTheSameTimeOfDay) {
+TEST(RandomGenerator, SameSeedGivesDifferentNumbers) {
   RandomGenerator one, other;
   one.Seed(45296.25F);
   other.Seed(45296.25F);
@@ -78,22 +78,22 @@ TEST(RandomGenerator, RunsDifferAtTheSameTimeOfDay) {
   EXPECT_TRUE(first >= 0 && first < 1) << first;
 }
 
-TEST(LinuxShell, CopiesAnEntryOfTheSystemThatStandsAlone) {
+TEST(LinuxShell, CopiesASystemEntryOutsideOfItsFolder) {
   namespace fs = std::filesystem;
   const TempFolder folder;
   fs::create_directories(folder / "share/applications");
   fs::create_directory(folder / "Desktop");
-  Put(folder / "share/applications/benevix.desktop", "entry");
+  WriteFile(folder / "share/applications/benevix.desktop", "entry");
   setenv("XDG_DATA_HOME", (folder / "data").c_str(), 1);
   setenv("XDG_DATA_DIRS", (folder / "share").c_str(), 1);
   LinuxShell shell;
   shell.CopyIntoFolder(shell.SpecialFolder(kProgramsFolder) + "/benevix/benevix.desktop",
                        folder / "Desktop");
-  EXPECT_EQ(Got(folder / "Desktop/benevix.desktop"), "entry");
+  EXPECT_EQ(ReadFile(folder / "Desktop/benevix.desktop"), "entry");
   EXPECT_EQ(access((folder / "Desktop/benevix.desktop").c_str(), X_OK), 0);
 }
 
-TEST(ProgramFolder, IsTheInstalledOneWhereResourcesStandAndCanBeWritten) {
+TEST(ProgramFolder, IsTheExecutablesFolderWhenItHasWritableResources) {
   namespace fs = std::filesystem;
   const TempFolder folder;
   const std::string user = folder / "data/benevix";
@@ -101,15 +101,15 @@ TEST(ProgramFolder, IsTheInstalledOneWhereResourcesStandAndCanBeWritten) {
   fs::create_directories(folder / "opt/Resources");
   EXPECT_EQ(InstalledFolder(folder / "opt/benevix"), folder / "opt");
   EXPECT_EQ(ProgramFolder(folder / "opt/benevix"), folder / "opt");
-  // A package, whoever starts it.
+  // As installed by the package.
   EXPECT_EQ(InstalledFolder(folder / "usr/bin/benevix"), folder / "usr/share/benevix");
   EXPECT_EQ(ProgramFolder(folder / "usr/bin/benevix"), user);
 
   fs::permissions(folder / "opt/Resources", fs::perms(0555));
   int status = 1;
-  if (fork() == 0) {  // a user who may not write everywhere
-    const bool isUser = getuid() != 0 || setuid(65534) == 0;
-    _exit(isUser && ProgramFolder(folder / "opt/benevix") == user ? 0 : 1);
+  if (fork() == 0) {  // without root rights, which ignore the permissions
+    const bool isNotRoot = getuid() != 0 || setuid(65534) == 0;
+    _exit(isNotRoot && ProgramFolder(folder / "opt/benevix") == user ? 0 : 1);
   }
   wait(&status);
   EXPECT_EQ(status, 0);

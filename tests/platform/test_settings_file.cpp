@@ -3,7 +3,7 @@
 #include <unistd.h>
 
 #include "platform/qt/settings_file.h"
-#include "surroundings_of_a_test.h"
+#include "temp_files.h"
 
 namespace benevix {
 namespace {
@@ -20,7 +20,7 @@ class SettingsFileTest : public testing::Test {
     const auto key = settings_.CreateKey(Root::CurrentUser, kKey);
     return key ? key->Write(name, type, bytes) : kFailed;
   }
-  // Type and bytes as "1:abc", through an object of its own; "-" when there is no value.
+  // Type and bytes as "1:abc", read by another object; "-" without a value.
   [[nodiscard]] std::string Read(const std::string& name, const std::string& path = kKey) const {
     SettingsFile settings(file_, file_);
     const auto key = settings.OpenKey(Root::LocalMachine, path, Access::Query);
@@ -35,7 +35,7 @@ class SettingsFileTest : public testing::Test {
   SettingsFile settings_{file_, file_, false};
 };
 
-TEST_F(SettingsFileTest, KeepsEveryText) {
+TEST_F(SettingsFileTest, StoresAnyText) {
   const std::string names[] = {"", "(default)", "a b/c\\d", "x=y", "[k]", "; note", "100%41"};
   const std::string texts[] = {"",
                                "abc",
@@ -55,11 +55,11 @@ TEST_F(SettingsFileTest, KeepsEveryText) {
   EXPECT_EQ(Read("never"), "-");
 }
 
-TEST_F(SettingsFileTest, KeepsTypesAndTheWorkOfOthers) {
+TEST_F(SettingsFileTest, StoresTypesAndKeepsOtherLines) {
   std::filesystem::create_directory(folder_ / "benevix");
-  Put(file_,
-      "# mine\r\n[software\\quorl\\BENEVIX]\r\nproxy = a:80, b;c \r\nbroken line\r\n"
-      "Bad=dword:xyz\r\n\r\n[Other]\r\nBytes=hex:00ff\r\n");
+  WriteFile(file_,
+            "# mine\r\n[software\\quorl\\BENEVIX]\r\nproxy = a:80, b;c \r\nbroken line\r\n"
+            "Bad=dword:xyz\r\n\r\n[Other]\r\nBytes=hex:00ff\r\n");
   EXPECT_EQ(Read("Proxy"), "1:a:80, b;c\0"s);
   EXPECT_EQ(Read("Bad"), "-");
   EXPECT_EQ(Read("Bytes", "Other"), "3:\0\xFF"s);
@@ -67,44 +67,44 @@ TEST_F(SettingsFileTest, KeepsTypesAndTheWorkOfOthers) {
   EXPECT_EQ(Write("Number", "\1", value_type::kNumber), kFailed);
   EXPECT_EQ(Read("Number"), "4:\x2A\0\0\x80"s);
   EXPECT_EQ(Write("PROXY", "p:1\0"s), 0);
-  EXPECT_EQ(Got(file_),
+  EXPECT_EQ(ReadFile(file_),
             "# mine\r\n[software\\quorl\\BENEVIX]\r\nPROXY=text:p:1\nbroken line\r\n"
             "Bad=dword:xyz\r\nNumber=dword:8000002a\n\r\n[Other]\r\nBytes=hex:00ff\r\n");
 }
 
-TEST_F(SettingsFileTest, KeysComeAndGo) {
-  const auto isThere = [&](const std::string& path) {
+TEST_F(SettingsFileTest, CreatesAndDeletesKeys) {
+  const auto exists = [&](const std::string& path) {
     return settings_.OpenKey(Root::CurrentUser, path, Access::Full) != nullptr;
   };
-  EXPECT_FALSE(isThere(kKey));
+  EXPECT_FALSE(exists(kKey));
   EXPECT_NE(settings_.CreateKey(Root::CurrentUser, kFavorites), nullptr);
-  EXPECT_TRUE(isThere(kFavorites) && isThere(kKey) && !isThere("Soft"));
+  EXPECT_TRUE(exists(kFavorites) && exists(kKey) && !exists("Soft"));
   ASSERT_EQ(Write("kept", "k\0"s), 0);
   EXPECT_EQ(settings_.DeleteKey(Root::CurrentUser, kFavorites), 0);
-  EXPECT_FALSE(isThere(kFavorites));
+  EXPECT_FALSE(exists(kFavorites));
   EXPECT_EQ(Read("kept"), "1:k\0"s);
 }
 
-TEST_F(SettingsFileTest, WhatCannotBeWrittenIsNotThereLater) {
+TEST_F(SettingsFileTest, FailedWritesChangeNothing) {
   ASSERT_EQ(Write("Language", "old\0"s), 0);
-  FillDisk(500);
+  LimitFileSize(500);
   for (const std::size_t length : {1'000, 1'000'000}) {
     EXPECT_NE(Write("Language", std::string(length, 'n')), 0);
     EXPECT_EQ(Read("Language"), "1:old\0"s);
   }
-  FillDisk(RLIM_INFINITY);
+  LimitFileSize();
   EXPECT_EQ(Read("Language"), "1:old\0"s);
   EXPECT_EQ(settings_.CreateKey(Root::LocalMachine, kKey), nullptr);
   EXPECT_EQ(settings_.OpenKey(Root::LocalMachine, kKey, Access::Full), nullptr);
   std::filesystem::remove(file_);
-  std::filesystem::create_symlink("/dev/zero", file_);  // it has no end
+  std::filesystem::create_symlink("/dev/zero", file_);  // endless
   EXPECT_NE(Write("Language", "new\0"s), 0);
   EXPECT_EQ(Read("Language"), "-");
 }
 
-// The values that change all have one length, so that neither the file's size nor its time, which
-// the file system counts in coarse ticks, tells of every change.
-TEST_F(SettingsFileTest, TwoProgramsLoseNothing) {
+// Values of equal length, so that neither the file's size nor its time, with the coarse ticks of
+// the file system, shows every change.
+TEST_F(SettingsFileTest, ConcurrentProgramsLoseNoValue) {
   constexpr int count = 200;
   for (const std::string program : {"a", "b"}) {
     if (fork() != 0) continue;

@@ -10,17 +10,17 @@
 namespace benevix {
 namespace {
 
-// Stands in every CUPS; its jobs leave it as PDF, and it cannot print up to the paper's edge.
+// Comes with cups-filters. Its output is PDF, and its printable area is smaller than the paper.
 constexpr auto kPdfPrinter = "/usr/share/ppd/cupsfilters/Generic-PDF_Printer-PDF.ppd";
 const QString kQueue = "paper";
 
-// Daemons stand in folders that only the administrator's path names.
+// Daemons are in folders that may be missing from a user's PATH.
 QString ProgramPath(const QString& name) {
   const QString found = QStandardPaths::findExecutable(name);
   return found.isEmpty() ? QStandardPaths::findExecutable(name, {"/usr/sbin", "/sbin"}) : found;
 }
 
-// What the program prints; empty when it fails.
+// The program's standard output; empty when it fails.
 std::string Run(const QString& program, const QStringList& arguments) {
   QProcess process;
   process.start(ProgramPath(program), arguments);
@@ -28,12 +28,12 @@ std::string Run(const QString& program, const QStringList& arguments) {
   return process.exitCode() == 0 ? process.readAllStandardOutput().toStdString() : "";
 }
 
-// Gives false when it does not come true; the time only bounds a service that hangs.
+// False after a timeout, which only a service that hangs reaches.
 bool WaitUntil(const std::function<bool()>& condition) {
-  QElapsedTimer waiting;
-  waiting.start();
+  QElapsedTimer timer;
+  timer.start();
   while (!condition()) {
-    if (waiting.hasExpired(60'000)) return false;
+    if (timer.hasExpired(60'000)) return false;
     QThread::msleep(20);
   }
   return true;
@@ -66,7 +66,7 @@ void PrintService::Start() {
   }
   // The filters may run as another user.
   std::filesystem::permissions(root + "temp", std::filesystem::perms(01777));
-  Put(root + "cupsd.conf", "Listen " + root + R"(socket
+  WriteFile(root + "cupsd.conf", "Listen " + root + R"(socket
 Browsing Off
 WebInterface No
 DefaultAuthType None
@@ -80,24 +80,25 @@ DefaultAuthType None
   </Limit>
 </Policy>
 )");
-  Put(root + "cups-files.conf",
-      "FileDevice Yes\nServerRoot " + root + "root\nRequestRoot " + root + "spool\nCacheDir " +
-          root + "cache\nStateDir " + root + "state\nTempDir " + root + "temp\nAccessLog " + root +
-          "access_log\nErrorLog " + root + "error_log\nPageLog " + root + "page_log\n");
+  WriteFile(root + "cups-files.conf", "FileDevice Yes\nServerRoot " + root + "root\nRequestRoot " +
+                                          root + "spool\nCacheDir " + root + "cache\nStateDir " +
+                                          root + "state\nTempDir " + root + "temp\nAccessLog " +
+                                          root + "access_log\nErrorLog " + root +
+                                          "error_log\nPageLog " + root + "page_log\n");
   qputenv("CUPS_SERVER", (root + "socket").c_str());
-  // A default printer of the user's own is none of the test's business.
+  // Ignore the user's own default printer.
   for (const char* name : {"CUPS_SERVERROOT", "HOME"}) qputenv(name, (root + "root").c_str());
   for (const char* name : {"LPDEST", "PRINTER"}) qunsetenv(name);
   daemon_.setProcessChannelMode(QProcess::MergedChannels);
   daemon_.start(ProgramPath("cupsd"), {"-f", "-c", QString::fromStdString(root + "cupsd.conf"),
                                        "-s", QString::fromStdString(root + "cups-files.conf")});
-  const bool answers = WaitUntil([this] {
+  const bool responds = WaitUntil([this] {
     return daemon_.waitForFinished(0) || daemon_.state() == QProcess::NotRunning ||
            Run("lpstat", {"-r"}).starts_with("scheduler is running");
   });
-  if (!answers || daemon_.state() == QProcess::NotRunning) {
+  if (!responds || daemon_.state() == QProcess::NotRunning) {
     missing_ = "the print service does not start: " + daemon_.readAll().toStdString() +
-               Got(root + "error_log");
+               ReadFile(root + "error_log");
   }
 }
 
@@ -119,7 +120,8 @@ std::string PrintService::Printed(int jobs) {
     const std::string lines = Run("lpstat", {"-W", which, "-o", kQueue});
     return std::count(lines.begin(), lines.end(), '\n');
   };
-  EXPECT_TRUE(WaitUntil([&] { return count("completed") >= jobs; })) << Got(folder_ / "error_log");
+  EXPECT_TRUE(WaitUntil([&] { return count("completed") >= jobs; }))
+      << ReadFile(folder_ / "error_log");
   EXPECT_EQ(count("completed"), jobs);
   EXPECT_EQ(count("not-completed"), 0);
   return folder_ / "out/job.pdf";

@@ -3,27 +3,26 @@
 #include <QProcess>
 #include <string>
 
-#include "../platform/surroundings_of_a_test.h"
+#include "../platform/temp_files.h"
 
 namespace benevix {
 
-// A print service of the test's own, CUPS in a temp folder, for this process
-// and its children. Its printers write each job as a PDF into a file.
+// A private CUPS in a temporary folder, used by this process and its children. It prints to a PDF
+// file.
 class PrintService {
  public:
-  // The one of this process, running from its first use on.
+  // Started at the first call.
   static PrintService& Instance();
 
-  // Why there is no print service, or empty.
+  // Why there is no print service; empty when it runs.
   [[nodiscard]] const std::string& Missing() const { return missing_; }
 
-  // A default printer with no jobs yet, instead of the one before. Takes a
-  // paper that the printer knows: "A4", "Letter", "A6".
+  // Replaces the default printer by a new one without jobs. `paper` is a PPD page size: "A4",
+  // "Letter", "A6".
   void SetPrinter(const std::string& paper);
   static void RemovePrinters();
 
-  // The PDF file of the last of `jobs` documents sent to the printer, when all
-  // are printed.
+  // Waits for `jobs` documents to be printed and returns the PDF file of the last.
   [[nodiscard]] std::string Printed(int jobs = 1);
 
  private:

@@ -12,9 +12,9 @@
 namespace benevix {
 namespace {
 
-constexpr double kTolerance = 0.25;  // points; two of the printer's dots
+constexpr double kTolerance = 0.25;  // points; two dots of the printer
 
-std::string WithoutEndBlanks(const std::string& line) {
+std::string TrimRight(const std::string& line) {
   return line.substr(0, line.find_last_not_of(' ') + 1);
 }
 
@@ -60,13 +60,13 @@ void PrintedPages::Measure() {
   const auto width = [](const Word& word) { return word.right - word.left; };
   const Word& widest = *std::ranges::max_element(words_, {}, width);
   columnWidth_ = width(widest) / static_cast<double>(widest.text.size());
-  // A printer rounds its margins; the words say where the first column really stands.
+  // The printer rounds its margins; the first column follows from the words.
   const double margin = pageWidth_ / 16;
   const double fromMargin = words_.front().left - margin;
   left_ = words_.front().left - std::round(fromMargin / columnWidth_) * columnWidth_;
   EXPECT_NEAR(left_, margin, 1);
   columns_ = static_cast<int>((pageWidth_ - 2 * left_ + kTolerance) / columnWidth_);
-  // Words are about as high as their row; the distances say how high exactly.
+  // Each distance is a whole number of rows, which the word's height tells; their mean is exact.
   double distance = 0;
   double rows = 0;
   for (std::size_t i = 1; i < words_.size(); ++i) {
@@ -90,7 +90,7 @@ void PrintedPages::BuildRows() {
     EXPECT_NEAR(word.left - left_, static_cast<double>(column) * columnWidth_, kTolerance);
     std::vector<std::string>& rows = rows_[word.page];
     if (rows.size() <= row) rows.resize(row + 1);
-    EXPECT_LE(rows[row].size(), column) << word.text << " stands on other words";
+    EXPECT_LE(rows[row].size(), column) << word.text << " overlaps other words";
     rows[row].resize(column, ' ');
     rows[row] += word.text;
   }
@@ -104,7 +104,7 @@ std::string PrintedPages::NextRow() {
     ++page_;
     row_ = 0;
   }
-  return page_ < rows_.size() ? rows_[page_][row_++] : "(end of the paper)";
+  return page_ < rows_.size() ? rows_[page_][row_++] : "(no more rows)";
 }
 
 void PrintedPages::ExpectLine(int column, const std::string& line) {
@@ -121,12 +121,12 @@ void PrintedPages::ExpectLine(int column, const std::string& line) {
     const std::string row = NextRow();
     ASSERT_NE(row, "") << "instead of " << rest;
     const std::size_t length = row.size() > indent.size() ? row.size() - indent.size() : 0;
-    ASSERT_EQ(row, WithoutEndBlanks(indent + std::string(rest.substr(0, length)))) << line;
+    ASSERT_EQ(row, TrimRight(indent + std::string(rest.substr(0, length)))) << line;
     rest.remove_prefix(std::min(length, rest.size()));
     const std::size_t blanks = std::min(rest.find_first_not_of(' '), rest.size());
     rest.remove_prefix(blanks);
     if (rest.empty()) return;
-    // What follows was wrapped for want of room alone.
+    // The row broke only because the next word did not fit.
     const std::size_t word = std::min(rest.find(' '), rest.size());
     EXPECT_GT(row.size() + blanks + word, static_cast<std::size_t>(columns_)) << row;
   }

@@ -6,21 +6,19 @@
 
 namespace benevix {
 
-// What a PDF file shows, read as rows of fixed-pitch characters as wide as
-// those of its widest word, between margins of a sixteenth of the page's width.
-// Words that stand outside of the margins or between two columns are failures.
+// The text of a PDF file as rows of fixed-pitch characters. Expects margins of a sixteenth of the
+// page's width; words in the margins or not aligned to the columns are test failures.
 class PrintedPages {
  public:
   explicit PrintedPages(const std::string& file);
 
   [[nodiscard]] std::size_t Count() const { return rows_.size(); }
   [[nodiscard]] std::size_t RowCount(std::size_t page) const { return rows_[page].size(); }
-  // How many characters fit between the margins.
+  // Characters per row.
   [[nodiscard]] int Columns() const { return columns_; }
 
-  // Takes the next rows: the line at its tab column, counted from 1, and what
-  // is left of it in rows at the same column. Empty lines at the very end do
-  // not show.
+  // Consumes the next rows: `line` at its tab column, counted from 1, wrapped at that column. Empty
+  // lines at the very end cannot be seen and are accepted.
   void ExpectLine(int column, const std::string& line);
   void ExpectEnd() const;
 
@@ -29,7 +27,7 @@ class PrintedPages {
   struct Word {
     std::size_t page = 0;
     double left = 0, top = 0, right = 0, bottom = 0;
-    std::string text;  // of the code page
+    std::string text;  // in the code page
   };
 
   void ReadWords(const std::string& file);
@@ -42,7 +40,7 @@ class PrintedPages {
   int columns_ = 0;
   std::vector<Word> words_;
   std::vector<std::vector<std::string>> rows_;  // by page
-  std::size_t page_ = 0, row_ = 0;              // what ExpectLine takes next
+  std::size_t page_ = 0, row_ = 0;              // next row of ExpectLine
 };
 
 }  // namespace benevix

@@ -22,7 +22,7 @@ class QtPrinterTest : public testing::Test {
     for (const auto& [column, line] : lines) printer.PrintLine(column, line);
     printer.EndDoc();
   }
-  // Prints the lines and finds them on the paper.
+  // Prints the lines and expects them on the pages.
   PrintedPages ExpectPrinted(const PrintedLines& lines) {
     Print(lines);
     PrintedPages pages(service.Printed());
@@ -38,13 +38,13 @@ class QtPrinterTest : public testing::Test {
   QtPrinter printer;
 };
 
-TEST_F(QtPrinterTest, LinesStandAtTheirTabColumns) {
+TEST_F(QtPrinterTest, PrintsAtTabColumns) {
   PrintedLines lines = {{1, std::string(90, 'm')}};
   for (const int column : {1, 2, 7, 40, 50, 77, 96}) lines.emplace_back(column, "Tab");
   EXPECT_EQ(ExpectPrinted(lines).Columns(), 96);
 }
 
-TEST_F(QtPrinterTest, LongLinesWrapUnderTheirTabColumn) {
+TEST_F(QtPrinterTest, WrapsLongLinesAtTheirTabColumn) {
   std::string words;
   for (int i = 0; i < 400; ++i)
     words += "word" + std::to_string(i * i) + (i % 7 == 0 ? "   " : " ");
@@ -60,7 +60,7 @@ TEST_F(QtPrinterTest, LongLinesWrapUnderTheirTabColumn) {
                  {90, "narrow as it can be here"}});
 }
 
-TEST_F(QtPrinterTest, PagesBreakBetweenLines) {
+TEST_F(QtPrinterTest, BreaksPagesBetweenLines) {
   PrintedLines lines;
   for (int i = 0; i < 301; ++i) {
     lines.emplace_back(i % 3 + 1, i % 10 == 9 ? "" : "Line " + std::to_string(i));
@@ -69,9 +69,8 @@ TEST_F(QtPrinterTest, PagesBreakBetweenLines) {
   EXPECT_EQ(pages.Count(), (301 + pages.RowCount(0) - 1) / pages.RowCount(0));
 }
 
-TEST_F(QtPrinterTest, EveryCharacterOfTheCodePageFillsItsColumn) {
-  // Some a font could join, stretch, leave out or take for something else than
-  // text.
+TEST_F(QtPrinterTest, PrintsEachCharacterInOneColumn) {
+  // With ligatures, wide and invisible characters and markup.
   const std::string special =
       "Caf\xE9 \x80 5, \x93quoted\x94 \x96 na\xEFve "
       "\x8A\x8E\x9F \xA7\xB5\xBD\xDE|";
@@ -89,7 +88,7 @@ TEST_F(QtPrinterTest, EveryCharacterOfTheCodePageFillsItsColumn) {
   ExpectLines(pages, {{1, "fi ffl -> == |a b|c-d|e f|g h|<i>&amp;|"}, {7, special}, {1, all}});
 }
 
-TEST_F(QtPrinterTest, OtherPapersOtherWidths) {
+TEST_F(QtPrinterTest, AdaptsToThePaper) {
   service.SetPrinter("A6");
   const std::string wide(100, 'm'), beyond = "beyond this page's edge";
   Print({{1, wide}, {40, beyond}});
@@ -98,7 +97,7 @@ TEST_F(QtPrinterTest, OtherPapersOtherWidths) {
   ExpectLines(pages, {{1, wide}, {39 % pages.Columns() + 1, beyond}});
 }
 
-TEST_F(QtPrinterTest, DocumentsAreApartAndNeedAPrinter) {
+TEST_F(QtPrinterTest, SeparatesDocumentsAndNeedsAPrinter) {
   printer.EndDoc();  // none was begun
   ExpectPrinted({{1, "The first"}});
   Print({{1, "The second"}});
@@ -108,7 +107,7 @@ TEST_F(QtPrinterTest, DocumentsAreApartAndNeedAPrinter) {
   EXPECT_THROW(printer.PrintLine(1, "Nowhere"), RuntimeError);
   printer.EndDoc();
   service.SetPrinter("A4");
-  Print({{0, "Here"}});  // no column is the first one
+  Print({{0, "Here"}});  // column 0 counts as 1
   PrintedPages here(service.Printed());
   ExpectLines(here, {{1, "Here"}});
 }

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "../program_of_a_test.h"
+#include "../program_fixture.h"
 #include "base/lines.h"
 #include "platform/qt/qt_printer.h"
 #include "print_service.h"
@@ -15,11 +15,11 @@ class ReportsTest : public testing::Test {
   void SetUp() override {
     if (!service_.Missing().empty()) GTEST_SKIP() << "no print service: " << service_.Missing();
     service_.SetPrinter("Letter");
-    it_.Enter();
+    fixture_.Enter();
   }
-  // Prints by a menu item; gives what is on the paper behind its head.
+  // Prints with a menu item; returns the pages after the report's header.
   PrintedPages Print(MenuItem& item, const std::string& title, int jobs) {
-    EXPECT_TRUE(it_.program.TheInput().ChooseMenu(item));
+    EXPECT_TRUE(fixture_.program.TheInput().ChooseMenu(item));
     PrintedPages pages(service_.Printed(jobs));
     pages.ExpectLine(40, " -- Benevix  Copyright Quorl -- ");
     for (int i = 0; i < 2; ++i) pages.ExpectLine(1, "");
@@ -30,30 +30,30 @@ class ReportsTest : public testing::Test {
   PrintedPages PrintHistory(int jobs) {
     return Print(forms_.Get<frmBVX>().mnuPrtHistory, "Sessions History", jobs);
   }
-  void ExpectTail(PrintedPages& pages) {
+  void ExpectFooter(PrintedPages& pages) {
     pages.ExpectLine(
         1, " ------------------------- End Doc ------ 03-05-2003 @ 12:34:56 ------------- " +
-               it_.world.info.deployment.serverBase + " ------------- ");
+               fixture_.world.info.deployment.serverBase + " ------------- ");
     pages.ExpectEnd();
   }
   void TypeAndEnter(TextBox& box, const std::string& text) {
-    Input& input = it_.program.TheInput();
+    Input& input = fixture_.program.TheInput();
     EXPECT_TRUE(input.Type(box, text));
     EXPECT_TRUE(input.Key(box, keys::kEnter));
   }
 
   PrintService& service_ = PrintService::Instance();
   QtPrinter printer_;
-  ProgramOfATest it_{&printer_};
-  Forms& forms_ = it_.program.TheForms();
+  ProgramFixture fixture_{&printer_};
+  Forms& forms_ = fixture_.program.TheForms();
 };
 
-TEST_F(ReportsTest, ASessionIsPrintedAsTheHistoryTellsIt) {
-  it_.world.site.Put("53rv3r/ctact.dat", {.text = "mail?,us"});
-  it_.world.site.Put("mail", {.text = "Thank You"});
+TEST_F(ReportsTest, PrintsTheSessionAsInTheHistory) {
+  fixture_.world.site.Put("53rv3r/ctact.dat", {.text = "mail?,us"});
+  fixture_.world.site.Put("mail", {.text = "Thank You"});
   for (TextBox& box : forms_.Get<frmPersInfo>().Text1) box.text = "x";
   forms_.Get<frmBVX>().Combo1.text = "Ann Lee";
-  Input& input = it_.program.TheInput();
+  Input& input = fixture_.program.TheInput();
   TypeAndEnter(forms_.Get<frmBVX>().Text1[0], "50");
   input.Choose(forms_.Get<frmPayOpt>().Option1[payment::kFundsTransfer]);
   input.Click(forms_.Get<frmPayOpt>().Command1[0]);
@@ -61,13 +61,13 @@ TEST_F(ReportsTest, ASessionIsPrintedAsTheHistoryTellsIt) {
   TypeAndEnter(forms_.Get<frmBVX>().Text1[2], "50");
   input.Click(forms_.Get<frmBVX>().Command1);
   PrintedPages pages = Print(forms_.Get<frmBVX>().mnuPrntSession, "Current Session", 1);
-  const std::string told = Got(it_.world.info.Resource("history.dat"));
-  EXPECT_NE(told.find("Organization: Water For All -  Amount: $50.00"), std::string::npos);
-  for (const std::string_view line : Lines(told)) pages.ExpectLine(1, std::string(line));
-  ExpectTail(pages);
+  const std::string history = ReadFile(fixture_.world.info.Resource("history.dat"));
+  EXPECT_NE(history.find("Organization: Water For All -  Amount: $50.00"), std::string::npos);
+  for (const std::string_view line : Lines(history)) pages.ExpectLine(1, std::string(line));
+  ExpectFooter(pages);
 }
 
-TEST_F(ReportsTest, AMissingHistoryEndsThePrintoutAndTheNextOneOfSeveralPagesStandsAlone) {
+TEST_F(ReportsTest, PrintsAMissingAndThenALongHistory) {
   PrintHistory(1).ExpectEnd();
   std::string text;
   for (std::size_t i = 0; i < 200; ++i) {
@@ -75,12 +75,12 @@ TEST_F(ReportsTest, AMissingHistoryEndsThePrintoutAndTheNextOneOfSeveralPagesSta
             " -  Amount: $1.25\r\n\r\n";
   }
   text += std::string(3000, 'x') + "\r\n\nthe last line has no end, caf\xE9";
-  Put(it_.world.info.Resource("history.dat"), text);
+  WriteFile(fixture_.world.info.Resource("history.dat"), text);
   PrintedPages pages = PrintHistory(2);
   EXPECT_GE(pages.Count(), 5U);
   for (const std::string_view line : Lines(text)) pages.ExpectLine(7, std::string(line));
   pages.ExpectLine(1, "");
-  ExpectTail(pages);
+  ExpectFooter(pages);
 }
 
 }  // namespace

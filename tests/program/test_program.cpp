@@ -1,13 +1,13 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
-#include "../program_of_a_test.h"
+#include "../program_fixture.h"
 
 namespace benevix {
 namespace {
 
 // A run of the program whose please-wait window is looked at.
-class ProgramTest : public testing::Test, public ProgramOfATest {
+class ProgramTest : public testing::Test, public ProgramFixture {
  protected:
   ProgramTest() {
     waits.watch = [this] {

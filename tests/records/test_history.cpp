@@ -1,18 +1,18 @@
 #include <gtest/gtest.h>
 
-#include "../list_of_a_test.h"
-#include "../platform/surroundings_of_a_test.h"
-#include "../program_of_a_test.h"
+#include "../platform/temp_files.h"
+#include "../program_fixture.h"
+#include "../sample_list.h"
 #include "records/history.h"
 
 namespace benevix {
 namespace {
 
-class HistoryTest : public testing::Test, public ProgramOfATest {
+class HistoryTest : public testing::Test, public ProgramFixture {
  protected:
   SessionRecord Write(const std::string& id) {
-    ListView list = ListOfATest();
-    PutDonation(list, 2, "2,5.00,Pool,John Doe,0,1");
+    ListView list = SampleList();
+    SetDonation(list, 2, "2,5.00,Pool,John Doe,0,1");
     return history_.WriteHistory({id, "7.50", Currency::FromWhole(5), Currency::FromWhole(7), {}},
                                  list);
   }
@@ -44,14 +44,14 @@ TEST_F(HistoryTest, WhatCannotBeWrittenIsToldKeptAndTriedAgain) {
   std::filesystem::remove(path_);
   std::filesystem::rename(path_ + ".kept", path_);
   Write("D");
-  EXPECT_EQ(Got(path_), Record("A") + Record("B") + Record("C") + Record("D"));
-  FillDisk(std::filesystem::file_size(path_) + 10);
+  EXPECT_EQ(ReadFile(path_), Record("A") + Record("B") + Record("C") + Record("D"));
+  LimitFileSize(std::filesystem::file_size(path_) + 10);
   Write("E");
-  EmptyDisk();
-  EXPECT_EQ(Got(path_), Record("A") + Record("B") + Record("C") + Record("D"));
+  LimitFileSize();
+  EXPECT_EQ(ReadFile(path_), Record("A") + Record("B") + Record("C") + Record("D"));
   history_.WritePending();
   history_.WritePending();
-  EXPECT_TRUE(Got(path_).ends_with(Record("D") + Record("E")));
+  EXPECT_TRUE(ReadFile(path_).ends_with(Record("D") + Record("E")));
   EXPECT_EQ(boxes.shown.size(), 3U);
 }
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "../list_of_a_test.h"
+#include "../sample_list.h"
 #include "base/runtime_error.h"
 #include "records/session_record.h"
 
@@ -10,13 +10,13 @@ namespace {
 const std::string kIndent(13, ' ');
 
 TEST(SessionRecord, MarksWhatWasAskedForInTheRow) {
-  ListView list = ListOfATest();
-  PutDonation(list, 5, "5,5.00,Pool,John Doe,1,1");
-  PutDonation(list, 2, "2,5.00,Pool,John Doe,0,0");
-  PutDonation(list, 4, "4,5.00,Pool,John Doe,1,0");
-  PutDonation(list, 3, "3,5.00,Pool,John Doe,0,1");
-  PutDonation(list, 6, "1");  // shorter than its flags
-  PutDonation(list, 7, "");
+  ListView list = SampleList();
+  SetDonation(list, 5, "5,5.00,Pool,John Doe,1,1");
+  SetDonation(list, 2, "2,5.00,Pool,John Doe,0,0");
+  SetDonation(list, 4, "4,5.00,Pool,John Doe,1,0");
+  SetDonation(list, 3, "3,5.00,Pool,John Doe,0,1");
+  SetDonation(list, 6, "1");  // shorter than its flags
+  SetDonation(list, 7, "");
   const std::string proof = " - Send Proof: [X]", certificate = " - Tax Certificate: [X]";
   const auto line = [](const std::string& row) {
     return kIndent + "Organization: Org " + row +

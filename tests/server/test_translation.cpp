@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "../cases_of_a_test.h"
+#include "../text_cases.h"
 #include "server/translation.h"
 
 namespace benevix {

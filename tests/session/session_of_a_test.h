@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "../boxes_of_a_test.h"
-#include "../list_of_a_test.h"
+#include "../recording_boxes.h"
+#include "../sample_list.h"
 #include "session/budget_entry.h"
 #include "session/donation_entry.h"
 
@@ -13,7 +13,7 @@ namespace benevix {
 struct SessionOfATest {
   explicit SessionOfATest(int option = payment::kCreditCard, bool deducts = true) {
     desk.Add(main);
-    main.ListView1 = ListOfATest();
+    main.ListView1 = SampleList();
     main.mnuDeductFees.checked = deducts;
     main.mnuAddFees.checked = !deducts;
     main.Combo1.text = "John Doe";
@@ -50,7 +50,7 @@ struct SessionOfATest {
   FeeRates rates;
   EventTable events;
   Desk desk{events};
-  BoxesOfATest boxes;
+  RecordingBoxes boxes;
   ProgramInfo info;
   RunValues run;
   Messages messages{boxes, info, run};

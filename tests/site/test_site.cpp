@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
-#include "../platform/surroundings_of_a_test.h"
+#include "../platform/temp_files.h"
 #include "base/number_text.h"
 #include "benevix-site/site.h"
 #include "platform/linux/linux_files.h"
@@ -17,9 +17,9 @@ const std::string kAddress = "http://127.0.0.1:1/";
 class SmallSite : public testing::Test {
  protected:
   SmallSite() {
-    Put(folder_ / "secret.txt", "secret");
-    Put(folder_ / "site/a b.txt", "{site}x {site}");
-    Put(folder_ / "site/sub/program.exe", "{site}\xFF");
+    WriteFile(folder_ / "secret.txt", "secret");
+    WriteFile(folder_ / "site/a b.txt", "{site}x {site}");
+    WriteFile(folder_ / "site/sub/program.exe", "{site}\xFF");
     std::filesystem::create_symlink("../secret.txt", folder_ / "site/out.txt");
   }
 
@@ -34,7 +34,7 @@ TEST_F(SmallSite, FilesKnowTheirAddressAndProgramsStayAsTheyAre) {
   EXPECT_EQ(text.contentType, "text/plain; charset=windows-1252");
   EXPECT_EQ(text.body, kAddress + "x " + kAddress);
   EXPECT_EQ(site_.Answer("/sub/program.exe").body, "{site}\xFF");
-  Put(folder_ / "site/index.html", "home");
+  WriteFile(folder_ / "site/index.html", "home");
   EXPECT_EQ(site_.Answer("/").body, "home");
 }
 
@@ -90,7 +90,7 @@ TEST_F(ServedSite, ANewerListIsThereUnderItsVersion) {
   const std::string version = site_.Answer("/53rv3r/dbcurrver.dat").body;
   const std::string list = site_.Answer("/downloads/db" + version).body;
   EXPECT_TRUE(list.starts_with(";QUORL" + version + "\r\n"));
-  const std::string installed = Got(std::string(PROJECT_FOLDER) + "/resources/sharedb.dat");
+  const std::string installed = ReadFile(std::string(PROJECT_FOLDER) + "/resources/sharedb.dat");
   EXPECT_GT(Val(version), Val(installed.substr(6)));
   EXPECT_GT(list.size(), installed.size());
   EXPECT_EQ(list.find('<'), std::string::npos);

@@ -1,14 +1,17 @@
-// What shows something.
+// The bindings of controls that only show something or can be clicked or scrolled.
 
 #include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
 #include <QProgressBar>
 #include <QScrollBar>
+#include <algorithm>
 
 #include "base/format.h"
-#include "mirror/bindings/bound.h"
+#include "mirror/bindings/make_binding.h"
 #include "mirror/bindings/mnemonics.h"
+#include "mirror/bindings/mouse_filter.h"
+#include "mirror/bindings/widget_binding.h"
 #include "mirror/look/money_bar_widget.h"
 #include "mirror/look/shape_widget.h"
 #include "mirror/look/texts.h"
@@ -17,25 +20,12 @@
 namespace benevix {
 namespace {
 
-class LabelBinding : public Bound<Label, QLabel> {
+class LabelBinding : public WidgetBinding<Label, QLabel> {
  public:
   LabelBinding(Label& label, QLabel& widget, BindingContext& context)
-      : Bound(label, widget, context), theme_(widget.palette()) {}
-
-  void Apply() override {
-    ApplyBase(control_, widget_);
-    const QString caption = Drawn(control_.caption);
-    const QString text =
-        LeadsToABox() ? WithMnemonic(caption, mnemonic_) : WithoutMnemonic(caption);
-    if (widget_.text() != text) {
-      widget_.setText(text);
-      if (IsFree()) widget_.adjustSize();
-    }
-    QPalette palette = theme_;
-    SetText(palette, QPalette::WindowText, control_.foreColor, Label().foreColor, context_.scheme);
-    ApplyPalette(widget_, palette);
-    if (IsFree()) Place();
-  }
+      : WidgetBinding(label, widget, context),
+        colors_(widget, context.scheme),
+        mouse_(widget, [this] { context_.input.Click(control_); }) {}
 
   [[nodiscard]] QString MnemonicCaption() const override {
     return LeadsToABox() ? ToQString(control_.caption) : QString();
@@ -43,93 +33,117 @@ class LabelBinding : public Bound<Label, QLabel> {
   void SetMnemonic(QChar letter) override { mnemonic_ = letter; }
 
  private:
+  void ApplyKind() override {
+    const QString caption = Drawn(control_.caption);
+    widget_.setText(LeadsToABox() ? WithMnemonic(caption, mnemonic_) : WithoutMnemonic(caption));
+    colors_.Apply({{QPalette::WindowText, control_.foreColor, Label().foreColor}}, {});
+    if (IsPlacedByTheProgram()) Place();
+  }
+
   [[nodiscard]] bool LeadsToABox() const {
     return widget_.buddy() != nullptr && widget_.buddy()->focusPolicy() != Qt::NoFocus;
   }
 
-  // A label in a panel without a layout is moved by the program.
-  [[nodiscard]] bool IsFree() const {
-    return widget_.parentWidget() != nullptr && widget_.parentWidget()->layout() == nullptr &&
-           widget_.parentWidget()->objectName().startsWith(QLatin1String("Label"));
+  // Such a label stands in a panel that has no layout and is named for it: Label4_track.
+  [[nodiscard]] bool IsPlacedByTheProgram() const {
+    const QWidget* const panel = widget_.parentWidget();
+    return panel != nullptr && panel->layout() == nullptr &&
+           panel->objectName().startsWith(QLatin1String("Label"));
   }
-
-  QPalette theme_;
-  QChar mnemonic_;
 
   void Place() {
-    const QWidget& track = *widget_.parentWidget();
+    const QWidget& panel = *widget_.parentWidget();
+    int top = control_.top / kTwipsPerPixel;
     if (widget_.wordWrap()) {
       if (QLayout* const layout = widget_.window()->layout()) layout->activate();
-      widget_.resize(track.width(),
-                     std::max(track.height(), widget_.heightForWidth(track.width())));
+      widget_.resize(panel.width(),
+                     std::max(panel.height(), widget_.heightForWidth(panel.width())));
+      // Back into the struct: only the widget knows how its text wraps.
       control_.height = widget_.height() * kTwipsPerPixel;
+    } else {
+      widget_.adjustSize();
+      top += std::max(0, (panel.height() - widget_.height()) / 2);
     }
-    widget_.move(
-        control_.left / kTwipsPerPixel,
-        control_.top / kTwipsPerPixel +
-            (widget_.wordWrap() ? 0 : std::max(0, (track.height() - widget_.height()) / 2)));
+    widget_.move(control_.left / kTwipsPerPixel, top);
   }
+
+  ControlColors colors_;
+  MouseFilter mouse_;
+  QChar mnemonic_;
 };
 
-class FrameBinding : public Bound<Frame, QGroupBox> {
+class FrameBinding : public WidgetBinding<Frame, QGroupBox> {
  public:
   FrameBinding(Frame& frame, QGroupBox& widget, BindingContext& context)
-      : Bound(frame, widget, context) {
-    widget.ensurePolished();  // so that the title's room is measured by its look
+      : WidgetBinding(frame, widget, context) {
+    widget.ensurePolished();  // so that the space for the title is measured by its look
   }
 
-  void Apply() override {
-    ApplyBase(control_, widget_);
-    const QString text = Drawn(control_.caption);
-    if (widget_.title() != text) widget_.setTitle(text);
-  }
+ private:
+  void ApplyKind() override { widget_.setTitle(Drawn(control_.caption)); }
 };
 
-class ShapeBinding : public Bound<Shape, ShapeWidget> {
+class PictureBinding : public WidgetBinding<PictureBox, QWidget> {
  public:
-  using Bound::Bound;
-  void Apply() override {
-    ApplyBase(control_, widget_);
+  PictureBinding(PictureBox& picture, QWidget& widget, BindingContext& context)
+      : WidgetBinding(picture, widget, context),
+        mouse_(
+            widget, [this] { context_.input.Click(control_); },
+            [this] { context_.input.Hover(control_); }) {}
+
+ private:
+  MouseFilter mouse_;
+};
+
+class ShapeBinding : public WidgetBinding<Shape, ShapeWidget> {
+ public:
+  using WidgetBinding::WidgetBinding;
+
+ private:
+  void ApplyKind() override {
     const bool filled = control_.fillStyle == 0;
     widget_.SetFill(filled ? RoleColor(control_.fillColor, context_.scheme) : QColor());
-    widget_.SetBorder(RoleColor(control_.borderColor, context_.scheme), control_.borderWidth);
+    widget_.SetBorder(RoleColor(control_.borderColor, context_.scheme));
     widget_.setAccessibleDescription(ToQString(control_.meaning));
   }
 };
 
-class ScrollBarBinding : public Bound<ScrollBar, QScrollBar> {
+class ScrollBarBinding : public WidgetBinding<ScrollBar, QScrollBar> {
  public:
   ScrollBarBinding(ScrollBar& bar, QScrollBar& widget, BindingContext& context)
-      : Bound(bar, widget, context) {
+      : WidgetBinding(bar, widget, context) {
     QObject::connect(&widget, &QScrollBar::valueChanged, &widget, [this](int value) {
       if (!context_.applying) context_.input.Scroll(control_, value);
     });
   }
-  void Apply() override {
-    ApplyBase(control_, widget_);
-    if (widget_.maximum() != control_.max) widget_.setMaximum(control_.max);
+
+ private:
+  void ApplyKind() override {
+    widget_.setMaximum(control_.max);
     // Its value is in twips: a key moves the text by lines and pages of it.
     widget_.setSingleStep(widget_.fontMetrics().lineSpacing() * kTwipsPerPixel);
     widget_.setPageStep(widget_.height() * kTwipsPerPixel);
-    if (widget_.value() != control_.value) widget_.setValue(control_.value);
+    widget_.setValue(control_.value);
   }
 };
 
-class ProgressBarBinding : public Bound<ProgressBar, QProgressBar> {
+class ProgressBarBinding : public WidgetBinding<ProgressBar, QProgressBar> {
  public:
-  using Bound::Bound;
-  void Apply() override {
-    ApplyBase(control_, widget_);
-    if (widget_.maximum() != control_.max) widget_.setMaximum(control_.max);
-    if (widget_.value() != control_.value) widget_.setValue(control_.value);
+  using WidgetBinding::WidgetBinding;
+
+ private:
+  void ApplyKind() override {
+    widget_.setMaximum(control_.max);
+    widget_.setValue(control_.value);
   }
 };
 
-class MoneyBarBinding : public Bound<MoneyBar, MoneyBarWidget> {
+class MoneyBarBinding : public WidgetBinding<MoneyBar, MoneyBarWidget> {
  public:
-  using Bound::Bound;
-  void Apply() override {
-    ApplyBase(control_, widget_);
+  using WidgetBinding::WidgetBinding;
+
+ private:
+  void ApplyKind() override {
     widget_.setAccessibleDescription(ToQString(control_.toolTip));
     std::vector<MoneyBarWidget::Part> parts;
     for (const MoneyBar::Part& part : control_.parts) {
@@ -141,52 +155,30 @@ class MoneyBarBinding : public Bound<MoneyBar, MoneyBarWidget> {
   }
 };
 
-class PageViewerBinding : public Bound<PageViewer, QWidget> {
+class PageViewerBinding : public WidgetBinding<PageViewer, QWidget> {
  public:
   PageViewerBinding(PageViewer& viewer, QWidget& widget, BindingContext& context)
-      : Bound(viewer, widget, context),
+      : WidgetBinding(viewer, widget, context),
         host_(&widget, widget.window()->findChild<QLabel*>(QStringLiteral("hostLine"))) {}
 
-  void Apply() override {
-    ApplyBase(control_, widget_);
+ private:
+  void ApplyKind() override {
     if (navigations_ == control_.navigations) return;
     navigations_ = control_.navigations;
     host_.Navigate(control_.address);
   }
 
- private:
   PageViewHost host_;
   int navigations_ = 0;
 };
 
 }  // namespace
 
-std::unique_ptr<Binding> Bind(Label& label, QWidget& widget, BindingContext& context) {
-  return BindTo<LabelBinding, QLabel>(label, widget, context);
-}
-
-std::unique_ptr<Binding> Bind(Frame& frame, QWidget& widget, BindingContext& context) {
-  return BindTo<FrameBinding, QGroupBox>(frame, widget, context);
-}
-
-std::unique_ptr<Binding> Bind(Shape& shape, QWidget& widget, BindingContext& context) {
-  return BindTo<ShapeBinding, ShapeWidget>(shape, widget, context);
-}
-
-std::unique_ptr<Binding> Bind(ScrollBar& bar, QWidget& widget, BindingContext& context) {
-  return BindTo<ScrollBarBinding, QScrollBar>(bar, widget, context);
-}
-
-std::unique_ptr<Binding> Bind(ProgressBar& bar, QWidget& widget, BindingContext& context) {
-  return BindTo<ProgressBarBinding, QProgressBar>(bar, widget, context);
-}
-
-std::unique_ptr<Binding> Bind(MoneyBar& bar, QWidget& widget, BindingContext& context) {
-  return BindTo<MoneyBarBinding, MoneyBarWidget>(bar, widget, context);
-}
-
-std::unique_ptr<Binding> Bind(PageViewer& viewer, QWidget& widget, BindingContext& context) {
-  return BindTo<PageViewerBinding, QWidget>(viewer, widget, context);
+std::unique_ptr<Binding> MakeDisplayBinding(const NamedControl& control, QWidget& widget,
+                                            BindingContext& context) {
+  return MakeFirst<LabelBinding, FrameBinding, PictureBinding, ShapeBinding, ScrollBarBinding,
+                   ProgressBarBinding, MoneyBarBinding, PageViewerBinding>(control, widget,
+                                                                           context);
 }
 
 }  // namespace benevix

@@ -9,8 +9,8 @@
 namespace benevix {
 namespace {
 
-constexpr int kInset = 8;  // before and behind a text
-constexpr int kEdge = 4;   // the bar at the edge of a row with a donation
+constexpr int kInset = 8;  // pixels before and behind a text
+constexpr int kEdge = 4;   // pixels, the bar at the edge of a row with a donation
 
 }  // namespace
 
@@ -37,12 +37,12 @@ void ListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   }
   painter->setFont(cell.font);
   painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
-  const QRect room = option.rect.adjusted(kInset, 0, -kInset, 0);
-  const QString text = cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, room.width());
-  painter->drawText(room, static_cast<int>(cell.displayAlignment) | Qt::TextSingleLine, text);
+  const QRect inside = option.rect.adjusted(kInset, 0, -kInset, 0);
+  const QString text = cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, inside.width());
+  painter->drawText(inside, static_cast<int>(cell.displayAlignment) | Qt::TextSingleLine, text);
 }
 
-// Every cell shows its part of the one text.
+// The text runs over the whole row: every cell draws the part of it that falls into the cell.
 void ListDelegate::PaintHeading(QPainter& painter, const QStyleOptionViewItem& option,
                                 const QModelIndex& index) const {
   const auto* const view = qobject_cast<const QTableView*>(option.widget);

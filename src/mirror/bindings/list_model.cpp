@@ -6,6 +6,15 @@
 #include "mirror/look/texts.h"
 
 namespace benevix {
+namespace {
+
+QVariant AlignmentOf(int column) {
+  const bool number = column == column::kAmount || column >= column::kFee;
+  return QVariant::fromValue(
+      Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
+}
+
+}  // namespace
 
 void ListModel::Refresh() {
   if (list_.rows.get() != rows_) {
@@ -38,12 +47,8 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
       return Drawn(list_.SubItem(row, index.column()));
-    case Qt::TextAlignmentRole: {
-      const int column = index.column();
-      const bool number = column == column::kAmount || column >= column::kFee;
-      return QVariant::fromValue(
-          Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
-    }
+    case Qt::TextAlignmentRole:
+      return AlignmentOf(index.column());
     case kKindRole:
       return QVariant::fromValue(KindOf(row));
     case Qt::FontRole: {
@@ -65,12 +70,7 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
   if (role == Qt::DisplayRole) {
     return ToQString(list_.columns[static_cast<std::size_t>(section)]);
   }
-  if (role == Qt::TextAlignmentRole) {
-    const bool number = section == column::kAmount || section >= column::kFee;
-    return QVariant::fromValue(
-        Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
-  }
-  return {};
+  return role == Qt::TextAlignmentRole ? AlignmentOf(section) : QVariant();
 }
 
 }  // namespace benevix

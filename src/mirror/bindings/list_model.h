@@ -6,16 +6,16 @@
 
 namespace benevix {
 
-// The rows of a ListView for a table view. It holds no text: each cell is asked from the struct
-// when it is painted.
+// The rows of a ListView for a table view. It holds no text: each cell is read from the struct when
+// it is painted.
 class ListModel : public QAbstractTableModel {
  public:
-  enum class Kind { Heading, Organization, Given };
+  enum class Kind { Heading, Organization, Given };  // given: with a donation, or any other entry
   static constexpr int kKindRole = Qt::UserRole;
 
   ListModel(const ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
 
-  // Brings the view into line when texts or rows have changed since the last time.
+  // Brings the view into line where texts or rows have changed since the last time.
   void Refresh();
 
   int rowCount(const QModelIndex& parent = {}) const override;

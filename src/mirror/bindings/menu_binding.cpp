@@ -4,7 +4,6 @@
 #include <QShortcut>
 #include <algorithm>
 #include <memory>
-#include <string_view>
 
 #include "mirror/bindings/mnemonics.h"
 #include "mirror/look/texts.h"
@@ -21,6 +20,10 @@ void ApplyItem(const MenuItem& item, const QString& text, bool enabled, QAction&
 
 }  // namespace
 
+bool IsMenu(const NamedControl& control) {
+  return control.As<MenuItem>() != nullptr || control.As<MenuArray>() != nullptr;
+}
+
 MenuBinding::MenuBinding(const Desk::Entry& entry, QMenuBar& bar, BindingContext& context)
     : bar_(bar), context_(context) {
   bar.setAccessibleName(QStringLiteral("Menus"));
@@ -34,41 +37,30 @@ MenuBinding::MenuBinding(const Desk::Entry& entry, QMenuBar& bar, BindingContext
       AddArray(*array);
     }
   }
-  for (const auto& [name, menu] : menus_) GiveMnemonics(name);
+  for (const auto& [name, menu] : menus_) SetMnemonicsIn(name, Mnemonics(CaptionsIn(name)));
   auto* const toMenus = new QShortcut(QKeySequence(Qt::Key_F10), &bar);
   QObject::connect(toMenus, &QShortcut::activated, &bar,
                    [&bar] { bar.setActiveAction(bar.actions().value(0)); });
 }
 
-QStringList MenuBinding::Titles() const {
-  QStringList titles;
-  for (const Item& item : items_) {
-    if (IsTitle(item)) titles.append(ToQString(item.item->caption));
-  }
-  return titles;
-}
-
-void MenuBinding::SetTitleMnemonics(const std::vector<QChar>& letters) {
-  auto letter = letters.begin();
-  for (Item& item : items_) {
-    if (IsTitle(item)) item.mnemonic = *letter++;
-  }
-}
-
-bool MenuBinding::IsTitle(const Item& item) {
-  return std::string_view(item.item->holder).empty() && item.item->visible;
-}
-
-void MenuBinding::GiveMnemonics(const std::string& holder) {
+QStringList MenuBinding::CaptionsIn(std::string_view holder) const {
   QStringList captions;
   for (const Item& item : items_) {
-    if (item.item->holder == holder) captions.append(ToQString(item.item->caption));
+    if (IsIn(item, holder)) captions.append(ToQString(item.item->caption));
   }
-  const std::vector<QChar> letters = Mnemonics(captions);
+  return captions;
+}
+
+void MenuBinding::SetMnemonicsIn(std::string_view holder, const std::vector<QChar>& letters) {
   auto letter = letters.begin();
   for (Item& item : items_) {
-    if (item.item->holder == holder) item.mnemonic = *letter++;
+    if (IsIn(item, holder)) item.mnemonic = *letter++;
   }
+}
+
+// Pop-up menus are hidden items outside every menu.
+bool MenuBinding::IsIn(const Item& item, std::string_view holder) {
+  return item.item->holder == holder && (!holder.empty() || item.item->visible);
 }
 
 QMenu* MenuBinding::MenuNamed(const std::string& name) const {
@@ -139,7 +131,7 @@ void MenuBinding::ApplyArray(Array& array) {
   for (const auto& [index, item] : array.array->items) {
     QAction*& action = array.elements[index];
     if (action == nullptr) {
-      // In the order of the indexes, whatever the order in which they were made.
+      // In the order of the indexes, in whatever order they are made.
       const auto next = std::next(array.elements.find(index));
       QAction* const before = next == array.elements.end() ? array.end : next->second;
       action = std::make_unique<QAction>(array.menu).release();
@@ -149,8 +141,8 @@ void MenuBinding::ApplyArray(Array& array) {
                          context_.input.ChooseMenu(*menuArray, element);
                        });
     }
-    // Names from files and settings: an ampersand in them is no mnemonic. In a menu of their own
-    // their first letter goes from one to the next.
+    // These are names from files and settings, in which an ampersand marks no mnemonic. Where they
+    // have the menu to themselves, typing a first letter goes from one such name to the next.
     QString text = Drawn(item.caption).replace(QLatin1Char('&'), QLatin1String("&&"));
     if (array.isAlone && !text.isEmpty() && text[0].isLetter()) text.prepend(QLatin1Char('&'));
     ApplyItem(item, text, item.enabled && array.array->enabled, *action);

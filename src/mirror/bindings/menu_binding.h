@@ -4,12 +4,16 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <map>
+#include <string_view>
 #include <vector>
 
 #include "controls/desk.h"
 #include "mirror/bindings/binding.h"
 
 namespace benevix {
+
+// Menus have actions in place of widgets.
+[[nodiscard]] bool IsMenu(const NamedControl& control);
 
 // The menu bar and the pop-up menus of a window, built from its menu items in their order.
 class MenuBinding {
@@ -19,8 +23,8 @@ class MenuBinding {
   void Apply();
 
   // The captions on the menu bar, which share their letters with the window's other controls.
-  [[nodiscard]] QStringList Titles() const;
-  void SetTitleMnemonics(const std::vector<QChar>& letters);
+  [[nodiscard]] QStringList Titles() const { return CaptionsIn({}); }
+  void SetTitleMnemonics(const std::vector<QChar>& letters) { SetMnemonicsIn({}, letters); }
 
   // The action of an item, or of a menu array's element; null when there is none.
   [[nodiscard]] QAction* Action(const NamedControl& control, int element) const;
@@ -41,8 +45,10 @@ class MenuBinding {
     std::map<int, QAction*> elements;
   };
 
-  [[nodiscard]] static bool IsTitle(const Item& item);
-  void GiveMnemonics(const std::string& holder);
+  // In the menu of that name, or, without one, on the menu bar.
+  [[nodiscard]] static bool IsIn(const Item& item, std::string_view holder);
+  [[nodiscard]] QStringList CaptionsIn(std::string_view holder) const;
+  void SetMnemonicsIn(std::string_view holder, const std::vector<QChar>& letters);
   void AddItem(const NamedControl& control, bool holds);
   void AddArray(MenuArray& array);
   QMenu* MenuNamed(const std::string& name) const;

@@ -61,4 +61,8 @@ QString WithMnemonic(QString caption, QChar letter) {
   return at < 0 ? caption : caption.insert(at, QLatin1Char('&'));
 }
 
+QString WithoutMnemonic(const QString& caption) {
+  return caption.startsWith(QLatin1Char('&')) ? caption.mid(1) : caption;
+}
+
 }  // namespace benevix

@@ -6,13 +6,17 @@
 
 namespace benevix {
 
-// The letters that choose among what stands together: the items of one menu, or what Alt reaches in
-// a window. Each has a letter of its own: the one its caption marks with "&"; where two mark the
-// same, the first keeps it. The others get the first free one of their words' beginnings, or else
-// of their letters. Null for a caption that has none left.
+// The mnemonic letters of captions among which the user chooses: the items of one menu, or all that
+// Alt can reach in a window. Each has a letter of its own: the one that it marks with "&"; where
+// two mark the same, the first keeps it. The others get the first free letter that begins a word of
+// theirs, or else any of theirs that is free. Null for a caption without a free letter.
 [[nodiscard]] std::vector<QChar> Mnemonics(const QStringList& captions);
 
-// The caption with the mark at that letter, at a word's beginning if there is one.
+// The caption with "&" before that letter: where it begins a word, or else at its first place.
 [[nodiscard]] QString WithMnemonic(QString caption, QChar letter);
+
+// The caption of a label that leads to no box, without its mark, which can only be its first
+// character; any other "&" is text.
+[[nodiscard]] QString WithoutMnemonic(const QString& caption);
 
 }  // namespace benevix

@@ -1,4 +1,4 @@
-// Boxes that text is typed into.
+// The bindings of boxes that text is typed into.
 
 #include <QComboBox>
 #include <QGuiApplication>
@@ -7,17 +7,20 @@
 #include <QTimer>
 
 #include "base/text.h"
-#include "mirror/bindings/bound.h"
+#include "mirror/bindings/make_binding.h"
 #include "mirror/bindings/typed_text.h"
+#include "mirror/bindings/widget_binding.h"
 #include "mirror/look/texts.h"
 
 namespace benevix {
 namespace {
 
-class TextBoxBinding : public Bound<TextBox, QLineEdit> {
+class TextBoxBinding : public WidgetBinding<TextBox, QLineEdit> {
  public:
   TextBoxBinding(TextBox& box, QLineEdit& edit, BindingContext& context)
-      : Bound(box, edit, context), theme_(edit.palette()), selections_(box.selections) {
+      : WidgetBinding(box, edit, context),
+        colors_(edit, context.scheme),
+        selections_(box.selections) {
     edit.setValidator(std::make_unique<TypedText>(
                           &edit, [&box] { return ToQString(box.text); },
                           [&box, &context](QChar c) {
@@ -32,15 +35,13 @@ class TextBoxBinding : public Bound<TextBox, QLineEdit> {
     });
   }
 
-  void Apply() override {
-    ApplyBase(control_, widget_);
+ private:
+  void ApplyKind() override {
     const QString text = ToQString(control_.text);
     if (widget_.text() != text) widget_.setText(text);
     const TextBox design;
-    QPalette palette = theme_;
-    SetText(palette, QPalette::Text, control_.foreColor, design.foreColor, context_.scheme);
-    SetGround(palette, QPalette::Base, control_.backColor, design.backColor, context_.scheme);
-    ApplyPalette(widget_, palette);
+    colors_.Apply({{QPalette::Text, control_.foreColor, design.foreColor}},
+                  {{QPalette::Base, control_.backColor, design.backColor}});
     QFont font = widget_.font();
     if (font.bold() != control_.fontBold) {
       font.setBold(control_.fontBold);
@@ -52,46 +53,40 @@ class TextBoxBinding : public Bound<TextBox, QLineEdit> {
     }
   }
 
- private:
   void SelectAll() {
     widget_.selectAll();
-    // The press that gave the focus goes on to place the caret.
+    // The press of the mouse that gave the focus places the caret only after this.
     if (QGuiApplication::mouseButtons() != Qt::NoButton) {
       QTimer::singleShot(0, &widget_, &QLineEdit::selectAll);
     }
   }
 
-  QPalette theme_;
+  ControlColors colors_;
   int selections_;
 };
 
-// A box of several lines; the code page writes their ends as CR LF.
-class MultiLineBinding : public Bound<TextBox, QPlainTextEdit> {
+// A box of several lines. In the struct they end with CR LF.
+class MultiLineBinding : public WidgetBinding<TextBox, QPlainTextEdit> {
  public:
   MultiLineBinding(TextBox& box, QPlainTextEdit& edit, BindingContext& context)
-      : Bound(box, edit, context) {
+      : WidgetBinding(box, edit, context) {
     QObject::connect(&edit, &QPlainTextEdit::textChanged, &edit, [this] {
       if (context_.applying) return;
       std::string text = FromQString(widget_.toPlainText());
       for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += 2) {
         text.insert(at, 1, '\r');
       }
-      // What the code page lacks is not taken; Apply takes it out of the widget again.
+      // A character that the code page lacks is not in `text`; it is taken out of the widget too.
       if (text != control_.text) {
         context_.input.Type(control_, text);
       } else {
-        ApplyText();
+        ApplyKind();
       }
     });
   }
 
-  void Apply() override {
-    ApplyBase(control_, widget_);
-    ApplyText();
-  }
-
  private:
-  void ApplyText() {
+  void ApplyKind() override {
     QString text = ToQString(control_.text);
     text.remove(QLatin1Char('\r'));
     if (widget_.toPlainText() == text) return;
@@ -104,10 +99,10 @@ class MultiLineBinding : public Bound<TextBox, QPlainTextEdit> {
   }
 };
 
-class ComboBinding : public Bound<ComboBox, QComboBox> {
+class ComboBinding : public WidgetBinding<ComboBox, QComboBox> {
  public:
   ComboBinding(ComboBox& combo, QComboBox& widget, BindingContext& context)
-      : Bound(combo, widget, context) {
+      : WidgetBinding(combo, widget, context) {
     QObject::connect(&widget, &QComboBox::activated, &widget, [this](int index) {
       if (!context_.applying) context_.input.Pick(control_, index);
     });
@@ -124,8 +119,8 @@ class ComboBinding : public Bound<ComboBox, QComboBox> {
         [this](const QString& text) { context_.input.Type(control_, FromQString(text)); });
   }
 
-  void Apply() override {
-    ApplyBase(control_, widget_);
+ private:
+  void ApplyKind() override {
     ApplyList();
     const QString text = ToQString(control_.text);
     if (widget_.currentText() == text) return;
@@ -136,7 +131,6 @@ class ComboBinding : public Bound<ComboBox, QComboBox> {
     }
   }
 
- private:
   void ApplyList() {
     if (listed_ == control_.list) return;
     listed_ = control_.list;
@@ -150,13 +144,9 @@ class ComboBinding : public Bound<ComboBox, QComboBox> {
 
 }  // namespace
 
-std::unique_ptr<Binding> Bind(TextBox& box, QWidget& widget, BindingContext& context) {
-  if (box.multiLine) return BindTo<MultiLineBinding, QPlainTextEdit>(box, widget, context);
-  return BindTo<TextBoxBinding, QLineEdit>(box, widget, context);
-}
-
-std::unique_ptr<Binding> Bind(ComboBox& combo, QWidget& widget, BindingContext& context) {
-  return BindTo<ComboBinding, QComboBox>(combo, widget, context);
+std::unique_ptr<Binding> MakeTextBinding(const NamedControl& control, QWidget& widget,
+                                         BindingContext& context) {
+  return MakeFirst<TextBoxBinding, MultiLineBinding, ComboBinding>(control, widget, context);
 }
 
 }  // namespace benevix

@@ -5,12 +5,12 @@
 
 namespace benevix {
 
-// Lets the user's text into a line edit character by character: what was typed, pasted or dropped
-// is what differs from the text that stood there, and of it only the accepted characters stay.
+// Lets the user's text into a line edit character by character. What was typed, pasted or dropped
+// is found by comparing with the text before; of it only the accepted characters stay.
 class TypedText : public QValidator {
  public:
-  // `current` gives the text that stands; `accepts` whether a character may be typed;
-  // `isApplying` whether the program writes, which passes whole.
+  // `current` gives the text before; `accepts` says whether a character may be typed; `isApplying`
+  // whether it is the program that writes, whose text is taken as it is.
   TypedText(QObject* parent, std::function<QString()> current, std::function<bool(QChar)> accepts,
             std::function<bool()> isApplying)
       : QValidator(parent),

@@ -10,7 +10,6 @@ namespace {
 
 constexpr const char* kIndicator = "isIndicator";
 
-// What is read aloud of it as its description is its value.
 class IndicatorInterface : public QAccessibleWidget {
  public:
   explicit IndicatorInterface(QWidget& widget)
@@ -45,7 +44,8 @@ class LinkInterface : public QAccessibleWidget {
   }
 };
 
-// By properties: what the page's engine asks for cannot be cast.
+// By a property, not by a cast: objects of the page's engine also come here, and casting them
+// fails.
 QAccessibleInterface* Make(const QString& /*className*/, QObject* object) {
   if (object->property(kIndicator).toBool()) {
     return new IndicatorInterface(*static_cast<QWidget*>(object));

@@ -4,11 +4,12 @@ class QWidget;
 
 namespace benevix {
 
-// Tells screen readers what the toolkit does not know: labels and pictures that show the pointing
-// hand are links that can be pressed, and the marked widgets are indicators.
+// Lets screen readers know what the toolkit does not: labels and pictures with a pointing-hand
+// cursor are links that can be pressed, and the marked widgets are indicators.
 void InstallAccessibility();
 
-// The widget shows something by its look alone; its accessible description is read as its value.
+// Marks a widget that shows something by its look alone; screen readers read its accessible
+// description as its value.
 void MarkAsIndicator(QWidget& widget);
 
 }  // namespace benevix

@@ -9,6 +9,7 @@
 namespace benevix {
 namespace {
 
+// In pixels.
 constexpr int kBarHeight = 8;
 constexpr int kGap = 6;       // between the bar and the names
 constexpr int kDot = 8;       // the mark before a name

@@ -5,14 +5,14 @@
 
 namespace benevix {
 
-// A rounded rectangle; a small square one is a disc.
+// A rounded rectangle, which is a disc where it is small and square.
 class ShapeWidget : public QWidget {
  public:
   explicit ShapeWidget(QWidget* parent = nullptr);
 
   // An invalid fill colour leaves the inside transparent.
   void SetFill(const QColor& color);
-  void SetBorder(const QColor& color, int width);
+  void SetBorder(const QColor& color);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -20,7 +20,6 @@ class ShapeWidget : public QWidget {
  private:
   QColor fill_;
   QColor border_;
-  int borderWidth_ = 1;
 };
 
 }  // namespace benevix

@@ -17,8 +17,4 @@ std::string FromQString(const QString& text) {
   return FromUtf8(text.toStdString());
 }
 
-QString WithoutMnemonic(const QString& text) {
-  return text.startsWith(QLatin1Char('&')) ? text.mid(1) : text;
-}
-
 }  // namespace benevix

@@ -10,13 +10,9 @@ namespace benevix {
 QString ToQString(const std::string& text);
 std::string FromQString(const QString& text);
 
-// The text as a widget draws it: the beginning of megabytes, which nobody reads and the toolkit
-// takes minutes to lay out.
+// The text as a widget draws it: of a very long one only the beginning, because the toolkit takes
+// minutes to lay out megabytes.
 QString Drawn(const std::string& text);
-
-// A label's text without the mark of its mnemonic, which stands before the first letter; any other
-// "&" is text.
-QString WithoutMnemonic(const QString& text);
 
 // Twips are twentieths of a point: fifteen to a pixel at the 96 dots an inch that the toolkit's
 // coordinates count in.

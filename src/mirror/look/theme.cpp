@@ -6,7 +6,7 @@
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QPalette>
-#include <algorithm>
+#include <map>
 #include <utility>
 
 #include "mirror/look/theme_style.h"
@@ -17,145 +17,97 @@ static void InitResources() {
 }
 
 namespace benevix {
-
 namespace {
 
-// Every text colour reaches a contrast of 4.5 to 1 on each of the grounds it is drawn on.
-struct Tones {
-  const char* window;     // ground of the windows
-  const char* base;       // ground of boxes, lists and cards
-  const char* alternate;  // every second row of a list
-  const char* face;       // buttons
-  const char* hover;      // button under the mouse
-  const char* line;       // borders that only part
-  const char* edge;       // borders that can be pressed or typed in
-  const char* text;
-  const char* muted;  // less important text, disabled text
-  const char* accent;
-  const char* accentHover;
-  const char* onAccent;  // text on the accent
-  const char* tint;      // the guidance line's ground
-  const char* onTint;
-  const char* given;     // ground of boxes that show and no longer ask
-  const char* computed;  // ground of the Balance
-  const char* sand;      // ground of the fee modes
-  const char* red;
-  const char* green;
-  const char* lit;      // the news indicator with news
-  const char* service;  // parts of the money bar, beside the accent
-  const char* method;
-  const char* left;
+struct Tone {
+  QRgb light, dark;
 };
 
-constexpr Tones kLight{.window = "#f3f5f7",
-                       .base = "#ffffff",
-                       .alternate = "#f6f8f9",
-                       .face = "#ffffff",
-                       .hover = "#e9edf0",
-                       .line = "#d5dbe1",
-                       .edge = "#7f8b97",
-                       .text = "#1b252e",
-                       .muted = "#4e5964",
-                       .accent = "#0b6e69",
-                       .accentHover = "#095a56",
-                       .onAccent = "#ffffff",
-                       .tint = "#d9eeec",
-                       .onTint = "#083f3c",
-                       .given = "#e6eaee",
-                       .computed = "#e8f1f1",
-                       .sand = "#f3efd8",
-                       .red = "#b3201b",
-                       .green = "#1f8f45",
-                       .lit = "#c47400",
-                       .service = "#b86a00",
-                       .method = "#7b4fa0",
-                       .left = "#b9c4ce"};
+// Every text colour reaches a contrast of 4.5 to 1 on each of the grounds it is drawn on.
+namespace tone {
+constexpr Tone kWindow{0xf3f5f7, 0x1d2227};  // ground of the windows
+constexpr Tone kBase{0xffffff, 0x15191d};    // ground of boxes, lists and cards
+constexpr Tone kFace{0xffffff, 0x2b3239};    // buttons
+constexpr Tone kHover{0xe9edf0, 0x363f48};   // button under the mouse
+constexpr Tone kLine{0xd5dbe1, 0x343c45};    // borders that only divide
+constexpr Tone kEdge{0x7f8b97, 0x6b7784};    // borders that can be pressed or typed in
+constexpr Tone kText{0x1b252e, 0xe6eaee};
+constexpr Tone kMuted{0x4e5964, 0xa3adb8};  // less important text, disabled text
+constexpr Tone kAccent{0x0b6e69, 0x58c4ba};
+constexpr Tone kAccentHover{0x095a56, 0x7ad4cb};
+constexpr Tone kOnAccent{0xffffff, 0x0b1f1d};  // text on the accent
+constexpr Tone kTint{0xd9eeec, 0x163a38};      // the guidance line's ground
+constexpr Tone kOnTint{0x083f3c, 0xd2f1ee};
+constexpr Tone kGiven{0xe6eaee, 0x2e353c};     // ground of boxes that no longer take an entry
+constexpr Tone kComputed{0xe8f1f1, 0x1c3030};  // ground of the Balance
+constexpr Tone kSand{0xf3efd8, 0x2f2d1e};      // ground of the fee modes
+constexpr Tone kRed{0xb3201b, 0xff8f88};
+constexpr Tone kGreen{0x1f8f45, 0x4fc27a};
+constexpr Tone kLit{0xc47400, 0xffb84d};      // the news indicator with news
+constexpr Tone kService{0xb86a00, 0xf0ad4e};  // parts of the money bar, beside the accent
+constexpr Tone kMethod{0x7b4fa0, 0xc39be0};
+constexpr Tone kLeft{0xb9c4ce, 0x55616d};
+}  // namespace tone
 
-constexpr Tones kDark{.window = "#1d2227",
-                      .base = "#15191d",
-                      .alternate = "#1a1f24",
-                      .face = "#2b3239",
-                      .hover = "#363f48",
-                      .line = "#343c45",
-                      .edge = "#6b7784",
-                      .text = "#e6eaee",
-                      .muted = "#a3adb8",
-                      .accent = "#58c4ba",
-                      .accentHover = "#7ad4cb",
-                      .onAccent = "#0b1f1d",
-                      .tint = "#163a38",
-                      .onTint = "#d2f1ee",
-                      .given = "#2e353c",
-                      .computed = "#1c3030",
-                      .sand = "#2f2d1e",
-                      .red = "#ff8f88",
-                      .green = "#4fc27a",
-                      .lit = "#ffb84d",
-                      .service = "#f0ad4e",
-                      .method = "#c39be0",
-                      .left = "#55616d"};
-
-const Tones& TonesOf(Scheme scheme) {
-  return scheme == Scheme::Light ? kLight : kDark;
+QColor ColorOf(const Tone& tone, Scheme scheme) {
+  return scheme == Scheme::Light ? tone.light : tone.dark;
 }
 
-QPalette PaletteOf(const Tones& tones) {
-  const auto color = [](const char* tone) { return QColor(QLatin1String(tone)); };
+QPalette PaletteOf(Scheme scheme) {
   QPalette palette;
-  for (const auto& [role, tone] : {std::pair{QPalette::Window, tones.window},
-                                   {QPalette::WindowText, tones.text},
-                                   {QPalette::Base, tones.base},
-                                   {QPalette::AlternateBase, tones.alternate},
-                                   {QPalette::Text, tones.text},
-                                   {QPalette::PlaceholderText, tones.muted},
-                                   {QPalette::Button, tones.face},
-                                   {QPalette::ButtonText, tones.text},
-                                   {QPalette::BrightText, tones.red},
-                                   {QPalette::ToolTipBase, tones.base},
-                                   {QPalette::ToolTipText, tones.text},
-                                   {QPalette::Highlight, tones.accent},
-                                   {QPalette::HighlightedText, tones.onAccent},
-                                   {QPalette::Link, tones.accent},
-                                   {QPalette::LinkVisited, tones.accent},
-                                   {QPalette::Light, tones.base},
-                                   {QPalette::Midlight, tones.line},
-                                   {QPalette::Mid, tones.line},
-                                   {QPalette::Dark, tones.edge},
-                                   {QPalette::Shadow, tones.edge}}) {
-    palette.setColor(role, color(tone));
+  for (const auto& [role, tone] : {std::pair{QPalette::Window, tone::kWindow},
+                                   {QPalette::WindowText, tone::kText},
+                                   {QPalette::Base, tone::kBase},
+                                   {QPalette::Text, tone::kText},
+                                   {QPalette::PlaceholderText, tone::kMuted},
+                                   {QPalette::Button, tone::kFace},
+                                   {QPalette::ButtonText, tone::kText},
+                                   {QPalette::BrightText, tone::kRed},
+                                   {QPalette::ToolTipBase, tone::kBase},
+                                   {QPalette::ToolTipText, tone::kText},
+                                   {QPalette::Highlight, tone::kAccent},
+                                   {QPalette::HighlightedText, tone::kOnAccent},
+                                   {QPalette::Link, tone::kAccent},
+                                   {QPalette::LinkVisited, tone::kAccent},
+                                   {QPalette::Light, tone::kBase},
+                                   {QPalette::Midlight, tone::kLine},
+                                   {QPalette::Mid, tone::kLine},
+                                   {QPalette::Dark, tone::kEdge},
+                                   {QPalette::Shadow, tone::kEdge}}) {
+    palette.setColor(role, ColorOf(tone, scheme));
   }
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(QPalette::Disabled, role, color(tones.muted));
+    palette.setColor(QPalette::Disabled, role, ColorOf(tone::kMuted, scheme));
   }
-  palette.setColor(QPalette::Disabled, QPalette::Base, color(tones.window));
-  palette.setColor(QPalette::Disabled, QPalette::Highlight, color(tones.line));
-  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, color(tones.text));
+  palette.setColor(QPalette::Disabled, QPalette::Base, ColorOf(tone::kWindow, scheme));
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, ColorOf(tone::kLine, scheme));
+  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, ColorOf(tone::kText, scheme));
   return palette;
 }
 
-QString SheetOf(const Tones& tones, QFont font) {
+QString SheetOf(Scheme scheme, QFont font) {
   QFile file(QStringLiteral(":/theme.qss"));
   if (!file.open(QIODevice::ReadOnly)) return {};
   QString sheet = QString::fromLatin1(file.readAll());
   const auto set = [&sheet](const char* name, const QString& value) {
     sheet.replace(QLatin1Char('@') + QLatin1String(name), value);
   };
-  // A longer name comes before the one that it begins with.
-  for (const auto& [name, tone] : {std::pair{"accentHover", tones.accentHover},
-                                   {"accent", tones.accent},
-                                   {"onAccent", tones.onAccent},
-                                   {"onTint", tones.onTint},
-                                   {"tint", tones.tint},
-                                   {"window", tones.window},
-                                   {"base", tones.base},
-                                   {"face", tones.face},
-                                   {"hover", tones.hover},
-                                   {"line", tones.line},
-                                   {"edge", tones.edge},
-                                   {"text", tones.text},
-                                   {"muted", tones.muted},
-                                   {"given", tones.given}}) {
-    set(name, QLatin1String(tone));
+  // "accentHover" before "accent", with which it begins.
+  for (const auto& [name, tone] : {std::pair{"accentHover", tone::kAccentHover},
+                                   {"accent", tone::kAccent},
+                                   {"onAccent", tone::kOnAccent},
+                                   {"onTint", tone::kOnTint},
+                                   {"tint", tone::kTint},
+                                   {"window", tone::kWindow},
+                                   {"base", tone::kBase},
+                                   {"face", tone::kFace},
+                                   {"hover", tone::kHover},
+                                   {"line", tone::kLine},
+                                   {"edge", tone::kEdge},
+                                   {"text", tone::kText},
+                                   {"muted", tone::kMuted},
+                                   {"given", tone::kGiven}}) {
+    set(name, ColorOf(tone, scheme).name());
   }
   const double points = QFontInfo(font).pointSizeF();
   set("small", QString::number(points * 0.9));
@@ -164,7 +116,7 @@ QString SheetOf(const Tones& tones, QFont font) {
   const QFontMetrics plain(font);
   set("title", QString::number(plain.height() + 9));
   set("track", QString::number(plain.height() + 8));
-  // A style sheet's least width takes the place of the text's, so it must hold the text.
+  // A minimum width in a style sheet replaces the one of the text, so the text must fit into it.
   font.setBold(true);
   const auto width = [&font](const char* text) {
     return QString::number(QFontMetrics(font).horizontalAdvance(QLatin1String(text)));
@@ -177,41 +129,18 @@ QString SheetOf(const Tones& tones, QFont font) {
   return sheet;
 }
 
-// The tone of a colour that the program names, or null.
-const char* ToneOf(Color role, const Tones& tones) {
-  switch (role) {
-    case colors::kBlack:
-    case colors::kWindowText:
-    case colors::kButtonText:
-    case colors::kDarkShadow3D:
-      return tones.text;
-    case colors::kRed:
-      return tones.red;
-    case colors::kGreen:
-      return tones.green;
-    case colors::kLightGrey:
-      return tones.given;
-    case colors::kSand:
-    case colors::kLightSand:  // a shade apart, told by nobody's eye
-      return tones.sand;
-    case colors::kWindowBackground:
-      return tones.base;
-    case colors::kButtonFace:
-      return tones.window;
-    case colors::kInactiveTitleText:  // only ever the ground of the Balance
-      return tones.computed;
-    case colors::kLight3D:  // only ever the news indicator with news
-      return tones.lit;
-    case colors::kActiveTitleBar:
-      return tones.accent;
-    case colors::kInactiveTitleBar:
-      return tones.edge;
-    case colors::kButtonShadow:
-    case colors::kInactiveBorder:  // also a text that is to stand back
-      return tones.muted;
-    default:
-      return nullptr;
-  }
+Tone ToneOf(Color role) {
+  static const std::map<Color, Tone> tones = {
+      {colors::kBlack, tone::kText},        {colors::kWindowText, tone::kText},
+      {colors::kButtonText, tone::kText},   {colors::kNewsText, tone::kText},
+      {colors::kRed, tone::kRed},           {colors::kGreen, tone::kGreen},
+      {colors::kLightGrey, tone::kGiven},   {colors::kSand, tone::kSand},
+      {colors::kLightSand, tone::kSand},    {colors::kWindowBackground, tone::kBase},
+      {colors::kButtonFace, tone::kWindow}, {colors::kBalanceGround, tone::kComputed},
+      {colors::kNewsLit, tone::kLit},       {colors::kAccent, tone::kAccent},
+      {colors::kSplashBorder, tone::kEdge}};
+  const auto found = tones.find(role);
+  return found == tones.end() ? tone::kMuted : found->second;  // kMuted, kOff
 }
 
 }  // namespace
@@ -226,46 +155,32 @@ Scheme DesktopScheme() {
 
 void ApplyTheme(QApplication& app, Scheme scheme) {
   InitResources();
-  const Tones& tones = TonesOf(scheme);
   QApplication::setStyle(new ThemeStyle);  // the application owns it
-  QApplication::setPalette(PaletteOf(tones));
-  app.setStyleSheet(SheetOf(tones, QApplication::font()));
+  QApplication::setPalette(PaletteOf(scheme));
+  app.setStyleSheet(SheetOf(scheme, QApplication::font()));
 }
 
 ListColors ListColorsOf(Scheme scheme) {
-  const Tones& tones = TonesOf(scheme);
-  const auto color = [](const char* tone) { return QColor(QLatin1String(tone)); };
-  return {color(tones.given), color(tones.accent), color(tones.tint), color(tones.accent)};
+  return {ColorOf(tone::kGiven, scheme), ColorOf(tone::kAccent, scheme),
+          ColorOf(tone::kTint, scheme), ColorOf(tone::kAccent, scheme)};
 }
 
 QColor UseColor(MoneyBar::Part::Use use, Scheme scheme) {
-  const Tones& tones = TonesOf(scheme);
   switch (use) {
     case MoneyBar::Part::Use::Given:
-      return {QLatin1String(tones.accent)};
+      return ColorOf(tone::kAccent, scheme);
     case MoneyBar::Part::Use::ServiceFees:
-      return {QLatin1String(tones.service)};
+      return ColorOf(tone::kService, scheme);
     case MoneyBar::Part::Use::MethodFee:
-      return {QLatin1String(tones.method)};
+      return ColorOf(tone::kMethod, scheme);
     case MoneyBar::Part::Use::Left:
-      return {QLatin1String(tones.left)};
+      return ColorOf(tone::kLeft, scheme);
   }
   return {};
 }
 
 QColor RoleColor(Color role, Scheme scheme) {
-  if (const char* tone = ToneOf(role, TonesOf(scheme))) return QColor(QLatin1String(tone));
-  // A system colour that nobody uses yet stands back.
-  if (role & 0x80000000u) return QColor(QLatin1String(TonesOf(scheme).muted));
-  const QColor color(static_cast<int>(role & 0xFFu), static_cast<int>(role >> 8 & 0xFFu),
-                     static_cast<int>(role >> 16 & 0xFFu));
-  if (scheme == Scheme::Light) return color;
-  // The same hue with the lightness turned over: light grounds become dark, dark texts light.
-  float hue = 0, saturation = 0, lightness = 0;
-  color.getHslF(&hue, &saturation, &lightness);
-  const bool ground = lightness > 0.5f;
-  const float turned = ground ? 0.1f + 0.3f * (1 - lightness) : 0.95f - 0.4f * lightness;
-  return QColor::fromHslF(std::max(hue, 0.0f), saturation, turned);
+  return ColorOf(ToneOf(role), scheme);
 }
 
 }  // namespace benevix

@@ -17,10 +17,10 @@ enum class Scheme { Light, Dark };
 // Style, palette and style sheet of all windows. Font sizes follow the application's font.
 void ApplyTheme(QApplication& app, Scheme scheme);
 
-// The grounds and texts of the organizations' rows.
+// The colours of the list's rows.
 struct ListColors {
   QColor heading, headingText;
-  QColor given, edge;
+  QColor given, edge;  // ground of a row with a donation, and the bar at its edge
 };
 [[nodiscard]] ListColors ListColorsOf(Scheme scheme);
 

@@ -4,8 +4,8 @@
 
 namespace benevix {
 
-// Fusion with boxes and marks that stand out on dark grounds too. They are drawn from the widget's
-// own palette, which a style sheet would not look at.
+// The toolkit's Fusion style with boxes and marks that stand out on dark grounds too. They are
+// drawn with the colours of the widget's own palette, which a style sheet would ignore.
 class ThemeStyle : public QProxyStyle {
  public:
   ThemeStyle();

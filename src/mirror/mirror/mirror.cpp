@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
+#include <set>
 
 #include "mirror/look/accessibility.h"
 
@@ -10,29 +11,25 @@ namespace benevix {
 namespace {
 
 bool IsInput(QEvent::Type type) {
-  switch (type) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::Shortcut:
-    case QEvent::ShortcutOverride:
-    case QEvent::InputMethod:
-    case QEvent::Wheel:
-    case QEvent::ContextMenu:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::TabletPress:
-    case QEvent::TabletRelease:
-    case QEvent::DragEnter:
-    case QEvent::Drop:
-    case QEvent::Close:
-      return true;
-    default:
-      return false;
-  }
+  static const std::set<QEvent::Type> input = {QEvent::MouseButtonPress,
+                                               QEvent::MouseButtonRelease,
+                                               QEvent::MouseButtonDblClick,
+                                               QEvent::KeyPress,
+                                               QEvent::KeyRelease,
+                                               QEvent::Shortcut,
+                                               QEvent::ShortcutOverride,
+                                               QEvent::InputMethod,
+                                               QEvent::Wheel,
+                                               QEvent::ContextMenu,
+                                               QEvent::TouchBegin,
+                                               QEvent::TouchUpdate,
+                                               QEvent::TouchEnd,
+                                               QEvent::TabletPress,
+                                               QEvent::TabletRelease,
+                                               QEvent::DragEnter,
+                                               QEvent::Drop,
+                                               QEvent::Close};
+  return input.count(type) != 0;
 }
 
 }  // namespace
@@ -41,8 +38,9 @@ void Mirror::Attach(Desk& desk, Input& input, const WindowLayout* layout) {
   Detach();
   InstallAccessibility();
   desk_ = &desk;
-  context_ = std::make_unique<BindingContext>(
-      BindingContext{input, scheme_, false, timers_ == Timers::Run, layout});
+  layout_ = layout;
+  context_ =
+      std::make_unique<BindingContext>(BindingContext{input, scheme_, timers_ == Timers::Run});
   input.afterEvent = [this] { Sync(); };
 }
 
@@ -79,7 +77,7 @@ void Mirror::BringIntoLine() {
       binding = nullptr;
     }
     if (binding == nullptr && entry.shown) {
-      binding = std::make_unique<WindowBinding>(*desk_, entry, *context_).release();
+      binding = std::make_unique<WindowBinding>(*desk_, entry, *context_, layout_).release();
       bindings_[entry.window] = binding;
     }
     if (binding != nullptr) binding->Apply(TransientParent(*entry.window));
@@ -94,7 +92,7 @@ void Mirror::ApplyFocus() {
 }
 
 QWidget* Mirror::TransientParent(const Window& window) const {
-  // Over the front one of the windows below it.
+  // The nearest one below it that is on the screen.
   QWidget* parent = nullptr;
   for (const Window* shown : desk_->Shown()) {
     if (shown == &window) break;
@@ -123,6 +121,7 @@ void Mirror::DoEvents() {
 bool Mirror::eventFilter(QObject* watched, QEvent* event) {
   if (!IsInput(event->type()) || !watched->isWidgetType()) return false;
   const QWidget* const window = static_cast<QWidget*>(watched)->window();
+  // The program waits for the answer of this one.
   if (qobject_cast<const QMessageBox*>(window) != nullptr) return false;
   event->ignore();
   return true;

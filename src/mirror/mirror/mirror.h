@@ -12,9 +12,9 @@
 
 namespace benevix {
 
-// Keeps the windows on the screen in line with the desk. Nothing is decided here: the user's events
-// go to the structs' handlers, and afterwards the widgets are made what the structs are. While the
-// program waits, what the user does is thrown away.
+// The mirror: shows the structs of the windows as real widgets. Nothing is decided here: the user's
+// events go to the structs' handlers, and afterwards the widgets are brought into line with the
+// structs. While the program waits, the user's input is thrown away.
 class Mirror : public QObject, public Waits {
  public:
   enum class Timers { Run, Hold };
@@ -22,8 +22,8 @@ class Mirror : public QObject, public Waits {
   Mirror(Scheme scheme, Timers timers) : scheme_(scheme), timers_(timers) {}
   ~Mirror() override { Detach(); }
 
-  // One program at a time stands on the screen. With a layout the main window is as the user left
-  // it.
+  // Shows the windows of this desk, and of no other any more. With a layout the main window is
+  // arranged as the user left it.
   void Attach(Desk& desk, Input& input, const WindowLayout* layout = nullptr);
   void Detach();
 
@@ -34,7 +34,7 @@ class Mirror : public QObject, public Waits {
   void End() override;
   void DoEvents() override;
 
-  // What stands on the screen for a window, or null.
+  // Null for a window that is not drawn now.
   [[nodiscard]] WindowBinding* BindingOf(const Window& window) const;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -48,8 +48,11 @@ class Mirror : public QObject, public Waits {
   Scheme scheme_;
   Timers timers_;
   Desk* desk_ = nullptr;
+  const WindowLayout* layout_ = nullptr;
   std::unique_ptr<BindingContext> context_;
-  std::map<const Window*, WindowBinding*> bindings_;  // deleted later, when no event is in them
+  // By the windows' addresses: the structs live as long as the desk. A binding is deleted later,
+  // when none of its event handlers runs any more.
+  std::map<const Window*, WindowBinding*> bindings_;
   int waits_ = 0;
 };
 

@@ -17,7 +17,7 @@ class QtMessageBoxes : public MessageBoxes {
   BoxAnswer Show(const std::string& title, const std::string& text, BoxIcon icon,
                  BoxButtons buttons) override;
 
-  // Called once the box stands.
+  // Called once the box is on the screen.
   std::function<void(QMessageBox&)> onShown;
 
  private:

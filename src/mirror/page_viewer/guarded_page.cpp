@@ -38,7 +38,8 @@ void Confine(QWebEngineSettings& settings) {
   };
   for (const auto attribute : off) settings.setAttribute(attribute, false);
   settings.setAttribute(Settings::WebRTCPublicInterfacesOnly, true);
-  // Asked for by the user, they come to acceptNavigationRequest, which lets none pass.
+  // So that a click on such a link comes to acceptNavigationRequest, which hands on mail links
+  // alone.
   settings.setUnknownUrlSchemePolicy(Settings::AllowUnknownUrlSchemesFromUserInteraction);
   settings.setDefaultTextEncoding("windows-1252");
 }
@@ -54,7 +55,7 @@ GuardedPage::GuardedPage(QWebEngineProfile* profile, QObject* parent)
   Confine(*settings());
   connect(profile, &QWebEngineProfile::downloadRequested, this,
           [](QWebEngineDownloadRequest* download) { download->cancel(); });
-  // What wants a window of its own gets this one, if the user asked for it.
+  // A link to a new window opens in this one, if the user has clicked on it.
   connect(this, &QWebEnginePage::newWindowRequested, this, [this](auto& request) {
     const QUrl to = request.requestedUrl();
     if (!request.isUserInitiated()) return;
@@ -71,7 +72,7 @@ GuardedPage::GuardedPage(QWebEngineProfile* profile, QObject* parent)
           [](auto request) { request.reject(); });
   connect(this, &QWebEnginePage::certificateError, this,
           [](QWebEngineCertificateError error) { error.rejectCertificate(); });
-  // The menu of the page offers nothing that is refused.
+  // The page's menu does not offer what would be refused.
   for (const WebAction refused :
        {OpenLinkInNewWindow, OpenLinkInNewTab, OpenLinkInNewBackgroundTab, DownloadLinkToDisk,
         DownloadImageToDisk, DownloadMediaToDisk, SavePage, ViewSource}) {
@@ -88,7 +89,7 @@ bool GuardedPage::acceptNavigationRequest(const QUrl& to, NavigationType type, b
   return file.isLocalFile() && MayShowFile(file, type);
 }
 
-// The program's own asking comes as typed; its pages may lead on to their neighbours.
+// The program's own requests count as typed; a local page may link to files in its own folder.
 bool GuardedPage::MayShowFile(const QUrl& file, NavigationType type) const {
   if (type == NavigationTypeTyped || type == NavigationTypeReload ||
       type == NavigationTypeBackForward) {

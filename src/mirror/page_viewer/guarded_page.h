@@ -4,8 +4,8 @@
 
 namespace benevix {
 
-// A page that may run scripts, but gets at nothing beyond itself: no files, no other windows, no
-// downloads, no devices, no site with a false certificate.
+// A page that may run scripts, but reaches nothing beyond itself: no files, no other windows, no
+// downloads, no devices, no site with an untrusted certificate.
 class GuardedPage : public QWebEnginePage {
  public:
   // `profile` serves this page alone.

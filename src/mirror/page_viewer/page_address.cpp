@@ -23,7 +23,7 @@ QUrl PageAddress(const std::string& address) {
 
   std::string path = address;
   std::string anchor;
-  // A # can be part of a folder's name, too.
+  // A # can also be part of a folder's name.
   const std::size_t mark = address.rfind('#');
   if (mark != std::string::npos && mark > address.find_last_of("/\\")) {
     path = address.substr(0, mark);
@@ -44,7 +44,7 @@ QUrl PageAddress(const std::string& address) {
 
 QString OriginText(const QUrl& address) {
   if (address.isLocalFile()) return address.fileName();
-  // Letters of other scripts stay encoded: some look like those of a well-known host.
+  // Letters of other scripts stay encoded: some look like the letters of a well-known host.
   QString origin = address.host(QUrl::FullyEncoded);
   if (address.port() >= 0) origin += ':' + QString::number(address.port());
   constexpr qsizetype longest = 60;

@@ -12,8 +12,8 @@ namespace benevix {
 // cannot be read.
 QUrl PageAddress(const std::string& address);
 
-// What tells the user where a page comes from: the host and its port, or the file's name. Of a long
-// one the end, which is what says whose it is.
+// Shows the user where a page comes from: the host and its port, or the file's name. Of a long host
+// only the end, which names its owner.
 QString OriginText(const QUrl& address);
 
 }  // namespace benevix

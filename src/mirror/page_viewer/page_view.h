@@ -9,13 +9,13 @@ class QWidget;
 
 namespace benevix {
 
-// What a page view tells, always from the event loop and never after its end.
+// What a page view reports, always from the event loop and never after its end.
 struct PageViewEvents {
   std::function<void(const QUrl&)> shown;  // the address that is shown from now on
-  std::function<void()> stopped;           // the page broke down; the view is of no more use
+  std::function<void()> stopped;           // the page has crashed; the view is of no more use
 };
 
-// One embedded page. All that it keeps (cookies, where it has been) goes when the view goes.
+// One embedded page. All that it keeps (cookies, history) is gone with the view.
 class PageView {
  public:
   virtual ~PageView() = default;
@@ -26,7 +26,7 @@ class PageView {
 class PageViewFactory {
  public:
   virtual ~PageViewFactory() = default;
-  // Shows a page (http, https or file). The first one brings the engine up.
+  // Shows a page (http, https or file). The first one starts the engine.
   virtual std::unique_ptr<PageView> Show(const QUrl& address, QWidget* parent,
                                          PageViewEvents events) = 0;
 };

@@ -25,7 +25,8 @@ PageViewFactory* LoadFactory() {
   return nullptr;
 }
 
-// The engine ends the whole program when it is to run unconfined and was not told so.
+// For the administrator the engine cannot use its sandbox, and then ends the whole program unless
+// this variable allows it to do without.
 bool EngineMayRun() {
   return !RunsAsAdministrator() || qEnvironmentVariableIsSet("QTWEBENGINE_DISABLE_SANDBOX");
 }
@@ -42,8 +43,8 @@ PageViewHost::~PageViewHost() {
   Clear();
 }
 
-// Each page has a view of its own, so that it starts at its top or its anchor and without what the
-// page before it has left.
+// Each page has a view of its own, so that it starts at its top or its anchor, and without anything
+// of the page before.
 void PageViewHost::Navigate(const std::string& address) {
   Clear();
   if (address.empty()) return;
@@ -124,7 +125,7 @@ void PageViewHost::Put(QWidget* widget) {
   container_->layout()->addWidget(widget);
   container_->setFocusProxy(widget);
   widget->show();
-  // The keys that scroll work at once, unless the user is busy elsewhere in the window.
+  // So that the keys that scroll work at once, unless the user works elsewhere in the window.
   if (container_->window()->focusWidget() == nullptr) widget->setFocus();
 }
 

@@ -16,17 +16,17 @@ namespace benevix {
 // missing or may not run, a notice offers the user's browser.
 class PageViewHost {
  public:
-  // `hostLine` tells whose page is shown.
+  // `hostLine` shows where the page comes from.
   PageViewHost(QWidget* container, QLabel* hostLine);
   ~PageViewHost();
   PageViewHost(const PageViewHost&) = delete;
   PageViewHost& operator=(const PageViewHost&) = delete;
 
-  // Shows a page: see PageAddress. An address that cannot be shown ends in a notice, an empty one
-  // just ends the page before it.
+  // Shows a page in place of the one before; the address is one for PageAddress. An address that
+  // cannot be shown gives a notice, an empty one an empty view.
   void Navigate(const std::string& address);
 
-  // Ends the page; nothing that it kept is left.
+  // Closes the page and forgets all that it kept.
   void Clear();
 
  private:
@@ -39,7 +39,7 @@ class PageViewHost {
   QPointer<QLabel> hostLine_;
   std::unique_ptr<PageView> view_;
   QPointer<QWidget> notice_;
-  QUrl address_;  // what is shown, as far as it has come
+  QUrl address_;  // of the page that is shown or being loaded
 };
 
 }  // namespace benevix

@@ -5,19 +5,19 @@
 
 namespace benevix {
 
-// Gives a local text file to the engine as what it is, plain text in the program's code page. Left
-// alone, the engine guesses both from the bytes, and a file that it takes for data is no page.
+// Gives a local text file to the engine as plain text in the program's code page. From a file's own
+// address the engine guesses both by the bytes, and does not show a file that it takes for data.
 class TextFileScheme : public QWebEngineUrlSchemeHandler {
  public:
   static constexpr const char* kName = "benevix-text";
 
-  // To be called once, before the engine comes up.
+  // To be called once, before the engine starts.
   static void Register();
 
   // The address under which the engine loads a page: an address of this scheme for any local file
   // that is no HTML page, otherwise the address itself.
   static QUrl PageAddress(const QUrl& address);
-  // The other way round.
+  // The reverse: the file's own address.
   static QUrl FileAddress(const QUrl& address);
 
   // Only `file` can be loaded.

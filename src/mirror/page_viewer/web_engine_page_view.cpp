@@ -14,12 +14,12 @@ namespace {
 void BringUpEngine() {
   TextFileScheme::Register();
   QtWebEngineQuick::initialize();
-  // Drawing without the graphics card spares the window, which is shown already, from being made
-  // anew around the view, and the program from faults of drivers.
+  // Without the graphics card: with it, the window, which is shown already, would be created anew
+  // around the view, and faults of drivers would be the program's.
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 
-  // Pages that have a dark dress are to wear it when the program does. The engine takes that as a
-  // flag only, which programs that are started later must not inherit.
+  // In the dark scheme, pages that have a dark look of their own show it. The engine takes this
+  // only as a flag in the environment, which programs that are started later must not inherit.
   const char* const variable = "QTWEBENGINE_CHROMIUM_FLAGS";
   const QByteArray flags = qgetenv(variable);
   if (QGuiApplication::palette().window().color().lightness() < 128) {
@@ -43,7 +43,7 @@ WebEnginePageView::WebEnginePageView(const QUrl& address, QWidget* parent,
   view_->setPage(page);
   connect(page, &QWebEnginePage::urlChanged, this,
           [shown = events.shown](const QUrl& url) { shown(TextFileScheme::FileAddress(url)); });
-  // Queued, because the view is thrown away in answer.
+  // Queued, because the receiver destroys the view.
   connect(page, &QWebEnginePage::renderProcessTerminated, this, events.stopped,
           Qt::QueuedConnection);
   page->setUrl(TextFileScheme::PageAddress(address));

@@ -17,7 +17,7 @@ namespace benevix {
 namespace {
 
 constexpr std::size_t kChunk = std::size_t{1} << 20;
-constexpr mode_t kNewFile = 0666;  // less what the user's mask takes away
+constexpr mode_t kNewFile = 0666;  // before the umask
 
 [[noreturn]] void Fail(const std::string& path, int reason = errno) {
   throw RuntimeError(FromUtf8(path + ": " + std::generic_category().message(reason)));
@@ -41,34 +41,34 @@ class OpenFile {
     return status;
   }
 
-  // Reads on to `size` bytes or the file's end; gives their number.
-  std::size_t Read(char* place, std::size_t size) const {
+  // Reads up to `size` bytes, fewer only at the end of the file; returns their number.
+  std::size_t Read(char* buffer, std::size_t size) const {
     std::size_t count = 0;
     while (count < size) {
-      const ssize_t got = read(descriptor_, place + count, size - count);
-      if (got == 0) break;
-      if (got < 0 && errno == EINTR) continue;
-      if (got < 0) Fail(path_);
-      count += static_cast<std::size_t>(got);
+      const ssize_t result = read(descriptor_, buffer + count, size - count);
+      if (result == 0) break;
+      if (result < 0 && errno == EINTR) continue;
+      if (result < 0) Fail(path_);
+      count += static_cast<std::size_t>(result);
     }
     return count;
   }
-  [[nodiscard]] std::string Read(std::size_t most) const {
-    std::string bytes(most, '\0');
-    bytes.resize(Read(bytes.data(), most));
+  [[nodiscard]] std::string Read(std::size_t size) const {
+    std::string bytes(size, '\0');
+    bytes.resize(Read(bytes.data(), size));
     return bytes;
   }
 
   void Write(std::string_view bytes) const {
     while (!bytes.empty()) {
-      const ssize_t put = write(descriptor_, bytes.data(), bytes.size());
-      if (put < 0 && errno == EINTR) continue;
-      if (put < 0) Fail(path_);
-      bytes.remove_prefix(static_cast<std::size_t>(put));
+      const ssize_t result = write(descriptor_, bytes.data(), bytes.size());
+      if (result < 0 && errno == EINTR) continue;
+      if (result < 0) Fail(path_);
+      bytes.remove_prefix(static_cast<std::size_t>(result));
     }
   }
 
-  // What cannot be flushed (EINVAL: a device, the folders of some file systems) counts as flushed.
+  // EINVAL is not a failure: devices and the folders of some file systems cannot be flushed.
   void Flush() const { Check(fsync(descriptor_) != 0 && errno != EINVAL ? -1 : 0); }
 
   void Check(int result) const {
@@ -85,23 +85,23 @@ class LinuxFileReader : public FileReader {
   explicit LinuxFileReader(const std::string& path)
       : file_(path, O_RDONLY), size_(static_cast<std::size_t>(file_.Status().st_size)) {}
   [[nodiscard]] std::size_t Size() const override { return size_; }
-  std::size_t Read(char* place, std::size_t size) override { return file_.Read(place, size); }
+  std::size_t Read(char* buffer, std::size_t size) override { return file_.Read(buffer, size); }
 
  private:
   OpenFile file_;
   std::size_t size_;
 };
 
-// Makes a file's new name in its folder last.
-void SyncFolderOf(const std::string& path) {
+// A crash can lose the name of a new or renamed file unless its folder is flushed, too.
+void FlushFolderOf(const std::string& path) {
   const std::string folder = std::filesystem::path(path).parent_path().string();
   OpenFile(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY).Flush();
 }
 
-std::string WithLinksFollowed(const std::string& path) {
-  std::error_code notThere;
-  const auto followed = std::filesystem::canonical(path, notThere);
-  return notThere ? path : followed.string();
+std::string ResolveLinks(const std::string& path) {
+  std::error_code missing;
+  const auto resolved = std::filesystem::canonical(path, missing);
+  return missing ? path : resolved.string();
 }
 
 }  // namespace
@@ -117,7 +117,7 @@ std::unique_ptr<FileReader> LinuxFiles::Open(const std::string& path) const {
 std::string LinuxFiles::ReadAll(const std::string& path) const {
   const OpenFile file(path, O_RDONLY);
   const auto size = static_cast<std::size_t>(file.Status().st_size);
-  std::string bytes = file.Read(size + 1);  // one more than its size shows the end in one go
+  std::string bytes = file.Read(size + 1);  // the extra byte detects the end in one read
   while (bytes.size() > size) {
     const std::string more = file.Read(kChunk);
     if (more.empty()) break;
@@ -127,20 +127,20 @@ std::string LinuxFiles::ReadAll(const std::string& path) const {
 }
 
 void LinuxFiles::Replace(const std::string& path, const std::string& bytes) {
-  const std::string target = WithLinksFollowed(path);
-  const std::string beside = target + "." + std::to_string(getpid()) + ".new";
-  const OpenFile file(beside, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW);
+  const std::string target = ResolveLinks(path);
+  const std::string temporary = target + "." + std::to_string(getpid()) + ".new";
+  const OpenFile file(temporary, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW);
   try {
     struct stat old {};
     if (stat(target.c_str(), &old) == 0) file.Check(fchmod(file.Descriptor(), old.st_mode & 07777));
     file.Write(bytes);
     file.Flush();
-    if (std::rename(beside.c_str(), target.c_str()) != 0) Fail(target);
+    if (std::rename(temporary.c_str(), target.c_str()) != 0) Fail(target);
   } catch (const RuntimeError&) {
-    unlink(beside.c_str());
+    unlink(temporary.c_str());
     throw;
   }
-  SyncFolderOf(target);
+  FlushFolderOf(target);
 }
 
 void LinuxFiles::Append(const std::string& path, const std::string& bytes) {
@@ -150,7 +150,7 @@ void LinuxFiles::Append(const std::string& path, const std::string& bytes) {
   }
   const off_t length = file.Status().st_size;
   try {
-    if (isNew) SyncFolderOf(path);
+    if (isNew) FlushFolderOf(path);
     file.Write(bytes);
     file.Check(fdatasync(file.Descriptor()));
   } catch (const RuntimeError&) {
@@ -169,13 +169,14 @@ void LinuxFiles::Remove(const std::string& path) {
 
 void LinuxFiles::Copy(const std::string& from, const std::string& to) {
   const OpenFile source(from, O_RDONLY);
-  std::error_code notThere;
-  if (std::filesystem::equivalent(from, to, notThere)) {
+  std::error_code missing;
+  if (std::filesystem::equivalent(from, to, missing)) {
     throw RuntimeError(FromUtf8(to) + ": is the file to be copied");
   }
-  std::string part = source.Read(kChunk);
+  // Before `to` is truncated: a source that cannot be read leaves it as it was.
+  std::string chunk = source.Read(kChunk);
   const OpenFile target(to, O_WRONLY | O_CREAT | O_TRUNC);
-  for (; !part.empty(); part = source.Read(kChunk)) target.Write(part);
+  for (; !chunk.empty(); chunk = source.Read(kChunk)) target.Write(chunk);
   target.Flush();
 }
 

@@ -16,18 +16,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The value of a line NAME="value": quoted, backslashes escape, only $HOME in front may be a
-// variable (https://www.freedesktop.org/wiki/Software/xdg-user-dirs/). Empty when there is none or
-// it is no absolute path.
+// The folder in the line NAME="path" of user-dirs.dirs: backslashes escape, only a leading $HOME is
+// expanded (https://www.freedesktop.org/wiki/Software/xdg-user-dirs/). Empty when it is missing or
+// not absolute.
 std::string UserFolder(std::string_view name) {
-  const std::string before = std::string(name) + "=\"";
+  const std::string prefix = std::string(name) + "=\"";
   constexpr std::string_view home = "$HOME";
   std::string path;
   std::ifstream file(ConfigFolder() + "/user-dirs.dirs");
   for (std::string line; std::getline(file, line);) {
     line.erase(0, line.find_first_not_of(" \t"));
-    if (!line.starts_with(before)) continue;
-    std::size_t i = before.size();
+    if (!line.starts_with(prefix)) continue;
+    std::size_t i = prefix.size();
     path.clear();
     if (std::string_view(line).substr(i).starts_with(home)) {
       path = HomeFolder();
@@ -42,16 +42,16 @@ std::string UserFolder(std::string_view name) {
   return path.starts_with('/') ? path : "";
 }
 
-// A file of the user's data folder; where the user has none of that name, the system's, which also
-// stands without a folder of its own around it.
+// A file of the user's data folder or, when it is missing, the same file of a system data folder.
+// There it may be one folder higher: packages have no folder benevix in "applications".
 fs::path DataFile(const fs::path& file) {
   std::error_code ignored;
   const fs::path name = file.lexically_relative(DataFolder());
   if (fs::exists(file, ignored) || name.empty() || *name.begin() == "..") return file;
   for (const fs::path folder : SystemDataFolders()) {
     if (fs::exists(folder / name, ignored)) return folder / name;
-    const fs::path single = folder / name.parent_path().parent_path() / name.filename();
-    if (fs::exists(single, ignored)) return single;
+    const fs::path oneHigher = folder / name.parent_path().parent_path() / name.filename();
+    if (fs::exists(oneHigher, ignored)) return oneHigher;
   }
   return file;
 }
@@ -70,7 +70,7 @@ void LinuxShell::CopyIntoFolder(const std::string& file, const std::string& fold
   const fs::path from = DataFile(file);
   const fs::path to = folder / from.filename();
   fs::copy_file(from, to, fs::copy_options::overwrite_existing, ignored);
-  // A desktop starts an entry on its own surface only when it may be executed.
+  // Desktops start an entry in the desktop folder only when it is executable.
   fs::permissions(to, fs::perms::owner_exec, fs::perm_options::add, ignored);
 }
 

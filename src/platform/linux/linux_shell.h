@@ -4,15 +4,15 @@
 
 namespace benevix {
 
-// Desktop shell by the freedesktop.org conventions: start menu entries in the user's
-// "applications" folder, the desktop folder as the user-dirs file names it. An entry that the user
-// lacks is taken from the system's "applications" folders.
+// Desktop shell by the freedesktop.org conventions: start menu entries are in the user's
+// "applications" folder, user-dirs.dirs names the desktop folder. An entry that the user lacks is
+// copied from the system's "applications" folders.
 class LinuxShell : public Shell {
  public:
   [[nodiscard]] std::string SpecialFolder(int folderId) const override;
   [[nodiscard]] std::string ShortcutExtension() const override { return ".desktop"; }
   void CopyIntoFolder(const std::string& file, const std::string& folder) override;
-  // Makes the file executable first; the program started outlives this one.
+  // Makes the file executable first. The started program outlives this one.
   void StartProgram(const std::string& file) override;
 };
 

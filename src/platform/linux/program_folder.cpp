@@ -26,8 +26,8 @@ std::string ExecutablePath() {
 
 std::string InstalledFolder(const std::string& executable) {
   const fs::path own = fs::path(executable).parent_path();
-  std::error_code notThere;
-  if (fs::exists(own / "Resources", notThere)) return own.string();
+  std::error_code ignored;
+  if (fs::exists(own / "Resources", ignored)) return own.string();
   return (own.parent_path() / "share/benevix").string();
 }
 

@@ -4,17 +4,16 @@
 
 namespace benevix {
 
-// The running program's file, absolute. Raises RuntimeError when the system does not tell.
+// The absolute path of the running executable. Raises RuntimeError when /proc is not available.
 std::string ExecutablePath();
 
-// The folder of the files that came with an executable: deployment.ini and the folder Resources.
-// When Resources stands beside the executable it is the executable's own folder; otherwise, as a
-// package lays them out, it is ../share/benevix. No slash at the end.
+// The folder with the installed deployment.ini and Resources: the executable's own folder when it
+// contains Resources, otherwise ../share/benevix, the layout of the package. No slash at the end.
 std::string InstalledFolder(const std::string& executable);
 
-// The program folder for an executable, which the user can write: the executable's own folder when
-// Resources stands there and both can be written, otherwise "benevix" in the user's data folder. No
-// slash at the end; makes nothing.
+// The folder of the files that the program reads and writes: the executable's own folder when it
+// contains Resources and both are writable, otherwise "benevix" in the user's data folder, which
+// this does not create. No slash at the end.
 std::string ProgramFolder(const std::string& executable);
 
 }  // namespace benevix

@@ -11,7 +11,7 @@ void RandomGenerator::Seed(float seed) {
   engine_.seed(sequence);
 }
 
-// The 53 bits that a double holds exactly: 1 cannot come out by rounding.
+// 53 bits, which a double holds exactly: the result is never rounded up to 1.
 double RandomGenerator::Next() {
   return static_cast<double>(engine_() >> 11) * 0x1p-53;
 }

@@ -6,8 +6,8 @@
 
 namespace benevix {
 
-// Never the same sequence twice: the system's entropy goes into every seed, so that two programs
-// seeded in the same instant draw different numbers.
+// Never repeats a sequence: each seed is mixed with the system's entropy, so that programs seeded
+// at the same time draw different numbers.
 class RandomGenerator : public RandomNumbers {
  public:
   RandomGenerator() { Seed(0); }

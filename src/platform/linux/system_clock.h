@@ -4,7 +4,7 @@
 
 namespace benevix {
 
-// The computer's clock in the local time zone.
+// The system's clock in the local time zone.
 class SystemClock : public Clock {
  public:
   [[nodiscard]] DateTime Now() const override;

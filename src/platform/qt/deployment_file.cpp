@@ -21,12 +21,12 @@ class Values {
     if (!file.open(QIODevice::ReadOnly)) Fail(name, file.errorString().toStdString());
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) Fail(name, file.errorString().toStdString());
-    if (bytes.startsWith("\xEF\xBB\xBF")) bytes.remove(0, 3);  // editors' mark of UTF-8
+    if (bytes.startsWith("\xEF\xBB\xBF")) bytes.remove(0, 3);  // byte order mark
     for (const QByteArray& line : bytes.split('\n')) {
       const QByteArray text = line.trimmed();
-      const qsizetype sign = text.indexOf('=');
-      if (sign < 0 || text.startsWith('#') || text.startsWith(';')) continue;
-      values_[text.left(sign).trimmed()] = text.mid(sign + 1).trimmed();
+      const qsizetype equals = text.indexOf('=');
+      if (equals < 0 || text.startsWith('#') || text.startsWith(';')) continue;
+      values_[text.left(equals).trimmed()] = text.mid(equals + 1).trimmed();
     }
   }
 
@@ -39,7 +39,7 @@ class Values {
     return text;
   }
 
-  [[nodiscard]] std::string FolderAddress(const char* key) const {
+  [[nodiscard]] std::string BaseAddress(const char* key) const {
     std::string text = Text(key);
     try {
       WireUrl(text);
@@ -59,7 +59,7 @@ class Values {
 Deployment ReadDeployment(const std::string& file) {
   const Values values(file);
   Deployment deployment;
-  deployment.serverBase = values.FolderAddress("ServerBase");
+  deployment.serverBase = values.BaseAddress("ServerBase");
   deployment.paymentBase = values.Text("PaymentBase");
   deployment.mail = values.Text("Mail");
   deployment.translationName = values.Text("TranslationName");

@@ -6,11 +6,11 @@
 
 namespace benevix {
 
-// Reads deployment.ini: lines "Key=Value" in UTF-8, a value being everything behind the first "="
-// without the blanks at its ends; lines that begin with # or ; are notes. The keys are named as
-// the members of Deployment, but begin with a capital. Raises RuntimeError that names the file and
-// the key when the file cannot be read, a key is missing or empty, a value has characters that the
-// code page lacks, or ServerBase is no http or https address that ends in "/".
+// Reads deployment.ini: UTF-8 lines "Key=Value", blanks around key and value ignored; lines that
+// begin with # or ; are comments. The keys are the members of Deployment with a capital first
+// letter. Raises RuntimeError with the file's name, and the key's, when the file cannot be read, a
+// key is missing or empty, a value has characters that the code page lacks, or ServerBase is not an
+// http or https address that ends in "/".
 Deployment ReadDeployment(const std::string& file);
 
 }  // namespace benevix

@@ -17,21 +17,21 @@
 namespace benevix {
 namespace {
 
-constexpr int kMostRedirects = 10;
-constexpr int kDefaultTimeout = 5;          // seconds
-constexpr int kLongestTimeout = 1'000'000;  // seconds; in milliseconds still an int
-// Much may come at once, however small the buffer asked for; the progress is told piece by piece.
-constexpr qint64 kPiece = qint64{1} << 20;
+constexpr int kMaxRedirects = 10;
+constexpr int kDefaultTimeout = 5;      // seconds
+constexpr int kMaxTimeout = 1'000'000;  // seconds; as milliseconds it still fits an int
+// Bytes to buffer and to read at a time. Qt may have more available; each chunk is reported.
+constexpr qint64 kChunk = qint64{1} << 20;
 
-struct Answer {
-  std::string bytes;
+struct Response {
+  std::string body;
   int status = 0;
   QUrl redirect;  // empty for none
 };
 
-// The body of a request without one. The toolkit sends a request again, up to three times, when the
-// connection closes before the answer; it cannot do so with a body that cannot be read twice, and
-// then reports ContentReSendError.
+// An empty request body that prevents retries. Qt sends a request up to three more times when the
+// connection closes before the response; it cannot rewind a sequential device, and reports
+// ContentReSendError instead.
 class EmptyBody : public QIODevice {
  public:
   EmptyBody() { open(QIODevice::ReadOnly); }
@@ -39,7 +39,7 @@ class EmptyBody : public QIODevice {
   bool reset() override { return false; }
 
  protected:
-  qint64 readData(char* /*data*/, qint64 /*most*/) override { return -1; }
+  qint64 readData(char* /*data*/, qint64 /*size*/) override { return -1; }
   qint64 writeData(const char* /*data*/, qint64 /*size*/) override { return -1; }
 };
 
@@ -63,7 +63,7 @@ QNetworkProxy Proxy(const std::string& proxy) {
 }
 
 int Timeout(int seconds) {
-  return (seconds < 1 ? kDefaultTimeout : std::min(seconds, kLongestTimeout)) * 1000;
+  return (seconds < 1 ? kDefaultTimeout : std::min(seconds, kMaxTimeout)) * 1000;
 }
 
 QNetworkRequest Request(const QUrl& url, int timeout) {
@@ -79,25 +79,25 @@ QNetworkRequest Request(const QUrl& url, int timeout) {
   request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
   request.setHeader(QNetworkRequest::ContentLengthHeader, 0);
   request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Benevix"));
-  // No compression: the limit then bounds what is kept, however small it comes.
+  // No compression, so that HttpOptions::limit also bounds what a small transfer expands to.
   request.setRawHeader("Accept-Encoding", "identity");
   request.setRawHeader("Connection", "close");
   return request;
 }
 
-// Whether an answer is whole that ended with its connection.
-bool MayEndSo(const QNetworkReply& reply, std::size_t received) {
+// Whether a response that ended when the connection closed is complete (RFC 9112, 6.3).
+bool IsCompleteOnClose(const QNetworkReply& reply, std::size_t received) {
   const QVariant length = reply.header(QNetworkRequest::ContentLengthHeader);
   return !reply.hasRawHeader("Transfer-Encoding") &&
          (!length.isValid() || length.toULongLong() == received);
 }
 
-// An answer with an error's status comes with an error too; what is left are the failures of the
-// connection, the proxy and the protocol.
-bool HasAnswered(const QNetworkReply& reply, std::size_t received) {
+// Qt reports an error for an error status, too, with codes from ProxyAuthenticationRequiredError
+// on; lower codes and ProtocolFailure are failures of the connection, the proxy and the protocol.
+bool IsComplete(const QNetworkReply& reply, std::size_t received) {
   if (!reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid()) return false;
   const auto error = reply.error();
-  if (error == QNetworkReply::ContentReSendError) return MayEndSo(reply, received);
+  if (error == QNetworkReply::ContentReSendError) return IsCompleteOnClose(reply, received);
   return error == QNetworkReply::NoError ||
          (error >= QNetworkReply::ProxyAuthenticationRequiredError &&
           error != QNetworkReply::ProtocolFailure);
@@ -114,30 +114,30 @@ std::string Reason(const QNetworkReply& reply, int timeout) {
   }
 }
 
-Answer Get(const QUrl& url, const QNetworkProxy& proxy, const HttpOptions& options) {
+Response Get(const QUrl& url, const QNetworkProxy& proxy, const HttpOptions& options) {
   const int timeout = Timeout(options.timeout);
-  QNetworkAccessManager manager;  // a new one: nothing of the last request is left
+  QNetworkAccessManager manager;  // a new one, so that requests share no state
   manager.setProxy(proxy);
   EmptyBody body;
   const std::unique_ptr<QNetworkReply> reply(
       manager.sendCustomRequest(Request(url, timeout), "GET", &body));
-  reply->setReadBufferSize(kPiece);
+  reply->setReadBufferSize(kChunk);
 
-  Answer answer;
+  Response response;
   bool tooLong = false;
-  std::exception_ptr raised;  // must not pass through the toolkit's loop
-  // Whether some more of the answer was taken.
-  const auto takePiece = [&] {
+  std::exception_ptr raised;  // must not propagate through Qt's event loop
+  // Returns false when there is nothing more to read now.
+  const auto readChunk = [&] {
     const auto available = static_cast<std::size_t>(reply->bytesAvailable());
     if (tooLong || raised || available == 0) return false;
-    tooLong = available > options.limit - answer.bytes.size();
+    tooLong = available > options.limit - response.body.size();
     try {
       if (!tooLong) {
-        const QByteArray piece = reply->read(kPiece);
-        if (piece.isEmpty()) return false;
-        answer.bytes.append(piece.constData(), static_cast<std::size_t>(piece.size()));
+        const QByteArray chunk = reply->read(kChunk);
+        if (chunk.isEmpty()) return false;
+        response.body.append(chunk.constData(), static_cast<std::size_t>(chunk.size()));
         const auto total = reply->header(QNetworkRequest::ContentLengthHeader).toULongLong();
-        if (options.progress) options.progress(answer.bytes.size(), total);
+        if (options.progress) options.progress(response.body.size(), total);
       }
     } catch (...) {
       raised = std::current_exception();
@@ -145,22 +145,22 @@ Answer Get(const QUrl& url, const QNetworkProxy& proxy, const HttpOptions& optio
     if (tooLong || raised) reply->abort();
     return !tooLong && !raised;
   };
-  const auto take = [&] {
-    while (takePiece()) continue;
+  const auto readAvailable = [&] {
+    while (readChunk()) continue;
   };
   QEventLoop loop;
-  QObject::connect(reply.get(), &QNetworkReply::readyRead, &loop, take);
+  QObject::connect(reply.get(), &QNetworkReply::readyRead, &loop, readAvailable);
   QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
   if (!reply->isFinished()) loop.exec();
   if (!reply->isFinished()) Fail(url, "the program ends");
-  take();
+  readAvailable();
 
   if (raised) std::rethrow_exception(raised);
   if (tooLong) return {};
-  if (!HasAnswered(*reply, answer.bytes.size())) Fail(url, Reason(*reply, timeout));
-  answer.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-  answer.redirect = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
-  return answer;
+  if (!IsComplete(*reply, response.body.size())) Fail(url, Reason(*reply, timeout));
+  response.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+  response.redirect = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+  return response;
 }
 
 }  // namespace
@@ -169,14 +169,14 @@ std::string QtHttpClient::OpenURL(const std::string& address, const HttpOptions&
   QUrl url = WireUrl(address);
   const QNetworkProxy proxy = Proxy(options.proxy);
   const WaitScope wait(waits_);
-  for (int redirects = 0; redirects <= kMostRedirects; ++redirects) {
-    Answer answer = Get(url, proxy, options);
-    if (answer.redirect.isEmpty()) {
+  for (int redirects = 0; redirects <= kMaxRedirects; ++redirects) {
+    Response response = Get(url, proxy, options);
+    if (response.redirect.isEmpty()) {
       constexpr int ok = 200;
-      if (options.needsOk && answer.status != ok) return {};
-      return std::move(answer.bytes);
+      if (options.needsOk && response.status != ok) return {};
+      return std::move(response.body);
     }
-    url = url.resolved(answer.redirect);
+    url = url.resolved(response.redirect);
     CheckWebUrl(url);
   }
   Fail(url, "too many redirects");

@@ -7,10 +7,10 @@ class QUrl;
 
 namespace benevix {
 
-// HTTP/1.1 over the toolkit's network classes, which run in the event loop of the calling thread
-// until the answer is there. Every request stands alone: no cache, no cookies, no connection kept,
-// no proxy but the one given, and never sent twice, since some of them send mail. Redirects are
-// followed to http and https only, ten at most.
+// HTTP/1.1 with Qt's network classes, in an event loop of the calling thread until the response is
+// complete. Requests are independent: no cache, cookies or persistent connections, and no proxy but
+// the given one. They are never retried, as some of them send mail. Follows up to ten redirects, to
+// http and https only.
 class QtHttpClient : public HttpClient {
  public:
   explicit QtHttpClient(Waits& waits) : waits_(waits) {}

@@ -24,19 +24,19 @@ QFont LineFont() {
   return font;
 }
 
-// Some printers leave no margin at all; a sixteenth of the page's width looks well on any paper.
-void WidenMargins(QPrinter& printer) {
+// At least a sixteenth of the page's width, since some printers have no margins of their own.
+void SetMargins(QPrinter& printer) {
   QPageLayout layout = printer.pageLayout();
   layout.setUnits(QPageLayout::Point);
-  const QMarginsF smallest = layout.minimumMargins();
-  const double least = layout.fullRect().width() / 16;
+  const QMarginsF printable = layout.minimumMargins();
+  const double margin = layout.fullRect().width() / 16;
   printer.setPageMargins(
-      QMarginsF(std::max(smallest.left(), least), std::max(smallest.top(), least),
-                std::max(smallest.right(), least), std::max(smallest.bottom(), least)),
+      QMarginsF(std::max(printable.left(), margin), std::max(printable.top(), margin),
+                std::max(printable.right(), margin), std::max(printable.bottom(), margin)),
       QPageLayout::Point);
 }
 
-// One visible character for each of the line, so that every one fills its column.
+// Replaces characters that might not fill a column: soft hyphens and non-printable ones.
 QString Printable(const std::string& line) {
   constexpr QChar softHyphen(0xAD);
   QString text = QString::fromStdString(ToUtf8(line));
@@ -47,11 +47,11 @@ QString Printable(const std::string& line) {
   return text;
 }
 
-// The longest head of `text` that fits, broken at a blank where there is one.
-qsizetype FittingLength(QStringView text, qsizetype room) {
-  if (text.size() <= room) return text.size();
-  const qsizetype blank = text.lastIndexOf(QLatin1Char(' '), room);
-  return blank > 0 && !text.first(blank).trimmed().isEmpty() ? blank : room;
+// The length of the first row of `text` in `width` columns, broken at a blank where possible.
+qsizetype RowLength(QStringView text, qsizetype width) {
+  if (text.size() <= width) return text.size();
+  const qsizetype blank = text.lastIndexOf(QLatin1Char(' '), width);
+  return blank > 0 && !text.first(blank).trimmed().isEmpty() ? blank : width;
 }
 
 }  // namespace
@@ -66,9 +66,9 @@ void QtPrinter::BeginDoc() {
   if (info.isNull()) throw RuntimeError("There is no printer");
   auto printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
   printer->setDocName(QCoreApplication::applicationName());
-  // Left alone, the toolkit takes A4 wherever the printer knows it, whatever paper is loaded.
+  // Qt's default is A4 on any printer that supports it, whatever paper is loaded.
   if (info.defaultPageSize().isValid()) printer->setPageSize(info.defaultPageSize());
-  WidenMargins(*printer);
+  SetMargins(*printer);
   auto painter = std::make_unique<QPainter>();
   if (!painter->begin(printer.get())) throw RuntimeError("The printer cannot be used");
   painter->setFont(LineFont());
@@ -85,7 +85,7 @@ void QtPrinter::PrintLine(int column, const std::string& line) {
   const QString text = Printable(line);
   QStringView rest = text;
   do {
-    const qsizetype length = FittingLength(rest, columns - indent);
+    const qsizetype length = RowLength(rest, columns - indent);
     PrintRow(indent, rest.first(length).toString());
     rest = rest.sliced(length);
     while (rest.startsWith(u' ')) rest = rest.sliced(1);

@@ -10,9 +10,9 @@ class QPrinter;
 
 namespace benevix {
 
-// The system's default printer. Lines stand in a fixed-pitch font; what is wider than the page is
-// wrapped under its tab column; pages break between lines. A tab column beyond the page counts on
-// from the left margin.
+// The system's default printer. Lines are printed in a fixed-pitch font; lines wider than the page
+// are wrapped at their tab column. A tab column beyond the right margin continues from the left
+// one.
 class QtPrinter : public Printer {
  public:
   QtPrinter();
@@ -27,8 +27,8 @@ class QtPrinter : public Printer {
   void PrintRow(int column, const QString& text);
 
   std::unique_ptr<QPrinter> printer_;
-  std::unique_ptr<QPainter> painter_;  // there while a document is open
-  // Device dots; fractions, since a hundred rounded columns are a column off.
+  std::unique_ptr<QPainter> painter_;  // null when no document is open
+  // In device pixels. Not rounded: over a hundred columns the error would be a whole column.
   double columnWidth_ = 0;
   double y_ = 0;  // from the top margin
 };

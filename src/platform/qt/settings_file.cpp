@@ -16,21 +16,21 @@
 namespace benevix {
 namespace {
 
-constexpr ResultCode kDone = 0;
-constexpr int kLockWait = 10'000;  // milliseconds
-constexpr int kLockPause = 2;
+constexpr ResultCode kSuccess = 0;
+constexpr int kLockTimeout = 10'000;  // milliseconds
+constexpr int kLockInterval = 2;      // milliseconds
 constexpr auto kFileName = "/benevix/benevix.conf";
 
-// The lock's own waiting sleeps longer and longer, until a program that writes much wins every
-// time.
-bool Take(QLockFile& lock) {
-  const QDeadlineTimer end(kLockWait);
+// Polls at a fixed interval: QLockFile's own waiting backs off, so that a program that writes often
+// would get the lock every time.
+bool Acquire(QLockFile& lock) {
+  const QDeadlineTimer deadline(kLockTimeout);
   while (!lock.tryLock(0)) {
     if (lock.error() != QLockFile::LockFailedError) return false;
-    // Damaged, as a crash may leave it, the lock names no program that could be asked after. One
-    // that a living program holds is not removed.
-    if (end.hasExpired()) return lock.removeStaleLockFile() && lock.tryLock(0);
-    QThread::msleep(kLockPause);
+    // A lock file damaged in a crash names no process, so tryLock never finds it stale. The lock of
+    // a running process is not removed.
+    if (deadline.hasExpired()) return lock.removeStaleLockFile() && lock.tryLock(0);
+    QThread::msleep(kLockInterval);
   }
   return true;
 }
@@ -62,7 +62,7 @@ class SettingsFile::Key : public RegistryKey {
     if (access_ == Access::SetValue || !value) return kFailed;
     type = value->type;
     bytes = std::move(value->bytes);
-    return kDone;
+    return kSuccess;
   }
 
   ResultCode Delete(const std::string& name) override {
@@ -97,7 +97,7 @@ std::unique_ptr<RegistryKey> SettingsFile::CreateKey(Root root, const std::strin
     text.AddKey(Utf8(path));
     return true;
   });
-  return code == kDone ? std::make_unique<Key>(*this, root, Utf8(path), Access::Full) : nullptr;
+  return code == kSuccess ? std::make_unique<Key>(*this, root, Utf8(path), Access::Full) : nullptr;
 }
 
 ResultCode SettingsFile::DeleteKey(Root root, const std::string& path) {
@@ -115,7 +115,7 @@ bool SettingsFile::IsWritable(Root root) const {
 std::optional<SettingsText> SettingsFile::Load(Root root) const {
   const QFileInfo info(File(root));
   if (!info.exists()) return SettingsText({});
-  if (!info.isFile()) return std::nullopt;  // a device may have no end, a pipe no beginning
+  if (!info.isFile()) return std::nullopt;  // reading a device or pipe may never end
   QFile file(info.filePath());
   if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
   const QByteArray bytes = file.readAll();
@@ -127,21 +127,21 @@ ResultCode SettingsFile::Change(Root root, const std::function<bool(SettingsText
   const QString& name = File(root);
   if (!IsWritable(root) || !QDir().mkpath(QFileInfo(name).path())) return kFailed;
   QLockFile lock(name + QStringLiteral(".lock"));
-  lock.setStaleLockTime(0);  // a computer that slept keeps its lock; that of a dead program goes
-  if (!Take(lock)) return kFailed;
+  lock.setStaleLockTime(0);  // only a dead process's lock is stale, never one held for long
+  if (!Acquire(lock)) return kFailed;
   auto text = Load(root);
   if (!text || !change(*text)) return kFailed;
 
   QSaveFile file(name);
   if (!file.open(QIODevice::WriteOnly)) return kFailed;
-  // The user's settings hold an address; a new file is for no one else.
+  // A new file is private to the user, since it will contain an address.
   if (root == Root::CurrentUser && !QFile::exists(name)) {
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
   }
   const QByteArray bytes = text->Bytes();
-  // Looked at before, since the commit itself does not notice that the disk was full.
-  const bool isWhole = file.write(bytes) == bytes.size() && file.flush();
-  return isWhole && file.commit() ? kDone : kFailed;
+  // Checked here, as commit() does not notice a full disk.
+  const bool isWritten = file.write(bytes) == bytes.size() && file.flush();
+  return isWritten && file.commit() ? kSuccess : kFailed;
 }
 
 std::string SettingsFile::DefaultUserFile() {
@@ -150,7 +150,7 @@ std::string SettingsFile::DefaultUserFile() {
 }
 
 std::string SettingsFile::DefaultMachineFile() {
-  // The user's folder is the first of the list, the machine's follow by rank.
+  // The first folder is the user's, then follow the machine's by preference.
   const auto folders = QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
   return folders.value(1, QStringLiteral("/etc/xdg")).toStdString() + kFileName;
 }

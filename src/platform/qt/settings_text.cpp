@@ -13,7 +13,7 @@ bool Same(const QByteArray& a, const QByteArray& b) {
   return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
-// The key whose header the line is.
+// The key path in a header line "[path]"; nothing for other lines.
 std::optional<QByteArray> KeyOf(const QByteArray& line) {
   const QByteArray text = line.trimmed();
   if (!text.startsWith('[') || !text.endsWith(']')) return std::nullopt;

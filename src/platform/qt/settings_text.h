@@ -6,30 +6,31 @@
 
 namespace benevix {
 
-// The text of a settings file, UTF-8. A line "[path\of\the\key]" stands for each key, below it a
-// line "name=value" for each of its values; the default value's name is written "(default)". Lines
-// that begin with # or ; are notes. Keys and names differ by more than upper and lower case.
-// Changes leave every other line as it stands, notes and unreadable lines too.
+// The text of a settings file, UTF-8: for each key a line "[path\of\the\key]", followed by a line
+// "name=value" for each of its values; the default value's name is "(default)". Lines that begin
+// with # or ; are comments. Keys and names are case-insensitive. Changes keep all other lines,
+// including comments and invalid ones.
 class SettingsText {
  public:
   explicit SettingsText(const QByteArray& bytes) : lines_(bytes.split('\n')) {}
   [[nodiscard]] QByteArray Bytes() const { return lines_.join('\n'); }
 
-  // Also true for a key that is there only as the parent of another.
+  // Also true for a key that exists only as the parent of another.
   [[nodiscard]] bool HasKey(const QByteArray& path) const;
   void AddKey(const QByteArray& path);
-  // The key with its values; false when it is not there.
+  // Removes the key with its values; false when it has no header line.
   bool RemoveKey(const QByteArray& path);
 
-  // What stands behind the "=", without a line end or blanks before it.
+  // The text after the "=" without leading blanks and line end; nothing without such a value.
   [[nodiscard]] std::optional<QByteArray> Value(const QByteArray& path,
                                                 const QByteArray& name) const;
-  // `value` must be one line. The key is made when it is not there.
+  // `value` must be a single line. Adds a missing key.
   void SetValue(const QByteArray& path, const QByteArray& name, const QByteArray& value);
-  // False when it is not there.
+  // False when the value does not exist.
   bool RemoveValue(const QByteArray& path, const QByteArray& name);
 
  private:
+  // Line numbers; -1 when there is no such line.
   [[nodiscard]] qsizetype HeaderAt(const QByteArray& path) const;
   [[nodiscard]] qsizetype EndOfKey(qsizetype header) const;
   [[nodiscard]] qsizetype ValueAt(qsizetype header, const QByteArray& name) const;

@@ -12,8 +12,8 @@ constexpr QByteArrayView kText = "text:";
 constexpr QByteArrayView kNumber = "dword:";
 constexpr QByteArrayView kBinary = "hex:";
 
-// Texts lie in the registry with their closing NUL.
-std::string Closed(const QByteArray& utf8) {
+// The registry stores texts with their terminating NUL.
+std::string WithNul(const QByteArray& utf8) {
   return FromUtf8(utf8.toStdString()) + '\0';
 }
 
@@ -36,8 +36,8 @@ QByteArray InOneLine(const QByteArray& text, const QByteArray& more) {
 std::optional<QByteArray> ToLine(std::uint32_t type, const std::string& bytes) {
   switch (type) {
     case value_type::kText: {
-      const bool closed = bytes.ends_with('\0');
-      const std::string text = ToUtf8(bytes.substr(0, bytes.size() - (closed ? 1 : 0)));
+      const bool hasNul = bytes.ends_with('\0');
+      const std::string text = ToUtf8(bytes.substr(0, bytes.size() - (hasNul ? 1 : 0)));
       return kText.toByteArray() + InOneLine(QByteArray::fromStdString(text));
     }
     case value_type::kNumber: {
@@ -55,7 +55,7 @@ std::optional<QByteArray> ToLine(std::uint32_t type, const std::string& bytes) {
 std::optional<RegistryValue> FromLine(const QByteArray& line) {
   if (line.startsWith(kText)) {
     const QByteArray text = QByteArray::fromPercentEncoding(line.mid(kText.size()));
-    return RegistryValue{value_type::kText, Closed(text)};
+    return RegistryValue{value_type::kText, WithNul(text)};
   }
   if (line.startsWith(kNumber)) {
     bool ok = false;
@@ -69,7 +69,7 @@ std::optional<RegistryValue> FromLine(const QByteArray& line) {
     const QByteArray bytes = QByteArray::fromHex(line.mid(kBinary.size()));
     return RegistryValue{value_type::kBinary, bytes.toStdString()};
   }
-  return RegistryValue{value_type::kText, Closed(line.trimmed())};
+  return RegistryValue{value_type::kText, WithNul(line.trimmed())};
 }
 
 }  // namespace benevix

@@ -8,14 +8,13 @@
 namespace benevix {
 
 // A registry value as one line of a settings file:
-//   text:John Doe   a text (control characters and % percent-encoded, UTF-8)
-//   dword:0000002a  a number
+//   text:John Doe   a text (UTF-8, control characters and % percent-encoded)
+//   dword:0000002a  a number (hexadecimal)
 //   hex:00ff        bytes
-// A value that somebody wrote without such a beginning is a text as it stands, without blanks at
-// its ends.
+// A value without such a prefix, written by hand, is a text without the blanks at its ends.
 
-// `bytes` as the registry stores them. Nothing when the type is unknown or a number has not 4
-// bytes.
+// `bytes` as RegistryKey::Write takes them. Nothing for an unknown type or a number that does not
+// have 4 bytes.
 std::optional<QByteArray> ToLine(std::uint32_t type, const std::string& bytes);
 
 struct RegistryValue {
@@ -23,11 +22,10 @@ struct RegistryValue {
   std::string bytes;
 };
 
-// Nothing when the line holds no such value.
+// Nothing for an invalid number.
 std::optional<RegistryValue> FromLine(const QByteArray& line);
 
-// UTF-8 text without line ends: control characters, % and the characters in `more` (ASCII) are
-// percent-encoded.
+// Percent-encodes control characters (so also line ends), % and the characters in `more` (ASCII).
 QByteArray InOneLine(const QByteArray& text, const QByteArray& more = {});
 
 }  // namespace benevix

@@ -8,8 +8,8 @@
 namespace benevix {
 namespace {
 
-// RFC 3986, 2.2 and 2.3, but for # and what counts as neither.
-bool MayStand(char c) {
+// The reserved and unreserved characters of RFC 3986, 2.2 and 2.3, without #.
+bool IsAllowed(char c) {
   constexpr std::string_view forbidden = "\"#%<>\\^`{|}";
   return c > 0x20 && c < 0x7F && forbidden.find(c) == std::string_view::npos;
 }
@@ -26,7 +26,7 @@ QUrl WireUrl(const std::string& address) {
     const char c = address[i];
     const bool isEscape = c == '%' && i + 2 < address.size() && IsHexDigit(address[i + 1]) &&
                           IsHexDigit(address[i + 2]);
-    if (isEscape || MayStand(c)) {
+    if (isEscape || IsAllowed(c)) {
       wire += c;
     } else {
       wire += '%' + QByteArray(1, c).toHex().toUpper();

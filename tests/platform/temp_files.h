@@ -10,7 +10,7 @@
 
 namespace benevix {
 
-// A folder of its own for a test, gone when the test ends.
+// A new temporary folder, removed by the destructor.
 class TempFolder {
  public:
   TempFolder() : path_((std::filesystem::temp_directory_path() / "benevix.XXXXXX").string()) {
@@ -26,21 +26,19 @@ class TempFolder {
   std::string path_;
 };
 
-// Writing beyond `bytes` of any file fails from now on, as on a full disk.
-inline void FillDisk(rlim_t bytes) {
+// From now on, writing past `bytes` of any file fails, as on a full disk. Without an argument it
+// works again.
+inline void LimitFileSize(rlim_t bytes = RLIM_INFINITY) {
   std::signal(SIGXFSZ, SIG_IGN);
   const rlimit limit{bytes, RLIM_INFINITY};
   setrlimit(RLIMIT_FSIZE, &limit);
 }
-inline void EmptyDisk() {
-  FillDisk(RLIM_INFINITY);
-}
 
-inline void Put(const std::string& path, const std::string& bytes) {
+inline void WriteFile(const std::string& path, const std::string& bytes) {
   std::ofstream(path, std::ios::binary) << bytes;
 }
 
-inline std::string Got(const std::string& path) {
+inline std::string ReadFile(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }

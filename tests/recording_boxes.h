@@ -7,8 +7,9 @@
 
 namespace benevix {
 
-// Takes down each box as "title|text" with its icon and buttons, and gives the answer that is set.
-class BoxesOfATest : public MessageBoxes {
+// Records each message box, as "title|text" with its icon and buttons, and answers it with
+// `answer`.
+class RecordingBoxes : public MessageBoxes {
  public:
   struct Box {
     std::string text;

@@ -7,12 +7,12 @@
 
 namespace benevix {
 
-// Cases told as "what is given => what is to come".
+// Splits test cases written as "input => expected".
 inline std::vector<std::pair<std::string, std::string>> Cases(
-    std::initializer_list<std::string> told) {
+    std::initializer_list<std::string> texts) {
   const std::string arrow = " => ";
   std::vector<std::pair<std::string, std::string>> cases;
-  for (const std::string& text : told) {
+  for (const std::string& text : texts) {
     const auto at = text.find(arrow);
     cases.emplace_back(text.substr(0, at), text.substr(at + arrow.size()));
   }

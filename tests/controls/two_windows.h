@@ -6,10 +6,10 @@
 
 namespace benevix {
 
-struct MainOfATest : Window {
+struct TestMainWindow : Window {
   static constexpr const char* kName = "main";
 
-  MainOfATest() { box[1].enabled = menu.visible = false; }
+  TestMainWindow() { box[1].enabled = menu.visible = false; }
   TextBox box[3];
   Frame frame{"frame"};
   OptionButton option[3] = {OptionButton("0", {}, "frame"), OptionButton("1", {}, "frame"),
@@ -23,7 +23,7 @@ struct MainOfATest : Window {
 };
 
 template <class F>
-void visit(MainOfATest& window, F&& f) {
+void visit(TestMainWindow& window, F&& f) {
   f("box", window.box);
   f("frame", window.frame);
   f("option", window.option);
@@ -36,7 +36,7 @@ void visit(MainOfATest& window, F&& f) {
   f("items", window.items);
 }
 
-struct SideOfATest : Window {
+struct TestSideWindow : Window {
   static constexpr const char* kName = "side";
 
   TextBox text{"tip"};
@@ -44,45 +44,45 @@ struct SideOfATest : Window {
 };
 
 template <class F>
-void visit(SideOfATest& window, F&& f) {
+void visit(TestSideWindow& window, F&& f) {
   f("text", window.text);
   f("ok", window.ok);
 }
 
-// A main and a side window on a desk, and the events that were heard, as "box1.Got ".
-struct DeskOfATest {
-  DeskOfATest() {
+// A main and a side window on a desk, and a record of the events raised there: "box1.Got ".
+struct TwoWindows {
+  TwoWindows() {
     desk.Add(main);
     desk.Add(side);
-    const std::pair<Event, const char*> words[] = {{Event::Click, ".Click "},
-                                                   {Event::MouseUp, ".Up "},
-                                                   {Event::GotFocus, ".Got "},
-                                                   {Event::LostFocus, ".Lost "},
-                                                   {Event::KeyUp, ".Key "}};
+    const std::pair<Event, const char*> endings[] = {{Event::Click, ".Click "},
+                                                     {Event::MouseUp, ".Up "},
+                                                     {Event::GotFocus, ".Got "},
+                                                     {Event::LostFocus, ".Lost "},
+                                                     {Event::KeyUp, ".Key "}};
     for (auto* entry : {&desk.Find(main), &desk.Find(side)}) {
       for (const NamedControl& control : entry->controls) {
         const std::string index = control.index < 0 ? "" : std::to_string(control.index);
-        for (const auto& [event, word] : words) {
+        for (const auto& [event, ending] : endings) {
           events.On(control.Base(), event,
-                    [this, text = control.name + index + word](EventArgs&) { heard += text; });
+                    [this, text = control.name + index + ending](EventArgs&) { raised += text; });
         }
       }
     }
     desk.Show(main);
-    heard.clear();
+    raised.clear();
   }
-  DeskOfATest(const DeskOfATest&) = delete;
-  DeskOfATest& operator=(const DeskOfATest&) = delete;
+  TwoWindows(const TwoWindows&) = delete;
+  TwoWindows& operator=(const TwoWindows&) = delete;
 
-  // What was heard since it was last asked.
-  std::string Heard() { return std::exchange(heard, {}); }
+  // The events since the last call.
+  std::string Raised() { return std::exchange(raised, {}); }
 
-  MainOfATest main;
-  SideOfATest side;
+  TestMainWindow main;
+  TestSideWindow side;
   EventTable events;
   Desk desk{events};
   Input input{desk, events};
-  std::string heard;
+  std::string raised;
 };
 
 }  // namespace benevix

@@ -7,8 +7,8 @@
 
 namespace benevix {
 
-// Row 1 is a country, row N is the organization "Org N" with the ID N.
-class RowsOfATest : public RowSource {
+// Row 1 is the country Kenya, every other row N the organization "Org N" with the ID N.
+class SampleRows : public RowSource {
  public:
   [[nodiscard]] int Count() const override { return 9; }
   [[nodiscard]] std::string Text(int row, int column) const override {
@@ -18,13 +18,13 @@ class RowsOfATest : public RowSource {
   }
 };
 
-inline ListView ListOfATest() {
+inline ListView SampleList() {
   ListView list;
-  list.SetRows(std::make_shared<RowsOfATest>());
+  list.SetRows(std::make_shared<SampleRows>());
   return list;
 }
 
-inline void PutDonation(ListView& list, int row, const std::string& record) {
+inline void SetDonation(ListView& list, int row, const std::string& record) {
   list.SetSubItem(row, column::kAmount, "5.00");
   list.SetSubItem(row, column::kPool, "Pool");
   list.SetSubItem(row, column::kFrom, "John Doe");

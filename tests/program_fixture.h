@@ -2,14 +2,14 @@
 
 #include <functional>
 
-#include "boxes_of_a_test.h"
 #include "platform/qt/qt_http_client.h"
 #include "player/world.h"
 #include "program/program.h"
+#include "recording_boxes.h"
 
 namespace benevix {
 
-// Tells when the windows would be brought into line.
+// Calls `watch` whenever the real front end would update its windows.
 class WatchedWaits : public Waits {
  public:
   void Begin() override { watch(); }
@@ -19,9 +19,9 @@ class WatchedWaits : public Waits {
   std::function<void()> watch = [] {};
 };
 
-// The program in a world with one organization and a server that is up.
-struct ProgramOfATest {
-  explicit ProgramOfATest(Printer* printer = nullptr)
+// The program with a list of one organization and a server that is up.
+struct ProgramFixture {
+  explicit ProgramFixture(Printer* printer = nullptr)
       : program({world.info, world.settings, http, boxes, waits, world.clock, world.random,
                  world.shell, world.files, printer == nullptr ? world.printer : *printer}) {
     world.files.Replace(world.info.Resource("sharedb.dat"),
@@ -29,7 +29,7 @@ struct ProgramOfATest {
     world.site.Put("53rv3r/status.txt", {.text = "server ok"});
     world.settings.Put("user", "ShowWiz", "False");
   }
-  // Starts the program and passes its splash.
+  // Starts the program and closes the splash window.
   void Enter() {
     program.Main();
     program.TheInput().Click(program.TheForms().Get<frmSplash>().Image2[0]);
@@ -38,7 +38,7 @@ struct ProgramOfATest {
   World world;
   WatchedWaits waits;
   QtHttpClient http{waits};
-  BoxesOfATest boxes;
+  RecordingBoxes boxes;
   Program program;
 };
 

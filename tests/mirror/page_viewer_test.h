@@ -20,7 +20,7 @@
 
 namespace benevix {
 
-// A site on the loopback that counts who asked for what.
+// A site on the loopback that records the requests.
 template <class Server>
 class Site : public Server {
  public:
@@ -99,7 +99,7 @@ class PageViewerTest : public testing::Test {
   bool ShowsText(const QString& text) {
     return Becomes("document.body&&document.body.innerText.trim()", text);
   }
-  // As the user does it.
+  // With the mouse.
   void ClickAt(int x, int y) {
     auto* view = qobject_cast<QWidget*>(Engine("QWebEngineView"));
     ASSERT_NE(view, nullptr);
@@ -116,7 +116,7 @@ class PageViewerTest : public testing::Test {
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     return path.toStdString();
   }
-  // Runs the running test again, in another program file or surroundings.
+  // Runs the current test again, as another program file or in another environment.
   void RunAgain(const QString& program, const QProcessEnvironment& environment) {
     const std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
     QProcess process;
