@@ -1,6 +1,7 @@
 #include "loopback/loopback_server.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstring>
 #include <limits>
 #include <optional>
@@ -52,8 +53,8 @@ class PrefixedStream : public httplib::Stream {
   bool closed_ = false;
 };
 
-// The request line with its line end, or what came of it: longer lines are left to the library,
-// which refuses them with status 414.
+// The request line with its line end, or as much of it as arrived: longer lines are left to the
+// library, which refuses them with status 414.
 std::string ReadRequestLine(httplib::Stream& stream) {
   std::string line;
   char byte = 0;
@@ -102,6 +103,18 @@ int LoopbackServer::Bind(int port) {
   return port;
 }
 
+void LoopbackServer::Start() {
+  serving_ = std::thread([this] { listen_after_bind(); });
+  // A stop before the server runs would be lost.
+  while (!is_running()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+}
+
+void LoopbackServer::Stop() {
+  if (!serving_.joinable()) return;
+  stop();
+  serving_.join();
+}
+
 // Browsers open connections in advance; the short steps let a stop end the wait for them.
 bool LoopbackServer::WaitForBytes(socket_t socket, int steps) const {
   for (int step = 0; step < steps && svr_sock_ != INVALID_SOCKET; ++step) {
@@ -128,7 +141,7 @@ bool LoopbackServer::process_and_close_socket(socket_t socket) {
       request.path = target->substr(0, target->find('?'));
       const Reply wanted = reply(request);
       if (wanted == Reply::Answer) return;
-      // A client has nothing to send behind its request, so what can be read is its leaving.
+      // A client sends nothing after its request: once there is something to read, it has left.
       if (wanted == Reply::Silence) WaitForBytes(socket, std::numeric_limits<int>::max());
       stream.Close();
     });

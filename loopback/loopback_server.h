@@ -3,6 +3,7 @@
 #include <functional>
 #include <httplib.h>
 #include <string>
+#include <thread>
 
 namespace benevix {
 
@@ -18,6 +19,7 @@ class LoopbackServer : public httplib::Server {
   enum class Reply { Answer, Close, Silence };
 
   LoopbackServer();
+  ~LoopbackServer() override { Stop(); }
 
   // What becomes of a request, asked once its head is there.
   std::function<Reply(const httplib::Request&)> reply = [](const httplib::Request&) {
@@ -27,6 +29,10 @@ class LoopbackServer : public httplib::Server {
   // Binds to 127.0.0.1. Takes a port, or 0 for a free one; gives the port bound, 0 when it is
   // taken.
   int Bind(int port);
+
+  // Serves the bound port on a thread of its own, until it is stopped.
+  void Start();
+  void Stop();
 
   // The address of the bound server, "http://127.0.0.1:PORT/".
   const std::string& Address() const { return address_; }
@@ -38,6 +44,7 @@ class LoopbackServer : public httplib::Server {
   bool WaitForBytes(socket_t socket, int steps) const;
 
   std::string address_;
+  std::thread serving_;
 };
 
 }  // namespace benevix

@@ -5,11 +5,10 @@
 #include <fstream>
 #include <iterator>
 
-#include "player/line_kinds.h"
-#include "player/routines.h"
-#include "player/stage.h"
-#include "player/targets.h"
-#include "player/values.h"
+#include "player/paths.h"
+#include "player/program_runner.h"
+#include "player/properties.h"
+#include "player/script.h"
 #include "player/words.h"
 
 namespace benevix {
@@ -27,6 +26,14 @@ void WantNext(const std::optional<std::string>& next, const std::string& what,
   Want(next && holds, what + " " + Quoted(expected), next ? Quoted(*next) : "none");
 }
 
+// None must be left unchecked; afterwards all are checked.
+template <class T, class F>
+void WantNone(Recorded<T>& recorded, const std::string& what, F&& text) {
+  const auto next = recorded.Next();
+  recorded.SkipAll();
+  Want(!next, "no " + what, next ? text(*next) : "");
+}
+
 // --- windows and values
 
 struct Read {
@@ -34,27 +41,27 @@ struct Read {
   bool isAddress = false;
 };
 
-Read ReadPath(Stage& stage, const std::string& path) {
-  Program& program = stage.TheProgram();
+Read ReadPath(ProgramRunner& runner, const std::string& path) {
+  Program& program = runner.TheProgram();
   if (path.starts_with("value.")) {
     const auto value = ReadValue(program, path.substr(path.find('.') + 1));
     if (!value) throw CannotBeDone("there is no " + path);
     return {*value};
   }
   const Named named = Find(program, path);
-  const auto text = stage.TheFrontEnd().Read(named.target, named.property);
+  const auto text = runner.TheFrontEnd().Read(named.target, named.property);
   if (!text) throw CannotBeDone("there is no " + path);
   return {*text, named.property == "Address"};
 }
 
-void Expect(Stage& stage, const Texts& words) {
-  const Read read = ReadPath(stage, words[0]);
+void Expect(ProgramRunner& runner, const Texts& words) {
+  const Read read = ReadPath(runner, words[0]);
   const bool same = read.isAddress ? SameAddress(read.text, words[1]) : read.text == words[1];
   Want(same, words[0] + " " + Quoted(words[1]), Quoted(read.text));
 }
 
-void Contains(Stage& stage, const Texts& words) {
-  const std::string text = ReadPath(stage, words[0]).text;
+void Contains(ProgramRunner& runner, const Texts& words) {
+  const std::string text = ReadPath(runner, words[0]).text;
   Want(text.find(words[1]) != std::string::npos, words[0] + " with " + Quoted(words[1]),
        Quoted(text));
 }
@@ -75,8 +82,8 @@ std::string InOneLine(const Texts& texts) {
   return line;
 }
 
-void Message(Stage& stage, const Texts& words) {
-  const auto box = stage.TheWorld().boxes.shown.Next();
+void Message(ProgramRunner& runner, const Texts& words) {
+  const auto box = runner.TheWorld().boxes.shown.Next();
   Want(box.has_value(), "the message " + InOneLine(words), "none");
   const Texts shown = TextsOf(*box);
   const bool same = std::equal(
@@ -85,23 +92,21 @@ void Message(Stage& stage, const Texts& words) {
   Want(same, "the message " + InOneLine(words), InOneLine(shown));
 }
 
-void NoMessage(Stage& stage, const Texts&) {
-  Recorded<ShownBox>& shown = stage.TheWorld().boxes.shown;
-  const auto box = shown.Next();
-  shown.SkipAll();
-  Want(!box, "no message", box ? InOneLine(TextsOf(*box)) : "");
+void NoMessage(ProgramRunner& runner, const Texts&) {
+  WantNone(runner.TheWorld().boxes.shown, "message",
+           [](const ShownBox& box) { return InOneLine(TextsOf(box)); });
 }
 
 // --- settings and files
 
-void Stored(Stage& stage, const Texts& words) {
-  const auto text = stage.TheWorld().settings.Text(words[0], words[1]);
+void Stored(ProgramRunner& runner, const Texts& words) {
+  const auto text = runner.TheWorld().settings.Text(words[0], words[1]);
   Want(text == words[2], "the setting " + words[1] + " " + Quoted(words[2]),
        text ? Quoted(*text) : "none");
 }
 
-void Absent(Stage& stage, const Texts& words) {
-  const auto text = stage.TheWorld().settings.Text(words[0], words[1]);
+void Absent(ProgramRunner& runner, const Texts& words) {
+  const auto text = runner.TheWorld().settings.Text(words[0], words[1]);
   Want(!text, "no setting " + words[1], text ? Quoted(*text) : "");
 }
 
@@ -118,20 +123,20 @@ void WantBytes(const std::string& file, const std::string& name, const std::stri
        isThere ? Quoted(bytes) : "no file");
 }
 
-void Holds(Stage& stage, const Texts& words) {
-  WantBytes(stage.TheWorld().ProgramFile(words[0]), words[0], words[1]);
+void Holds(ProgramRunner& runner, const Texts& words) {
+  WantBytes(runner.TheWorld().ProgramFile(words[0]), words[0], words[1]);
 }
 
-void ShellHolds(Stage& stage, const Texts& words) {
-  WantBytes(stage.TheWorld().ShellFile(words[0], words[1]), words[1], words[2]);
+void ShellHolds(ProgramRunner& runner, const Texts& words) {
+  WantBytes(runner.TheWorld().ShellFile(words[0], words[1]), words[1], words[2]);
 }
 
-void Missing(Stage& stage, const Texts& words) {
-  Want(!IsFile(stage.TheWorld().ProgramFile(words[0])), "no file " + words[0], "a file");
+void Missing(ProgramRunner& runner, const Texts& words) {
+  Want(!IsFile(runner.TheWorld().ProgramFile(words[0])), "no file " + words[0], "a file");
 }
 
-void Exists(Stage& stage, const Texts& words) {
-  Want(IsFile(stage.TheWorld().ProgramFile(words[0])), "a file " + words[0], "none");
+void Exists(ProgramRunner& runner, const Texts& words) {
+  Want(IsFile(runner.TheWorld().ProgramFile(words[0])), "a file " + words[0], "none");
 }
 
 // --- requests, the page viewer, the printer, programs
@@ -142,63 +147,45 @@ std::string OnSite(const World& world, const std::string& address) {
   return address.starts_with(base) ? address.substr(base.size()) : address;
 }
 
-std::optional<std::string> NextRequest(World& world) {
-  const auto address = world.requests.Next();
-  if (!address) return std::nullopt;
-  return OnSite(world, *address);
-}
-
-void Request(Stage& stage, const Texts& words) {
-  const auto request = NextRequest(stage.TheWorld());
+void Request(ProgramRunner& runner, const Texts& words) {
+  auto request = runner.TheWorld().requests.Next();
+  if (request) request = OnSite(runner.TheWorld(), *request);
   WantNext(request, "the request", words[0],
            words[0] == "*" || (request && SameAddress(*request, words[0])));
 }
 
-void NoRequest(Stage& stage, const Texts&) {
-  const auto request = NextRequest(stage.TheWorld());
-  stage.TheWorld().requests.SkipAll();
-  Want(!request, "no request", request ? Quoted(*request) : "");
+void NoRequest(ProgramRunner& runner, const Texts&) {
+  World& world = runner.TheWorld();
+  WantNone(world.requests, "request",
+           [&](const std::string& address) { return Quoted(OnSite(world, address)); });
 }
 
-void Wire(Stage& stage, const Texts& words) {
-  const auto target = stage.TheWorld().site.LastTarget();
+void Wire(ProgramRunner& runner, const Texts& words) {
+  const auto target = runner.TheWorld().site.LastTarget();
   WantNext(target, "the target", words[0], target == words[0]);
 }
 
-void Navigated(Stage& stage, const Texts& words) {
-  const auto& address = stage.Navigated();
+void Navigated(ProgramRunner& runner, const Texts& words) {
+  const auto& address = runner.Navigated();
   WantNext(address, "the page", words[0], address && SameAddress(*address, words[0]));
 }
 
-void Printed(Stage& stage, const Texts& words) {
-  const auto line = stage.TheWorld().printer.lines.Next();
+void Printed(ProgramRunner& runner, const Texts& words) {
+  const auto line = runner.TheWorld().printer.lines.Next();
   WantNext(line, "the printed line", words[0], line == words[0]);
 }
 
-void NoPrint(Stage& stage, const Texts&) {
-  Recorded<std::string>& lines = stage.TheWorld().printer.lines;
-  const auto line = lines.Next();
-  lines.SkipAll();
-  Want(!line, "no printed line", line ? Quoted(*line) : "");
+void NoPrint(ProgramRunner& runner, const Texts&) {
+  WantNone(runner.TheWorld().printer.lines, "printed line", Quoted);
 }
 
-void Started(Stage& stage, const Texts& words) {
+void Started(ProgramRunner& runner, const Texts& words) {
   Texts names;
-  for (const std::string& file : stage.TheWorld().shell.started.All()) {
+  for (const std::string& file : runner.TheWorld().shell.started.All()) {
     names.push_back(PathOf(file).filename().string());
   }
   const bool started = std::find(names.begin(), names.end(), words[0]) != names.end();
   Want(started, "the start of " + Quoted(words[0]), names.empty() ? "none" : InOneLine(names));
-}
-
-// --- routines
-
-void Call(Stage& stage, const Texts& words) {
-  const Texts arguments(words.begin() + 1, words.end() - 2);
-  const std::string& expected = words.back();
-  const auto result = CallRoutine(stage, words[0], arguments);
-  Want(result ? *result == expected : expected == "error", words[0] + " = " + Quoted(expected),
-       result ? Quoted(*result) : "an error");
 }
 
 }  // namespace
@@ -217,7 +204,8 @@ const std::vector<LineKind>& CheckingLines() {
         {"exists PATH", Exists},
         {"shellholds FOLDER PATH TEXT", ShellHolds},
         {"request TEXT", Request},
-        {"skip-requests", [](Stage& stage, const Texts&) { stage.TheWorld().requests.SkipAll(); }},
+        {"skip-requests",
+         [](ProgramRunner& runner, const Texts&) { runner.TheWorld().requests.SkipAll(); }},
         {"no-request", NoRequest},
         {"wire TEXT", Wire},
         {"navigated ADDRESS", Navigated},
@@ -225,14 +213,14 @@ const std::vector<LineKind>& CheckingLines() {
         {"no-print", NoPrint},
         {"started PROGRAM", Started},
         {"ended",
-         [](Stage& stage, const Texts&) {
-           Want(stage.HasEnded(), "the program to have ended", "one that has not");
+         [](ProgramRunner& runner, const Texts&) {
+           Want(runner.HasEnded(), "the program to have ended", "one that has not");
          }},
         {"running",
-         [](Stage& stage, const Texts&) {
-           Want(stage.Runs(), "the program to be running", "one that is not");
+         [](ProgramRunner& runner, const Texts&) {
+           Want(runner.IsRunning(), "the program to be running", "one that is not");
          }},
-        {"call ROUTINE ARG... = TEXT", Call},
+        {"call ROUTINE ARG... = TEXT", CallRoutine},
     };
     for (LineKind& line : lines) line.checks = true;
     return lines;

@@ -1,24 +1,27 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "controls/desk.h"
 #include "platform/message_boxes.h"
 #include "platform/waits.h"
+#include "player/world_records.h"
 #include "program/program.h"
 
 namespace benevix {
 
-// What a path names: a window, or one of its controls.
+// A window, or one of its controls.
 struct Target {
   Desk::Entry* window = nullptr;
   const NamedControl* control = nullptr;  // null for the window itself
   int element = -1;                       // of a menu array, -1 otherwise
 };
 
-// What differs between the faces: how the user's doings reach the program, and where what he sees
-// is read. Doings give false when they cannot be done. Texts are of the code page.
+// How the user's actions reach the program, and where what he sees is read: on the logic alone or
+// on real windows. Actions give false when they cannot be done. Texts are of the code page.
 class FrontEnd {
  public:
   virtual ~FrontEnd() = default;
@@ -30,7 +33,7 @@ class FrontEnd {
 
   virtual bool Click(const Target& target) = 0;
   virtual bool Type(const Target& target, const std::string& text) = 0;
-  // A key of keys.h, or one character.
+  // A key of words.h, or one character.
   virtual bool Press(const Target& target, const std::string& key) = 0;
   virtual bool Select(const Target& target, int row, MouseButton button) = 0;
   virtual bool Pick(const Target& target, const std::string& entry) = 0;
@@ -48,5 +51,15 @@ class FrontEnd {
   virtual MessageBoxes& Boxes() = 0;
   virtual Waits& TheWaits() = 0;
 };
+
+using FrontEndMaker = std::function<std::unique_ptr<FrontEnd>(BoxAnswers& answers)>;
+
+std::unique_ptr<FrontEnd> MakeLogicFrontEnd(BoxAnswers& answers);
+
+// `shots` is the folder for pictures, empty for none.
+std::unique_ptr<FrontEnd> MakeWindowsFrontEnd(BoxAnswers& answers, const std::string& shots);
+
+// Whether the environment names a display; without one, windows can be drawn off the screen.
+bool IsDisplayNamed();
 
 }  // namespace benevix

@@ -1,10 +1,10 @@
-#include "player/logic_front_end.h"
-
 #include <algorithm>
+#include <map>
 
 #include "base/text.h"
-#include "player/keys.h"
+#include "player/front_end.h"
 #include "player/properties.h"
+#include "player/words.h"
 
 namespace benevix {
 namespace {
@@ -34,146 +34,194 @@ std::vector<std::string> KeysOf(const std::string& text) {
   return typed;
 }
 
-}  // namespace
+// Counts the waits: a key press that a wait follows is not answered by its release.
+class CountedWaits : public Waits {
+ public:
+  void Begin() override { ++count; }
+  void End() override {}
+  void DoEvents() override { ++count; }
+  int count = 0;
+};
 
-void LogicFrontEnd::Start(Program& program) {
-  program_ = &program;
-  seen_.clear();
-}
-
-void LogicFrontEnd::Stop() {
-  program_ = nullptr;
-}
-
-bool LogicFrontEnd::Click(const Target& target) {
-  return User().Click(*target.control, target.element);
-}
-
-bool LogicFrontEnd::Type(const Target& target, const std::string& text) {
-  auto* const box = target.control->As<TextBox>();
-  auto* const combo = target.control->As<ComboBox>();
-  if (!box && !(combo && combo->editable)) return false;
-  if (!GiveFocus(target)) return false;
-  if (box) {
-    if (!box->text.empty() && !User().Type(*box, "")) return false;
-    Deselect(target, *box);
-  } else if (!combo->text.empty() && !User().Type(*combo, "")) {
-    return false;
+class AnsweredBoxes : public MessageBoxes {
+ public:
+  AnsweredBoxes(BoxAnswers& answers, Waits& waits) : answers_(answers), waits_(waits) {}
+  BoxAnswer Show(const std::string& title, const std::string& text, BoxIcon icon,
+                 BoxButtons buttons) override {
+    const WaitScope wait(waits_);
+    return answers_.Take({title, text, icon, buttons});
   }
-  // A key that takes the focus away ends the typing.
-  return std::ranges::all_of(KeysOf(text), [&](const std::string& key) {
-    if (!HasFocus(target)) return false;
+
+ private:
+  BoxAnswers& answers_;
+  Waits& waits_;
+};
+
+// The program without windows: the user's actions go straight to the structs.
+class LogicFrontEnd : public FrontEnd {
+ public:
+  explicit LogicFrontEnd(BoxAnswers& answers) : boxes_(answers, waits_) {}
+
+  void Start(Program& program) override {
+    program_ = &program;
+    seen_.clear();
+  }
+
+  void Stop() override { program_ = nullptr; }
+
+  bool Click(const Target& target) override {
+    return User().Click(*target.control, target.element);
+  }
+
+  bool Type(const Target& target, const std::string& text) override {
+    auto* const box = target.control->As<TextBox>();
+    auto* const combo = target.control->As<ComboBox>();
+    if (!box && !(combo && combo->editable)) return false;
+    if (!GiveFocus(target)) return false;
+    if (box) {
+      if (!box->text.empty() && !User().Type(*box, "")) return false;
+      Deselect(target, *box);
+    } else if (!combo->text.empty() && !User().Type(*combo, "")) {
+      return false;
+    }
+    // A key that takes the focus away ends the typing.
+    return std::ranges::all_of(KeysOf(text), [&](const std::string& key) {
+      if (!HasFocus(target)) return false;
+      PressHere(target, key);
+      return true;
+    });
+  }
+
+  bool Press(const Target& target, const std::string& key) override {
+    if (!GiveFocus(target)) return false;
     PressHere(target, key);
     return true;
-  });
-}
-
-bool LogicFrontEnd::Press(const Target& target, const std::string& key) {
-  if (!GiveFocus(target)) return false;
-  PressHere(target, key);
-  return true;
-}
-
-bool LogicFrontEnd::HasFocus(const Target& target) const {
-  Desk& desk = program_->TheDesk();
-  const Control& control = target.control->Base();
-  return desk.IsUsable(*target.window, control) && target.window->focus == &control;
-}
-
-bool LogicFrontEnd::GiveFocus(const Target& target) {
-  return Desk::TakesFocus(*target.control) && User().Focus(target.control->Base()) &&
-         HasFocus(target);
-}
-
-void LogicFrontEnd::PressHere(const Target& target, const std::string& key) {
-  Control& control = target.control->Base();
-  if (key == kTabKey) {
-    User().Tab(control, true);
-    return;
   }
-  const int waitsBefore = waits_.count;
-  if (auto* const box = target.control->As<TextBox>()) {
-    PressIn(target, *box, key);
-  } else if (auto* const combo = target.control->As<ComboBox>()) {
-    PressIn(*combo, key);
-  } else if (auto* const list = target.control->As<ListView>()) {
-    if (key.size() == 1) User().Type(*list, key.front());
-  } else if (key == " ") {
-    Click(target);
+
+  bool Select(const Target& target, int row, MouseButton button) override {
+    auto* const list = target.control->As<ListView>();
+    return list && User().SelectRow(*list, row, button);
   }
-  if (waits_.count == waitsBefore && HasFocus(target)) User().Key(control, KeyCode(key));
-}
 
-void LogicFrontEnd::PressIn(const Target& target, TextBox& box, const std::string& key) {
-  if (key == kEscapeKey || (key == kEnterKey && !box.multiLine)) return;
-  if (!User().Accepts(box, static_cast<char>(key.size() == 1 ? key.front() : KeyCode(key)))) return;
-  const bool erases = key == kBackspaceKey;
-  if (erases && box.text.empty()) return;
-  std::string text;
-  if (!IsSelected(target, box)) text = erases ? WithoutLast(box.text) : box.text;
-  if (!erases) text += key == kEnterKey ? "\r\n" : key;
-  Deselect(target, box);
-  User().Type(box, std::move(text));
-}
-
-void LogicFrontEnd::PressIn(ComboBox& combo, const std::string& key) {
-  const bool erases = key == kBackspaceKey;
-  if (!combo.editable || (key.size() > 1 && !erases)) return;
-  if (erases && combo.text.empty()) return;
-  User().Type(combo, erases ? WithoutLast(combo.text) : combo.text + key);
-}
-
-bool LogicFrontEnd::IsSelected(const Target& target, const TextBox& box) const {
-  const auto found = seen_.find(&box);
-  const bool sameLife = found != seen_.end() && found->second.loads == target.window->loads;
-  return box.selections > (sameLife ? found->second.selections : 0);
-}
-
-void LogicFrontEnd::Deselect(const Target& target, const TextBox& box) {
-  seen_[&box] = {target.window->loads, box.selections};
-}
-
-bool LogicFrontEnd::Select(const Target& target, int row, MouseButton button) {
-  auto* const list = target.control->As<ListView>();
-  return list && User().SelectRow(*list, row, button);
-}
-
-bool LogicFrontEnd::Pick(const Target& target, const std::string& entry) {
-  auto* const combo = target.control->As<ComboBox>();
-  if (!combo) return false;
-  const auto found = std::find(combo->list.begin(), combo->list.end(), entry);
-  const auto index = static_cast<int>(found - combo->list.begin());
-  return found != combo->list.end() && GiveFocus(target) &&
-         index < static_cast<int>(combo->list.size()) && User().Pick(*combo, index);
-}
-
-bool LogicFrontEnd::Leave(const Target& target) {
-  return Desk::TakesFocus(*target.control) && User().Leave(target.control->Base());
-}
-
-bool LogicFrontEnd::Hover(const Target& target) {
-  return User().Hover(target.control->Base());
-}
-
-bool LogicFrontEnd::Scroll(const Target& target, int value) {
-  auto* const bar = target.control->As<ScrollBar>();
-  return bar && value >= 0 && value <= bar->max && User().Scroll(*bar, value);
-}
-
-bool LogicFrontEnd::Tick(const Target& target, int times) {
-  auto* const timer = target.control->As<Timer>();
-  if (!timer || !target.window->loaded || program_->TheDesk().Ended()) return false;
-  for (int i = 0; i < times && User().Tick(*timer); ++i) {
+  bool Pick(const Target& target, const std::string& entry) override {
+    auto* const combo = target.control->As<ComboBox>();
+    if (!combo) return false;
+    const auto found = std::find(combo->list.begin(), combo->list.end(), entry);
+    const auto index = static_cast<int>(found - combo->list.begin());
+    return found != combo->list.end() && GiveFocus(target) &&
+           index < static_cast<int>(combo->list.size()) && User().Pick(*combo, index);
   }
-  return true;
-}
 
-bool LogicFrontEnd::Close(Desk::Entry& window) {
-  return User().Close(*window.window);
-}
+  bool Leave(const Target& target) override {
+    return Desk::TakesFocus(*target.control) && User().Leave(target.control->Base());
+  }
 
-std::optional<std::string> LogicFrontEnd::Read(const Target& target, const std::string& property) {
-  return ReadProperty(program_->TheDesk(), target, property);
+  bool Hover(const Target& target) override { return User().Hover(target.control->Base()); }
+
+  bool Scroll(const Target& target, int value) override {
+    auto* const bar = target.control->As<ScrollBar>();
+    return bar && value >= 0 && value <= bar->max && User().Scroll(*bar, value);
+  }
+
+  bool Tick(const Target& target, int times) override {
+    auto* const timer = target.control->As<Timer>();
+    if (!timer || !target.window->loaded || program_->TheDesk().Ended()) return false;
+    while (times-- > 0 && User().Tick(*timer)) continue;
+    return true;
+  }
+
+  bool Close(Desk::Entry& window) override { return User().Close(*window.window); }
+
+  bool Shot(const std::string& /*name*/) override { return true; }
+
+  std::optional<std::string> Read(const Target& target, const std::string& property) override {
+    return ReadProperty(program_->TheDesk(), target, property);
+  }
+
+  MessageBoxes& Boxes() override { return boxes_; }
+
+  Waits& TheWaits() override { return waits_; }
+
+ private:
+  // How often a box's text had been selected when that was last looked at.
+  struct Seen {
+    int loads = 0;
+    int selections = 0;
+  };
+
+  [[nodiscard]] Input& User() { return program_->TheInput(); }
+
+  bool HasFocus(const Target& target) const {
+    Desk& desk = program_->TheDesk();
+    const Control& control = target.control->Base();
+    return desk.IsUsable(*target.window, control) && target.window->focus == &control;
+  }
+
+  bool GiveFocus(const Target& target) {
+    return Desk::TakesFocus(*target.control) && User().Focus(target.control->Base()) &&
+           HasFocus(target);
+  }
+
+  // Presses and releases a key in the control that has the focus.
+  void PressHere(const Target& target, const std::string& key) {
+    Control& control = target.control->Base();
+    if (key == kTabKey) {
+      User().Tab(control, true);
+      return;
+    }
+    const int waitsBefore = waits_.count;
+    if (auto* const box = target.control->As<TextBox>()) {
+      PressIn(target, *box, key);
+    } else if (auto* const combo = target.control->As<ComboBox>()) {
+      PressIn(*combo, key);
+    } else if (auto* const list = target.control->As<ListView>()) {
+      if (key.size() == 1) User().Type(*list, key.front());
+    } else if (key == " ") {
+      Click(target);
+    }
+    if (waits_.count == waitsBefore && HasFocus(target)) User().Key(control, KeyCode(key));
+  }
+
+  void PressIn(const Target& target, TextBox& box, const std::string& key) {
+    if (key == kEscapeKey || (key == kEnterKey && !box.multiLine)) return;
+    if (!User().Accepts(box, static_cast<char>(key.size() == 1 ? key.front() : KeyCode(key))))
+      return;
+    const bool erases = key == kBackspaceKey;
+    if (erases && box.text.empty()) return;
+    std::string text;
+    if (!IsSelected(target, box)) text = erases ? WithoutLast(box.text) : box.text;
+    if (!erases) text += key == kEnterKey ? "\r\n" : key;
+    Deselect(target, box);
+    User().Type(box, std::move(text));
+  }
+
+  void PressIn(ComboBox& combo, const std::string& key) {
+    const bool erases = key == kBackspaceKey;
+    if (!combo.editable || (key.size() > 1 && !erases)) return;
+    if (erases && combo.text.empty()) return;
+    User().Type(combo, erases ? WithoutLast(combo.text) : combo.text + key);
+  }
+
+  bool IsSelected(const Target& target, const TextBox& box) const {
+    const auto found = seen_.find(&box);
+    const bool sameLife = found != seen_.end() && found->second.loads == target.window->loads;
+    return box.selections > (sameLife ? found->second.selections : 0);
+  }
+
+  void Deselect(const Target& target, const TextBox& box) {
+    seen_[&box] = {target.window->loads, box.selections};
+  }
+
+  Program* program_ = nullptr;
+  CountedWaits waits_;
+  AnsweredBoxes boxes_;
+  std::map<const TextBox*, Seen> seen_;
+};
+
+}  // namespace
+
+std::unique_ptr<FrontEnd> MakeLogicFrontEnd(BoxAnswers& answers) {
+  return std::make_unique<LogicFrontEnd>(answers);
 }
 
 }  // namespace benevix

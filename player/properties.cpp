@@ -1,22 +1,18 @@
 #include "player/properties.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
+#include <map>
 
-#include "player/numbers.h"
-#include "player/targets.h"
+#include "base/number_text.h"
+#include "player/paths.h"
+#include "player/words.h"
 
 namespace benevix {
 namespace {
 
 using Text = std::optional<std::string>;
-
-// The number in the brackets of "NAME(number)".
-std::optional<int> Index(const std::string& text, const std::string& name) {
-  const std::string before = name + "(";
-  if (!text.starts_with(before) || !text.ends_with(')')) return std::nullopt;
-  return WholeNumberIn(text.substr(before.size(), text.size() - before.size() - 1));
-}
 
 Text OfWindow(const Desk& desk, const Desk::Entry& entry, const std::string& property) {
   const Window& window = *entry.window;
@@ -73,8 +69,8 @@ struct Further {
   Text operator()(const ComboBox* combo) const {
     if (property == "Text") return combo->text;
     if (property == "Count") return std::to_string(combo->list.size());
-    const auto index = Index(property, "List");
-    if (!index || *index < 0 || *index >= static_cast<int>(combo->list.size())) return std::nullopt;
+    const auto index = IndexIn(property, "List");
+    if (!index || *index >= static_cast<int>(combo->list.size())) return std::nullopt;
     return combo->list[static_cast<std::size_t>(*index)];
   }
   Text operator()(const MenuItem* item) const {
@@ -85,7 +81,9 @@ struct Further {
     if (property == "Count") return std::to_string(list->Count());
     if (property == "Selected") return std::to_string(list->selected);
     if (property == "Top") return std::to_string(list->top);
-    return Cell(*list);
+    const auto cell = CellIn(property);
+    if (!cell || cell->row < 1 || cell->row > list->Count()) return std::nullopt;
+    return list->SubItem(cell->row, cell->column);
   }
   Text operator()(const Shape* shape) const {
     if (property == "FillColor") return ColorText(shape->fillColor);
@@ -113,19 +111,6 @@ struct Further {
     if (property != "Caption") return std::nullopt;
     return caption;
   }
-
-  // Row(R).Text, Row(R).SubItem(N)
-  [[nodiscard]] Text Cell(const ListView& list) const {
-    const auto point = property.find('.');
-    if (point == std::string::npos) return std::nullopt;
-    const auto row = Index(property.substr(0, point), "Row");
-    if (!row || *row < 1 || *row > list.Count()) return std::nullopt;
-    const std::string cell = property.substr(point + 1);
-    if (cell == "Text") return list.Text(*row);
-    const auto column = Index(cell, "SubItem");
-    if (!column || *column < 1 || *column >= ListView::kColumns) return std::nullopt;
-    return list.SubItem(*row, *column);
-  }
 };
 
 Text OfElement(const MenuArray& array, int element, const std::string& property) {
@@ -149,6 +134,51 @@ Text ReadProperty(const Desk& desk, const Target& target, const std::string& pro
   }
   const Text text = OfEvery(target.control->Base(), property);
   return text ? text : std::visit(Further{property}, target.control->any);
+}
+
+std::optional<std::string> ReadValue(const Program& program, const std::string& name) {
+  const SessionValues& values = program.Values();
+  const FeeRates& rates = program.Rates();
+  const RunValues& run = program.Run();
+  const std::map<std::string, std::string> texts = {
+      {"Budget", values.Budget.ToText()},
+      {"BudgetEntered", values.BudgetEntered.ToText()},
+      {"Balance", values.Balance.ToText()},
+      {"Donation", values.Donation.ToText()},
+      {"TotalDonated", values.TotalDonated.ToText()},
+      {"BvxFee", values.BvxFee.ToText()},
+      {"CardFee", values.CardFee.ToText()},
+      {"PoolFee", std::to_string(rates.PoolFee)},
+      {"StandAloneFee", std::to_string(rates.StandAloneFee)},
+      {"CardRate", rates.CardRate.ToText()},
+      {"CardFixed", rates.CardFixed.ToText()},
+      {"SessionFee", rates.SessionFee.ToText()},
+      {"RatesField6", rates.RatesField6},
+      {"RatesField7", rates.RatesField7},
+      {"ServerOK", BooleanText(run.ServerOK)},
+      {"DBVersion", SingleToText(run.DBVersion)},
+      {"YtdState", std::to_string(run.YtdState)},
+      {"PlatformCode", std::to_string(run.PlatformCode)},
+  };
+  const auto found = texts.find(name);
+  if (found == texts.end()) return std::nullopt;
+  return found->second;
+}
+
+std::optional<int> IndexIn(const std::string& property, const std::string& name) {
+  const std::string before = name + "(";
+  if (!property.starts_with(before) || !property.ends_with(')')) return std::nullopt;
+  return WholeNumberIn(property.substr(before.size(), property.size() - before.size() - 1));
+}
+
+std::optional<Cell> CellIn(const std::string& property) {
+  const auto point = std::min(property.find('.'), property.size());
+  const auto row = IndexIn(property.substr(0, point), "Row");
+  const std::string cell = property.substr(point);
+  if (row && cell == ".Text") return Cell{*row, 0};
+  const auto column = IndexIn(cell, ".SubItem");
+  if (!row || !column || *column < 1 || *column >= ListView::kColumns) return std::nullopt;
+  return Cell{*row, *column};
 }
 
 std::string BooleanText(bool value) {

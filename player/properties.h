@@ -12,6 +12,19 @@ namespace benevix {
 std::optional<std::string> ReadProperty(const Desk& desk, const Target& target,
                                         const std::string& property);
 
+// A program-wide value by its name; nothing when there is none of that name.
+std::optional<std::string> ReadValue(const Program& program, const std::string& name);
+
+// The number I of "NAME(I)".
+std::optional<int> IndexIn(const std::string& property, const std::string& name);
+
+// The cell that "Row(R).Text" or "Row(R).SubItem(N)" names: rows from 1, the text is column 0.
+struct Cell {
+  int row = 0;
+  int column = 0;
+};
+std::optional<Cell> CellIn(const std::string& property);
+
 std::string BooleanText(bool value);
 
 // &H and the eight hexadecimal digits.

@@ -1,4 +1,4 @@
-#include "player/routines.h"
+// The routines of the program that a script can call.
 
 #include <algorithm>
 #include <charconv>
@@ -12,9 +12,9 @@
 #include "base/text.h"
 #include "core/run_values.h"
 #include "core/shell_helpers.h"
-#include "player/line_kinds.h"
-#include "player/numbers.h"
-#include "player/stage.h"
+#include "player/program_runner.h"
+#include "player/script.h"
+#include "player/words.h"
 #include "session/hints.h"
 
 namespace benevix {
@@ -75,42 +75,42 @@ void InProgram(Program& program, const std::function<void()>& what) {
   if (raised) throw RuntimeError(*raised);
 }
 
-std::string CallCodec(Stage& stage, const Texts& arguments) {
-  const bool built = stage.Runs() || stage.HasEnded();
+std::string CallCodec(ProgramRunner& runner, const Texts& arguments) {
+  const bool built = runner.IsRunning() || runner.HasEnded();
   const TextCodec codec =
-      built ? stage.TheProgram().Codec() : TextCodec(stage.TheWorld().info.exeName);
+      built ? runner.TheProgram().Codec() : TextCodec(runner.TheWorld().info.exeName);
   std::string output;
   codec.Codec(arguments[0], output, Whole16(arguments[1]), Whole16(arguments[2]));
   return output;
 }
 
-std::string CallFormat(Stage&, const Texts& arguments) {
+std::string CallFormat(ProgramRunner&, const Texts& arguments) {
   if (!IsNumeric(arguments[0])) return FormatText(arguments[0], arguments[1]);
   return Format(Money(arguments[0]), arguments[1]);
 }
 
-std::string CallFormatSingle(Stage&, const Texts& arguments) {
+std::string CallFormatSingle(ProgramRunner&, const Texts& arguments) {
   if (!IsNumeric(arguments[0])) return FormatText(arguments[0], arguments[1]);
   return FormatSingle(static_cast<float>(Double(arguments[0])), arguments[1]);
 }
 
-std::string CallShowHint(Stage& stage, const Texts& arguments) {
-  Program& program = stage.TheProgram();
+std::string CallShowHint(ProgramRunner& runner, const Texts& arguments) {
+  Program& program = runner.TheProgram();
   const int step = Whole(arguments[0]);
   InProgram(program, [&] { ShowHint(program.TheForms().Get<frmBVX>(), step); });
   return "";
 }
 
-std::string CallShowMessage(Stage& stage, const Texts& arguments) {
-  Program& program = stage.TheProgram();
+std::string CallShowMessage(ProgramRunner& runner, const Texts& arguments) {
+  Program& program = runner.TheProgram();
   const std::uint8_t number = Whole8(arguments[0]), kind = Whole8(arguments[1]);
   std::string extra = arguments[2];
   InProgram(program, [&] { program.TheMessages().ShowMessage(number, kind, extra); });
   return extra;
 }
 
-std::string CallLookupContacts(Stage& stage, const Texts& arguments) {
-  Program& program = stage.TheProgram();
+std::string CallLookupContacts(ProgramRunner& runner, const Texts& arguments) {
+  Program& program = runner.TheProgram();
   std::string first, second;
   InProgram(program, [&] { program.Contacts().LookupContacts(arguments[0], first, second); });
   return first + ";" + second;
@@ -118,33 +118,36 @@ std::string CallLookupContacts(Stage& stage, const Texts& arguments) {
 
 struct Routine {
   std::size_t arguments = 0;
-  std::string (*call)(Stage& stage, const Texts& arguments);
+  std::string (*call)(ProgramRunner& runner, const Texts& arguments);
 };
 
 const std::map<std::string, Routine>& Routines() {
   static const std::map<std::string, Routine> routines = {
       {"Codec", {3, CallCodec}},
-      {"Val", {1, [](Stage&, const Texts& a) { return DoubleToText(Val(a[0])); }}},
+      {"Val", {1, [](ProgramRunner&, const Texts& a) { return DoubleToText(Val(a[0])); }}},
       {"IsNumeric",
-       {1, [](Stage&, const Texts& a) { return std::string(IsNumeric(a[0]) ? "True" : "False"); }}},
+       {1, [](ProgramRunner&,
+              const Texts& a) { return std::string(IsNumeric(a[0]) ? "True" : "False"); }}},
       {"Currency",
-       {1, [](Stage&, const Texts& a) { return Currency::FromDouble(Double(a[0])).ToText(); }}},
+       {1, [](ProgramRunner&,
+              const Texts& a) { return Currency::FromDouble(Double(a[0])).ToText(); }}},
       {"CurrencyProduct",
-       {2, [](Stage&, const Texts& a) { return Product(Money(a[0]), Money(a[1])).ToText(); }}},
+       {2,
+        [](ProgramRunner&, const Texts& a) { return Product(Money(a[0]), Money(a[1])).ToText(); }}},
       {"WholeNumber",
-       {1, [](Stage&, const Texts& a) { return std::to_string(ToInt32(Double(a[0]))); }}},
+       {1, [](ProgramRunner&, const Texts& a) { return std::to_string(ToInt32(Double(a[0]))); }}},
       {"Format", {2, CallFormat}},
       {"FormatSingle", {2, CallFormatSingle}},
       {"GetPlatformCode",
        {0,
-        [](Stage& stage, const Texts&) {
+        [](ProgramRunner& runner, const Texts&) {
           return std::to_string(
-              GetPlatformCode(stage.TheProgram().TheSurroundings().info.platformId));
+              GetPlatformCode(runner.TheProgram().TheSurroundings().info.platformId));
         }}},
       {"GetSpecialFolder",
        {1,
-        [](Stage& stage, const Texts& a) {
-          return FromUtf8(GetSpecialFolder(stage.TheWorld().shell, Whole(a[0])));
+        [](ProgramRunner& runner, const Texts& a) {
+          return FromUtf8(GetSpecialFolder(runner.TheWorld().shell, Whole(a[0])));
         }}},
       {"LookupContacts", {1, CallLookupContacts}},
       {"ShowHint", {1, CallShowHint}},
@@ -155,19 +158,22 @@ const std::map<std::string, Routine>& Routines() {
 
 }  // namespace
 
-std::optional<std::string> CallRoutine(Stage& stage, const std::string& routine,
-                                       const Texts& arguments) {
-  const auto found = Routines().find(routine);
-  if (found == Routines().end()) throw CannotBeDone("there is no routine " + routine);
-  if (found->second.arguments != arguments.size()) {
-    throw CannotBeDone(routine + " takes " + std::to_string(found->second.arguments) +
-                       " arguments");
+void CallRoutine(ProgramRunner& runner, const Texts& words) {
+  const auto found = Routines().find(words[0]);
+  if (found == Routines().end()) throw CannotBeDone("there is no routine " + words[0]);
+  const Routine& routine = found->second;
+  const Texts arguments(words.begin() + 1, words.end() - 2);
+  if (arguments.size() != routine.arguments) {
+    throw CannotBeDone(words[0] + " takes " + std::to_string(routine.arguments) + " arguments");
   }
+  std::optional<std::string> result;  // nothing when it raises an error
   try {
-    return found->second.call(stage, arguments);
+    result = routine.call(runner, arguments);
   } catch (const RuntimeError&) {
-    return std::nullopt;
   }
+  const std::string& expected = words.back();
+  if (result ? *result == expected : expected == "error") return;
+  throw Mismatch{words[0] + " = " + Quoted(expected), result ? Quoted(*result) : "an error"};
 }
 
 }  // namespace benevix

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "player/play_file.h"
+#include "player/player.h"
 
 namespace benevix {
 namespace {
@@ -36,7 +36,7 @@ void AddCounts(std::string_view line, const std::string& file, Counts& counts) {
 
 int RunFile(const QString& program, const QStringList& arguments, const QString& file,
             Counts& counts) {
-  // What a script that breaks off leaves behind goes with this folder.
+  // Holds the temporary files, which a script that breaks off does not remove itself.
   const QTemporaryDir temporary;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert("TMPDIR", temporary.path());

@@ -5,9 +5,9 @@
 
 #include "core/codec.h"
 #include "people/contact_information.h"
-#include "player/line_kinds.h"
-#include "player/numbers.h"
-#include "player/stage.h"
+#include "player/program_runner.h"
+#include "player/script.h"
+#include "player/words.h"
 
 namespace benevix {
 namespace {
@@ -24,19 +24,19 @@ void WriteFile(const std::string& file, const std::string& bytes) {
   if (!stream) throw CannotBeDone("the file cannot be written");
 }
 
-void Version(Stage& stage, const Texts& words) {
-  ProgramInfo& info = stage.TheWorld().info;
+void Version(ProgramRunner& runner, const Texts& words) {
+  ProgramInfo& info = runner.TheWorld().info;
   info.major = WholeNumberIn(words[0]).value();
   info.minor = WholeNumberIn(words[1]).value();
   info.revision = WholeNumberIn(words[2]).value();
 }
 
-void Random(Stage& stage, const Texts& words) {
-  for (const std::string& word : words) stage.TheWorld().random.Give(DoubleIn(word).value());
+void Random(ProgramRunner& runner, const Texts& words) {
+  for (const std::string& word : words) runner.TheWorld().random.Give(DoubleIn(word).value());
 }
 
-void Setting(Stage& stage, const Texts& words) {
-  WorldSettings& settings = stage.TheWorld().settings;
+void Setting(ProgramRunner& runner, const Texts& words) {
+  WorldSettings& settings = runner.TheWorld().settings;
   if (words.size() == 3) {
     settings.Put(words[0], words[1], words[2]);
   } else {
@@ -45,71 +45,72 @@ void Setting(Stage& stage, const Texts& words) {
 }
 
 // As the contact window would have saved them.
-void Contact(Stage& stage, const Texts& words) {
+void Contact(ProgramRunner& runner, const Texts& words) {
   frmPersInfo window;
   for (std::size_t i = 0; i < words.size(); ++i) window.Text1[i].text = words[i];
-  World& world = stage.TheWorld();
+  World& world = runner.TheWorld();
   world.settings.Put("user", "UsrInfo",
                      TextCodec(world.info.exeName).Scramble(JoinContact(window)));
 }
 
-void Write(Stage& stage, const Texts& words) {
-  WriteFile(stage.TheWorld().ProgramFile(words[0]), words[1]);
+void Write(ProgramRunner& runner, const Texts& words) {
+  WriteFile(runner.TheWorld().ProgramFile(words[0]), words[1]);
 }
 
-void Remove(Stage& stage, const Texts& words) {
+void Remove(ProgramRunner& runner, const Texts& words) {
   std::error_code error;
-  std::filesystem::remove(PathOf(stage.TheWorld().ProgramFile(words[0])), error);
+  std::filesystem::remove(PathOf(runner.TheWorld().ProgramFile(words[0])), error);
   if (error) throw CannotBeDone(error.message());
 }
 
-void ShellFile(Stage& stage, const Texts& words) {
-  WriteFile(stage.TheWorld().ShellFile(words[0], words[1]), words[2]);
+void ShellFile(ProgramRunner& runner, const Texts& words) {
+  WriteFile(runner.TheWorld().ShellFile(words[0], words[1]), words[2]);
 }
 
 template <LoopbackServer::Reply reply>
-void SiteRefuses(Stage& stage, const Texts& words) {
-  stage.TheWorld().site.Put(words[0], {reply, 0, ""});
+void SiteRefuses(ProgramRunner& runner, const Texts& words) {
+  runner.TheWorld().site.Put(words[0], {reply, 0, ""});
 }
 
-void SiteStatus(Stage& stage, const Texts& words) {
-  stage.TheWorld().site.Put(
+void SiteStatus(ProgramRunner& runner, const Texts& words) {
+  runner.TheWorld().site.Put(
       words[0], {LoopbackServer::Reply::Answer, WholeNumberIn(words[2]).value(), words[3]});
 }
 
-void SiteText(Stage& stage, const Texts& words) {
-  stage.TheWorld().site.Put(words[0], {LoopbackServer::Reply::Answer, 200, words[1]});
+void SiteText(ProgramRunner& runner, const Texts& words) {
+  runner.TheWorld().site.Put(words[0], {LoopbackServer::Reply::Answer, 200, words[1]});
 }
 
 }  // namespace
 
 const std::vector<LineKind>& SettingUpLines() {
   static const std::vector<LineKind> kinds = {
-      {"exe NAME",
-       [](Stage& stage, const Texts& words) { stage.TheWorld().info.exeName = words[0]; }},
+      {"exe NAME", [](ProgramRunner& runner,
+                      const Texts& words) { runner.TheWorld().info.exeName = words[0]; }},
       {"version NUMBER NUMBER NUMBER", Version},
       {"os NUMBER",
-       [](Stage& stage, const Texts& words) {
-         stage.TheWorld().info.platformId = WholeNumberIn(words[0]).value();
+       [](ProgramRunner& runner, const Texts& words) {
+         runner.TheWorld().info.platformId = WholeNumberIn(words[0]).value();
        }},
       {"time MOMENT",
-       [](Stage& stage, const Texts& words) { stage.TheWorld().clock.Set(words[0]); }},
+       [](ProgramRunner& runner, const Texts& words) { runner.TheWorld().clock.Set(words[0]); }},
       {"random FRACTION FRACTION...", Random},
       {"setting ROOT NAME [TEXT]", Setting},
-      {"readonly machine",
-       [](Stage& stage, const Texts&) { stage.TheWorld().settings.MakeMachineReadonly(); }},
+      {"readonly machine", [](ProgramRunner& runner,
+                              const Texts&) { runner.TheWorld().settings.MakeMachineReadonly(); }},
       {"contact NAME ADDRESS CITY STATE POSTAL COUNTRY EMAIL", Contact},
       {"file PATH", Write, true},
       {"bytes PATH TEXT", Write},
       {"remove PATH", Remove},
       {"shellfile FOLDER PATH TEXT", ShellFile},
-      {"site down", [](Stage& stage, const Texts&) { stage.TheWorld().site.Down(); }},
-      {"site up", [](Stage& stage, const Texts&) { stage.TheWorld().site.Up(); }},
+      {"site down", [](ProgramRunner& runner, const Texts&) { runner.TheWorld().site.Down(); }},
+      {"site up", [](ProgramRunner& runner, const Texts&) { runner.TheWorld().site.Up(); }},
       {"site TARGET drop", SiteRefuses<LoopbackServer::Reply::Close>},
       {"site TARGET silent", SiteRefuses<LoopbackServer::Reply::Silence>},
       {"site TARGET TEXT", SiteText},
       {"site TARGET status NUMBER TEXT", SiteStatus},
-      {"printer off", [](Stage& stage, const Texts&) { stage.TheWorld().printer.off = true; }},
+      {"printer off",
+       [](ProgramRunner& runner, const Texts&) { runner.TheWorld().printer.off = true; }},
   };
   return kinds;
 }

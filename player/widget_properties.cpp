@@ -1,28 +1,26 @@
 #include "player/widget_properties.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTableView>
 
 #include "mirror/look/texts.h"
-#include "player/path.h"
 #include "player/properties.h"
+#include "player/widget_colors.h"
 
 namespace benevix {
 namespace {
 
 using Text = std::optional<std::string>;
-
-Text Flag(bool value) {
-  return value ? "True" : "False";
-}
 
 // What the code page cannot say stays visible as a fault.
 Text Shown(const QString& text) {
@@ -30,7 +28,7 @@ Text Shown(const QString& text) {
   return ToQString(bytes) == text ? bytes : text.toStdString();
 }
 
-// Where the mnemonic's mark is drawn is not the caption's business.
+// The caption without regard to where the mnemonic's mark is drawn.
 Text Caption(const QString& shown, const Text& designed) {
   const auto unmarked = [](QString text) { return text.remove(QLatin1Char('&')); };
   if (designed && unmarked(Drawn(*designed)) == unmarked(shown)) return designed;
@@ -41,33 +39,31 @@ Text ReadAction(const QAction& action, const std::string& property, const Text& 
   if (property == "Caption") {
     return Caption(action.text().replace(QLatin1String("&&"), QLatin1String("&")), fromStruct);
   }
-  if (property == "Checked") return Flag(action.isChecked());
-  if (property == "Enabled") return Flag(action.isEnabled());
+  if (property == "Checked") return BooleanText(action.isChecked());
+  // The toolkit disables the menus of a disabled window.
+  const bool ofMenu = action.menu() != nullptr && !action.menu()->parentWidget()->isEnabled();
+  if (property == "Enabled" && !ofMenu) return BooleanText(action.isEnabled());
   return fromStruct;
 }
 
 Text ReadList(const QTableView& view, const std::string& property, const Text& fromStruct) {
   if (property == "Count") return std::to_string(view.model()->rowCount());
   if (property == "Selected") return std::to_string(view.currentIndex().row() + 1);
-  if (property.rfind("Row(", 0) != 0 || !fromStruct) return fromStruct;
-  const auto parts = PathParts(property);
-  const int row = parts.at(0).index;
-  const int column = parts.at(1).name == "Text" ? 0 : parts.at(1).index;
-  return Shown(view.model()->index(row - 1, column).data().toString());
+  const auto cell = CellIn(property);
+  if (!cell) return fromStruct;
+  return Shown(view.model()->index(cell->row - 1, cell->column).data().toString());
 }
 
 Text ReadCombo(const QComboBox& combo, const std::string& property, const Text& fromStruct) {
   if (property == "Text") return Shown(combo.currentText());
   if (property == "Count") return std::to_string(combo.count());
-  if (property.rfind("List(", 0) == 0 && fromStruct) {
-    return Shown(combo.itemText(PathParts(property).at(0).index));
-  }
-  return fromStruct;
+  const auto index = IndexIn(property, "List");
+  return index ? Shown(combo.itemText(*index)) : fromStruct;
 }
 
 Text ReadWidget(const QWidget& widget, const std::string& property, const Text& fromStruct) {
-  if (property == "Enabled") return Flag(widget.isEnabledTo(widget.parentWidget()));
-  if (property == "Visible") return Flag(!widget.isHidden());
+  if (property == "Enabled") return BooleanText(widget.isEnabledTo(widget.parentWidget()));
+  if (property == "Visible") return BooleanText(!widget.isHidden());
   if (property == "ToolTip") return Shown(widget.toolTip());
   if (property == "Text") {
     const auto* const multiLine = qobject_cast<const QPlainTextEdit*>(&widget);
@@ -85,20 +81,24 @@ Text ReadWidget(const QWidget& widget, const std::string& property, const Text& 
   if (property == "Caption") return Caption(WidgetText(widget), fromStruct);
   if (property == "Value") {
     if (const auto* const option = qobject_cast<const QRadioButton*>(&widget)) {
-      return Flag(option->isChecked());
+      return BooleanText(option->isChecked());
     }
     if (const auto* const box = qobject_cast<const QCheckBox*>(&widget)) {
       return box->isChecked() ? "1" : "0";
     }
   }
-  if (property == "FontBold") return Flag(widget.font().bold());
+  if (const auto* const bar = qobject_cast<const QScrollBar*>(&widget)) {
+    if (property == "Max") return std::to_string(bar->maximum());
+    if (property == "Value") return std::to_string(bar->value());
+  }
+  if (property == "FontBold") return BooleanText(widget.font().bold());
   return fromStruct;
 }
 
 Text ReadWindow(const QWidget& widget, const std::string& property, const Text& fromStruct) {
   if (property == "Caption") return Shown(widget.windowTitle());
-  if (property == "Shown") return Flag(widget.isVisible());
-  if (property == "Enabled") return Flag(widget.isEnabled());
+  if (property == "Shown") return BooleanText(widget.isVisible());
+  if (property == "Enabled") return BooleanText(widget.isEnabled());
   if (property == "MousePointer") {
     return widget.cursor().shape() == Qt::WaitCursor ? "Hourglass" : "Default";
   }
@@ -124,15 +124,18 @@ QString WidgetText(const QWidget& widget) {
 }
 
 std::optional<std::string> ReadWidgetProperty(Program& program, WindowBinding* binding,
-                                              const Target& target, const std::string& property) {
+                                              const Target& target, const std::string& property,
+                                              Scheme scheme) {
   const Text fromStruct = ReadProperty(program.TheDesk(), target, property);
-  if (binding == nullptr) return fromStruct;
+  if (binding == nullptr || !fromStruct) return fromStruct;
   if (target.control == nullptr) return ReadWindow(binding->Widget(), property, fromStruct);
-  if (const QAction* const action = binding->ActionOf(*target.control, target.element)) {
-    return ReadAction(*action, property, fromStruct);
-  }
-  const QWidget* const widget = binding->WidgetOf(target.control->Base());
-  return widget == nullptr || !fromStruct ? fromStruct : ReadWidget(*widget, property, fromStruct);
+  const QAction* const action = binding->ActionOf(*target.control, target.element);
+  if (property == "Exists") return BooleanText(action != nullptr);
+  if (action != nullptr) return ReadAction(*action, property, fromStruct);
+  QWidget* const widget = binding->WidgetOf(target.control->Base());
+  if (widget == nullptr) return fromStruct;
+  const Text color = ReadWidgetColor(*target.control, *widget, property, scheme);
+  return color ? color : ReadWidget(*widget, property, fromStruct);
 }
 
 }  // namespace benevix

@@ -13,10 +13,11 @@ namespace benevix {
 // What a widget shows as its text.
 QString WidgetText(const QWidget& widget);
 
-// A property as the widgets show it: texts, chosen and checked marks, states, lists, rows,
-// captions, tool tips and menus. The rest, and windows that do not stand on the screen, are read
-// from the structs.
+// A property as the widgets show it: texts, captions, tool tips, chosen and checked marks, states,
+// colours, lists, menus and scroll bars. The rest, and windows that do not stand on the screen, are
+// read from the structs.
 std::optional<std::string> ReadWidgetProperty(Program& program, WindowBinding* binding,
-                                              const Target& target, const std::string& property);
+                                              const Target& target, const std::string& property,
+                                              Scheme scheme);
 
 }  // namespace benevix

@@ -1,20 +1,20 @@
-#include "player/windows_front_end.h"
-
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTest>
+#include <algorithm>
 
 #include "mirror/look/texts.h"
-#include "player/keys.h"
-#include "player/page_picture.h"
+#include "mirror/mirror/mirror.h"
+#include "mirror/mirror/qt_message_boxes.h"
+#include "player/front_end.h"
+#include "player/waiting.h"
 #include "player/widget_properties.h"
+#include "player/words.h"
 
 namespace benevix {
 namespace {
@@ -62,194 +62,227 @@ QPoint ClickPoint(const QWidget& widget) {
   return marked ? QPoint(std::min(10, center.x()), center.y()) : center;
 }
 
-}  // namespace
+// The box on the screen is answered by its own button.
+class AnsweredBoxes : public MessageBoxes {
+ public:
+  AnsweredBoxes(Waits& waits, BoxAnswers& answers) : real_(waits), answers_(answers) {}
 
-BoxAnswer WindowsFrontEnd::AnsweredBoxes::Show(const std::string& title, const std::string& text,
-                                               BoxIcon icon, BoxButtons buttons) {
-  const BoxAnswer answer = answers_.Take({title, text, icon, buttons});
-  real_.onShown = [answer](QMessageBox& box) {
-    const auto wanted = answer == BoxAnswer::Yes  ? QMessageBox::Yes
-                        : answer == BoxAnswer::No ? QMessageBox::No
-                                                  : QMessageBox::Ok;
-    if (QAbstractButton* const button = box.button(wanted)) {
-      ClickAt(*button, button->rect().center());
-    }
-  };
-  return real_.Show(title, text, icon, buttons);
-}
+  BoxAnswer Show(const std::string& title, const std::string& text, BoxIcon icon,
+                 BoxButtons buttons) override {
+    const BoxAnswer answer = answers_.Take({title, text, icon, buttons});
+    real_.onShown = [answer](QMessageBox& box) {
+      const auto wanted = answer == BoxAnswer::Yes  ? QMessageBox::Yes
+                          : answer == BoxAnswer::No ? QMessageBox::No
+                                                    : QMessageBox::Ok;
+      if (QAbstractButton* const button = box.button(wanted)) {
+        ClickAt(*button, button->rect().center());
+      }
+    };
+    return real_.Show(title, text, icon, buttons);
+  }
 
-WindowsFrontEnd::WindowsFrontEnd(BoxAnswers& answers, std::string shots)
-    : mirror_(DesktopScheme(), Mirror::Timers::Hold),
-      boxes_(mirror_, answers),
-      shots_(std::move(shots)) {
-  ApplyTheme(*qApp, DesktopScheme());
-}
+ private:
+  QtMessageBoxes real_;
+  BoxAnswers& answers_;
+};
 
-void WindowsFrontEnd::Start(Program& program) {
-  program_ = &program;
-  mirror_.Attach(program.TheDesk(), program.TheInput());
-}
+// The real windows: keys, clicks and menu choices go through the widgets and their windows, and
+// what is checked is read back from them.
+class WindowsFrontEnd : public FrontEnd {
+ public:
+  WindowsFrontEnd(BoxAnswers& answers, std::string shots)
+      : mirror_(scheme_, Mirror::Timers::Hold), boxes_(mirror_, answers), shots_(std::move(shots)) {
+    ApplyTheme(*qApp, scheme_);
+  }
 
-void WindowsFrontEnd::Stop() {
-  mirror_.Detach();
-  program_ = nullptr;
-  Settle();
-}
+  void Start(Program& program) override {
+    program_ = &program;
+    mirror_.Attach(program.TheDesk(), program.TheInput());
+  }
 
-void WindowsFrontEnd::Settle() {
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  QCoreApplication::processEvents();
-}
-
-QWidget* WindowsFrontEnd::WidgetOf(const Target& target) const {
-  const WindowBinding* const binding = mirror_.BindingOf(*target.window->window);
-  if (binding == nullptr || target.control == nullptr) return nullptr;
-  return binding->WidgetOf(target.control->Base());
-}
-
-QWidget* WindowsFrontEnd::Reach(const Target& target) {
-  while (QWidget* const popUp = QApplication::activePopupWidget()) popUp->close();
-  Settle();
-  QWidget* const widget = WidgetOf(target);
-  if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) return nullptr;
-  if (!program_->TheDesk().IsUsable(*target.window, target.control->Base())) return nullptr;
-  widget->window()->activateWindow();
-  Settle();
-  return widget;
-}
-
-bool WindowsFrontEnd::ClickMenu(const Target& target) {
-  const WindowBinding* const binding = mirror_.BindingOf(*target.window->window);
-  QAction* const action =
-      binding == nullptr ? nullptr : binding->ActionOf(*target.control, target.element);
-  if (action == nullptr || !action->isEnabled()) return false;
-  if (!program_->TheDesk().IsUsable(*target.window, target.control->Base())) return false;
-  action->trigger();
-  Settle();
-  return true;
-}
-
-bool WindowsFrontEnd::Click(const Target& target) {
-  if (IsMenu(*target.control)) return ClickMenu(target);
-  QWidget* const widget = IsClickable(*target.control) ? Reach(target) : nullptr;
-  if (widget == nullptr) return false;
-  ClickAt(*widget, ClickPoint(*widget));
-  Settle();
-  return true;
-}
-
-bool WindowsFrontEnd::FocusByMouse(const Target& target, QWidget& widget) {
-  const Desk& desk = program_->TheDesk();
-  if (desk.FocusOf(*target.window->window) != &target.control->Base()) {
-    ClickAt(widget, widget.rect().center());
+  void Stop() override {
+    mirror_.Detach();
+    program_ = nullptr;
     Settle();
   }
-  return desk.FocusOf(*target.window->window) == &target.control->Base();
-}
 
-bool WindowsFrontEnd::Type(const Target& target, const std::string& text) {
-  QWidget* const widget = Reach(target);
-  if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
-  const QPointer<QWidget> alive(widget);
-  if (WidgetText(*widget) != QString()) {
-    SendKey(*widget, Qt::Key_A, QString(), Qt::ControlModifier);
-    SendKey(*widget, Qt::Key_Delete, QString());
+  bool Click(const Target& target) override {
+    if (IsMenu(*target.control)) return ClickMenu(target);
+    QWidget* const widget = IsClickable(*target.control) ? Reach(target) : nullptr;
+    if (widget == nullptr) return false;
+    ClickAt(*widget, ClickPoint(*widget));
+    Settle();
+    return true;
   }
-  QString typed = ToQString(text);
-  typed.remove(QLatin1Char('\r'));
-  for (const QChar c : typed) {
-    if (!alive) break;
-    SendCharacter(*alive, c);
+
+  bool Type(const Target& target, const std::string& text) override {
+    QWidget* const widget = Reach(target);
+    if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
+    const QPointer<QWidget> alive(widget);
+    if (WidgetText(*widget) != QString()) {
+      SendKey(*widget, Qt::Key_A, QString(), Qt::ControlModifier);
+      SendKey(*widget, Qt::Key_Delete, QString());
+    }
+    QString typed = ToQString(text);
+    typed.remove(QLatin1Char('\r'));
+    for (const QChar c : typed) {
+      if (!alive) break;
+      SendCharacter(*alive, c);
+    }
+    Settle();
+    return true;
   }
-  Settle();
-  return true;
+
+  bool Press(const Target& target, const std::string& key) override {
+    QWidget* const widget = Desk::TakesFocus(*target.control) ? Reach(target) : nullptr;
+    if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
+    SendNamedKey(*widget, key);
+    Settle();
+    return true;
+  }
+
+  bool Select(const Target& target, int row, MouseButton button) override {
+    auto* const view = qobject_cast<QTableView*>(Reach(target));
+    if (view == nullptr || row < 1 || row > view->model()->rowCount()) return false;
+    const QModelIndex index = view->model()->index(row - 1, 1);
+    view->scrollTo(index);
+    ClickAt(*view->viewport(), view->visualRect(index).center(),
+            button == MouseButton::Right ? Qt::RightButton : Qt::LeftButton);
+    Settle();
+    return true;
+  }
+
+  bool Pick(const Target& target, const std::string& entry) override {
+    auto* const combo = qobject_cast<QComboBox*>(Reach(target));
+    if (combo == nullptr || !FocusByMouse(target, *combo)) return false;
+    combo->hidePopup();
+    const int index = combo->findText(ToQString(entry), Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index < 0) return false;
+    combo->setCurrentIndex(index);
+    Q_EMIT combo->activated(index);
+    Settle();
+    return true;
+  }
+
+  bool Leave(const Target& target) override {
+    QWidget* const widget = Desk::TakesFocus(*target.control) ? Reach(target) : nullptr;
+    if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
+    const bool left = program_->TheInput().Leave(target.control->Base());
+    Settle();
+    return left;
+  }
+
+  bool Hover(const Target& target) override {
+    QWidget* const widget = Reach(target);
+    if (widget == nullptr) return false;
+    QWidget* const top = widget->window();
+    QTest::mouseMove(top->windowHandle(), widget->mapTo(top, widget->rect().center()));
+    Settle();
+    return true;
+  }
+
+  bool Scroll(const Target& target, int value) override {
+    auto* const bar = qobject_cast<QScrollBar*>(Reach(target));
+    if (bar == nullptr || value < bar->minimum() || value > bar->maximum()) return false;
+    bar->setValue(value);
+    Settle();
+    return true;
+  }
+
+  bool Tick(const Target& target, int times) override {
+    Timer* const timer = target.control->As<Timer>();
+    if (timer == nullptr || !target.window->loaded || program_->TheDesk().Ended()) return false;
+    for (int i = 0; i < times && program_->TheInput().Tick(*timer); ++i) Settle();
+    return true;
+  }
+
+  bool Close(Desk::Entry& window) override {
+    WindowBinding* const binding = mirror_.BindingOf(*window.window);
+    if (binding == nullptr || !program_->TheDesk().IsUsable(*window.window)) return false;
+    binding->Widget().close();
+    Settle();
+    return true;
+  }
+
+  bool Shot(const std::string& name) override {
+    if (shots_.empty()) return true;
+    Settle();
+    const auto& shown = program_->TheDesk().Shown();
+    WindowBinding* const binding = shown.empty() ? nullptr : mirror_.BindingOf(*shown.back());
+    if (binding == nullptr || !WaitForPage(binding->Widget())) return false;
+    const QDir folder(QString::fromStdString(shots_));
+    return folder.mkpath(QStringLiteral(".")) &&
+           binding->Widget().grab().save(folder.filePath(ToQString(name) + ".png"));
+  }
+
+  std::optional<std::string> Read(const Target& target, const std::string& property) override {
+    return ReadWidgetProperty(*program_, mirror_.BindingOf(*target.window->window), target,
+                              property, scheme_);
+  }
+
+  MessageBoxes& Boxes() override { return boxes_; }
+
+  Waits& TheWaits() override { return mirror_; }
+
+ private:
+  void Settle() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+  }
+
+  QWidget* WidgetOf(const Target& target) const {
+    const WindowBinding* const binding = mirror_.BindingOf(*target.window->window);
+    if (binding == nullptr || target.control == nullptr) return nullptr;
+    return binding->WidgetOf(target.control->Base());
+  }
+
+  // The widget of a control that the user can reach, made the front one; null when he cannot.
+  QWidget* Reach(const Target& target) {
+    while (QWidget* const popUp = QApplication::activePopupWidget()) popUp->close();
+    Settle();
+    QWidget* const widget = WidgetOf(target);
+    if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) return nullptr;
+    if (!program_->TheDesk().IsUsable(*target.window, target.control->Base())) return nullptr;
+    widget->window()->activateWindow();
+    Settle();
+    return widget;
+  }
+
+  bool FocusByMouse(const Target& target, QWidget& widget) {
+    const Desk& desk = program_->TheDesk();
+    if (desk.FocusOf(*target.window->window) != &target.control->Base()) {
+      ClickAt(widget, widget.rect().center());
+      Settle();
+    }
+    return desk.FocusOf(*target.window->window) == &target.control->Base();
+  }
+
+  bool ClickMenu(const Target& target) {
+    const WindowBinding* const binding = mirror_.BindingOf(*target.window->window);
+    QAction* const action =
+        binding == nullptr ? nullptr : binding->ActionOf(*target.control, target.element);
+    if (action == nullptr || !action->isEnabled()) return false;
+    if (!program_->TheDesk().IsUsable(*target.window, target.control->Base())) return false;
+    action->trigger();
+    Settle();
+    return true;
+  }
+
+  const Scheme scheme_ = DesktopScheme();
+  Mirror mirror_;
+  AnsweredBoxes boxes_;
+  std::string shots_;
+  Program* program_ = nullptr;
+};
+
+}  // namespace
+
+std::unique_ptr<FrontEnd> MakeWindowsFrontEnd(BoxAnswers& answers, const std::string& shots) {
+  return std::make_unique<WindowsFrontEnd>(answers, shots);
 }
 
-bool WindowsFrontEnd::Press(const Target& target, const std::string& key) {
-  QWidget* const widget = Desk::TakesFocus(*target.control) ? Reach(target) : nullptr;
-  if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
-  SendNamedKey(*widget, key);
-  Settle();
-  return true;
-}
-
-bool WindowsFrontEnd::Select(const Target& target, int row, MouseButton button) {
-  auto* const view = qobject_cast<QTableView*>(Reach(target));
-  if (view == nullptr || row < 1 || row > view->model()->rowCount()) return false;
-  const QModelIndex index = view->model()->index(row - 1, 1);
-  view->scrollTo(index);
-  ClickAt(*view->viewport(), view->visualRect(index).center(),
-          button == MouseButton::Right ? Qt::RightButton : Qt::LeftButton);
-  Settle();
-  return true;
-}
-
-bool WindowsFrontEnd::Pick(const Target& target, const std::string& entry) {
-  auto* const combo = qobject_cast<QComboBox*>(Reach(target));
-  if (combo == nullptr || !FocusByMouse(target, *combo)) return false;
-  combo->hidePopup();
-  const int index = combo->findText(ToQString(entry), Qt::MatchExactly | Qt::MatchCaseSensitive);
-  if (index < 0) return false;
-  combo->setCurrentIndex(index);
-  Q_EMIT combo->activated(index);
-  Settle();
-  return true;
-}
-
-bool WindowsFrontEnd::Leave(const Target& target) {
-  QWidget* const widget = Desk::TakesFocus(*target.control) ? Reach(target) : nullptr;
-  if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
-  const bool left = program_->TheInput().Leave(target.control->Base());
-  Settle();
-  return left;
-}
-
-bool WindowsFrontEnd::Hover(const Target& target) {
-  QWidget* const widget = Reach(target);
-  if (widget == nullptr) return false;
-  QWidget* const top = widget->window();
-  QTest::mouseMove(top->windowHandle(), widget->mapTo(top, widget->rect().center()));
-  Settle();
-  return true;
-}
-
-bool WindowsFrontEnd::Scroll(const Target& target, int value) {
-  auto* const bar = qobject_cast<QScrollBar*>(Reach(target));
-  if (bar == nullptr || value < bar->minimum() || value > bar->maximum()) return false;
-  bar->setValue(value);
-  Settle();
-  return true;
-}
-
-bool WindowsFrontEnd::Tick(const Target& target, int times) {
-  Timer* const timer = target.control->As<Timer>();
-  if (timer == nullptr || !target.window->loaded || program_->TheDesk().Ended()) return false;
-  for (int i = 0; i < times && program_->TheInput().Tick(*timer); ++i) Settle();
-  return true;
-}
-
-bool WindowsFrontEnd::Close(Desk::Entry& window) {
-  WindowBinding* const binding = mirror_.BindingOf(*window.window);
-  if (binding == nullptr || !program_->TheDesk().IsUsable(*window.window)) return false;
-  binding->Widget().close();
-  Settle();
-  return true;
-}
-
-bool WindowsFrontEnd::Shot(const std::string& name) {
-  if (shots_.empty()) return true;
-  Settle();
-  const auto& shown = program_->TheDesk().Shown();
-  WindowBinding* const binding = shown.empty() ? nullptr : mirror_.BindingOf(*shown.back());
-  if (binding == nullptr || !AwaitPage(binding->Widget())) return false;
-  const QDir folder(QString::fromStdString(shots_));
-  return folder.mkpath(QStringLiteral(".")) &&
-         binding->Widget().grab().save(folder.filePath(ToQString(name) + ".png"));
-}
-
-std::optional<std::string> WindowsFrontEnd::Read(const Target& target,
-                                                 const std::string& property) {
-  return ReadWidgetProperty(*program_, mirror_.BindingOf(*target.window->window), target, property);
+bool IsDisplayNamed() {
+  return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }
 
 }  // namespace benevix

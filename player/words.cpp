@@ -1,6 +1,9 @@
 #include "player/words.h"
 
+#include <algorithm>
+#include <cctype>
 #include <charconv>
+#include <cstdlib>
 
 #include "base/text.h"
 
@@ -106,6 +109,22 @@ std::string Quoted(std::string_view text) {
     }
   }
   return ToUtf8(quoted + '"');
+}
+
+std::optional<int> WholeNumberIn(const std::string& word) {
+  int number = 0;
+  const char* const end = word.data() + word.size();
+  const auto read = std::from_chars(word.data(), end, number);
+  if (read.ec != std::errc() || read.ptr != end) return std::nullopt;
+  return number;
+}
+
+std::optional<double> DoubleIn(const std::string& word) {
+  if (word.empty() || std::isspace(static_cast<unsigned char>(word.front()))) return std::nullopt;
+  char* end = nullptr;
+  const double number = std::strtod(word.c_str(), &end);
+  if (end != word.c_str() + word.size()) return std::nullopt;
+  return number;
 }
 
 }  // namespace benevix

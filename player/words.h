@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -23,5 +24,18 @@ std::string CodePageText(std::string_view utf8);
 
 // The text in double quotes as a script would write it, UTF-8.
 std::string Quoted(std::string_view text);
+
+// The number that a whole word is.
+std::optional<int> WholeNumberIn(const std::string& word);
+
+// Decimal or C hexadecimal (0x1p-3), "inf" and "nan" too. A number too large for a double is
+// infinite, one too small is 0.
+std::optional<double> DoubleIn(const std::string& word);
+
+// The keys that a script names; any other key is its character.
+inline constexpr const char* kEnterKey = "Enter";
+inline constexpr const char* kTabKey = "Tab";
+inline constexpr const char* kEscapeKey = "Escape";
+inline constexpr const char* kBackspaceKey = "Backspace";
 
 }  // namespace benevix

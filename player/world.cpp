@@ -9,11 +9,9 @@
 namespace benevix {
 namespace {
 
-// UTF-8 with the system's slashes.
-std::string SystemPath(const std::string& path) {
-  std::string system = ToUtf8(path);
-  std::replace(system.begin(), system.end(), '\\', '/');
-  return system;
+std::string WithSlashes(std::string text) {
+  std::replace(text.begin(), text.end(), '\\', '/');
+  return text;
 }
 
 }  // namespace
@@ -25,13 +23,7 @@ World::World() : settings(Inside("settings")), shell(Inside("programs"), Inside(
   info.folder = Inside("program");
   info.exeName = "Benevix";
   info.major = 1;
-  info.deployment.serverBase = site.Address();
-  info.deployment.paymentBase = site.Address() + "xclick/business=";
-  info.deployment.mail = "app@benevix.example";
-  info.deployment.translationName = "Parley";
-  info.deployment.translationBase = site.Address() + "parley";
-  info.deployment.copyright = "Copyright Quorl";
-  info.deployment.product = "Benevix";
+  info.deployment = DeploymentOn(site.Address());
 
   std::string countries;
   TextCodec(info.exeName)
@@ -52,17 +44,25 @@ std::string World::Fill(std::string text) const {
 }
 
 std::string World::ProgramFile(const std::string& path) const {
-  return (PathOf(info.folder) / PathOf(SystemPath(path))).string();
+  return (PathOf(info.folder) / PathOf(WithSlashes(ToUtf8(path)))).string();
 }
 
 std::string World::ShellFile(const std::string& folder, const std::string& path) const {
-  return (PathOf(Inside(folder)) / PathOf(SystemPath(path))).string();
+  return (PathOf(Inside(folder)) / PathOf(WithSlashes(ToUtf8(path)))).string();
 }
 
-bool SameAddress(std::string a, std::string b) {
-  std::replace(a.begin(), a.end(), '\\', '/');
-  std::replace(b.begin(), b.end(), '\\', '/');
-  return a == b;
+bool SameAddress(const std::string& a, const std::string& b) {
+  return WithSlashes(a) == WithSlashes(b);
+}
+
+Deployment DeploymentOn(const std::string& site) {
+  return {.serverBase = site,
+          .paymentBase = site + "xclick/business=",
+          .mail = "app@benevix.example",
+          .translationName = "Parley",
+          .translationBase = site + "parley",
+          .copyright = "Copyright Quorl",
+          .product = "Benevix"};
 }
 
 }  // namespace benevix

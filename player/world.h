@@ -1,19 +1,37 @@
 #pragma once
 
 #include <QTemporaryDir>
+#include <deque>
+#include <random>
 #include <string>
 
 #include "platform/linux/linux_files.h"
 #include "platform/program_info.h"
-#include "player/recorded.h"
-#include "player/world_boxes.h"
+#include "platform/random_numbers.h"
 #include "player/world_clock.h"
-#include "player/world_random.h"
 #include "player/world_records.h"
 #include "player/world_settings.h"
 #include "player/world_site.h"
 
 namespace benevix {
+
+// The numbers given, then a sequence that is the same in every run.
+class GivenRandomNumbers : public RandomNumbers {
+ public:
+  void Give(double number) { given_.push_back(number); }
+
+  void Seed(float /*seed*/) override {}
+  double Next() override {
+    if (given_.empty()) return static_cast<double>(engine_()) / 0x1p32;
+    const double number = given_.front();
+    given_.pop_front();
+    return number;
+  }
+
+ private:
+  std::deque<double> given_;
+  std::mt19937 engine_;
+};
 
 // Everything around the program in a script, fresh with each.
 class World {
@@ -50,6 +68,9 @@ class World {
 };
 
 // Whether the addresses are the same but for the kind of their slashes.
-bool SameAddress(std::string a, std::string b);
+bool SameAddress(const std::string& a, const std::string& b);
+
+// The deployment values of a program whose services are all on the site of this base address.
+Deployment DeploymentOn(const std::string& site);
 
 }  // namespace benevix

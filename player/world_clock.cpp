@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 
-#include "player/numbers.h"
+#include "player/words.h"
 
 namespace benevix {
 namespace {

@@ -1,14 +1,69 @@
 #pragma once
 
+#include <cstddef>
+#include <deque>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "base/runtime_error.h"
 #include "platform/http_client.h"
 #include "platform/linux/linux_shell.h"
+#include "platform/message_boxes.h"
 #include "platform/printer.h"
-#include "player/recorded.h"
 
 namespace benevix {
+
+// What happened, in its order; checked one by one from the oldest on.
+template <class T>
+class Recorded {
+ public:
+  void Add(T happened) { all_.push_back(std::move(happened)); }
+
+  // The oldest one not checked yet; it is checked now.
+  std::optional<T> Next() {
+    if (checked_ == all_.size()) return std::nullopt;
+    return all_[checked_++];
+  }
+  void SkipAll() { checked_ = all_.size(); }
+  [[nodiscard]] const std::vector<T>& All() const { return all_; }
+
+ private:
+  std::vector<T> all_;
+  std::size_t checked_ = 0;
+};
+
+struct ShownBox {
+  std::string title;
+  std::string text;
+  BoxIcon icon = BoxIcon::None;
+  BoxButtons buttons = BoxButtons::OK;
+};
+
+// Records the message boxes that are shown and knows the user's answers.
+class BoxAnswers {
+ public:
+  // Records the box and gives the button that answers it: the next queued answer, No without one.
+  BoxAnswer Take(ShownBox box) {
+    const bool asks = box.buttons == BoxButtons::YesNo;
+    shown.Add(std::move(box));
+    if (!asks) return BoxAnswer::OK;
+    if (queue_.empty()) return BoxAnswer::No;
+    const BoxAnswer answer = queue_.front();
+    queue_.pop_front();
+    return answer;
+  }
+
+  // A box with OK alone takes no answer of the queue, so an OK is not queued.
+  void Queue(BoxAnswer answer) {
+    if (answer != BoxAnswer::OK) queue_.push_back(answer);
+  }
+
+  Recorded<ShownBox> shown;
+
+ private:
+  std::deque<BoxAnswer> queue_;
+};
 
 // Records every address that is handed over, also when no answer comes.
 class RecordingHttpClient : public HttpClient {
@@ -38,7 +93,7 @@ class RecordingPrinter : public Printer {
   Recorded<std::string> lines;
 };
 
-// The real one on folders of its own, but it starts nothing.
+// The real shell on folders of its own; programs are recorded in place of being started.
 class RecordingShell : public LinuxShell {
  public:
   RecordingShell(std::string programs, std::string desktop)

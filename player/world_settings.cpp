@@ -1,7 +1,7 @@
 #include "player/world_settings.h"
 
 #include "core/settings_store.h"
-#include "player/line_kinds.h"
+#include "player/script.h"
 
 namespace benevix {
 namespace {

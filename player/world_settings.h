@@ -7,7 +7,7 @@
 
 namespace benevix {
 
-// The settings of a world: two real files. What the script writes goes past the program's rights.
+// The settings of a world: two real files. The script can write where the program may not.
 class WorldSettings : public Registry {
  public:
   explicit WorldSettings(const std::string& folder);

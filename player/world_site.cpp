@@ -1,6 +1,5 @@
 #include "player/world_site.h"
 
-#include <chrono>
 #include <random>
 #include <stdexcept>
 
@@ -18,7 +17,7 @@ constexpr int kTries = 1000;
 // The User-Agent of the program's client. A page viewer has another.
 constexpr const char* kProgram = "Benevix";
 
-SiteAnswer NotFound() {
+ScriptedAnswer NotFound() {
   return {LoopbackServer::Reply::Answer, 404,
           "<html><head><title>404 Not Found</title></head><body>404 Not Found</body></html>"};
 }
@@ -38,17 +37,10 @@ WorldSite::WorldSite() {
   if (port_ == 0) throw std::runtime_error("no free port for the site");
 }
 
-void WorldSite::Put(const std::string& target, SiteAnswer answer) {
+void WorldSite::Put(const std::string& target, ScriptedAnswer answer) {
   const auto wire = WireUrl(address_ + target).toEncoded().toStdString();
   const std::lock_guard lock(mutex_);
   answers_[wire.substr(address_.size())] = std::move(answer);
-}
-
-void WorldSite::Down() {
-  if (!server_) return;
-  server_->stop();
-  serving_.join();
-  server_.reset();
 }
 
 void WorldSite::Up() {
@@ -70,22 +62,20 @@ void WorldSite::Listen(std::unique_ptr<LoopbackServer> server) {
   };
   server->set_pre_routing_handler([this](const httplib::Request& request,
                                          httplib::Response& response) {
-    const SiteAnswer answer = AnswerTo(request.target);
+    const ScriptedAnswer answer = AnswerTo(request.target);
     response.status = answer.status;
     response.set_content(answer.text, answer.text.starts_with('<') ? "text/html" : "text/plain");
     return httplib::Server::HandlerResponse::Handled;
   });
   server_ = std::move(server);
-  serving_ = std::thread([this] { server_->listen_after_bind(); });
-  // A stop before the server runs would be lost.
-  while (!server_->is_running()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  server_->Start();
 }
 
-SiteAnswer WorldSite::AnswerTo(const std::string& target) {
+ScriptedAnswer WorldSite::AnswerTo(const std::string& target) {
   const std::lock_guard lock(mutex_);
   const std::string wanted = target.substr(target.starts_with('/') ? 1 : 0);
-  const SiteAnswer* longest = nullptr;
-  // A longer beginning stands behind a shorter one.
+  const ScriptedAnswer* longest = nullptr;
+  // In the map's order a longer beginning comes after a shorter one.
   for (const auto& [beginning, answer] : answers_) {
     if (wanted.starts_with(beginning)) longest = &answer;
   }

@@ -5,33 +5,31 @@
 #include <mutex>
 #include <optional>
 #include <string>
-#include <thread>
 
 #include "loopback/loopback_server.h"
 
 namespace benevix {
 
-struct SiteAnswer {
+// What a script says that the server answers.
+struct ScriptedAnswer {
   LoopbackServer::Reply reply = LoopbackServer::Reply::Answer;
   int status = 200;
   std::string text;
 };
 
-// The server of a world, on a thread of its own. What it was not told of is 404 with an HTML page.
+// The server of a world, on a thread of its own. A target without an answer is 404 with an HTML
+// page.
 class WorldSite {
  public:
   WorldSite();
-  ~WorldSite() { Down(); }
-  WorldSite(const WorldSite&) = delete;
-  WorldSite& operator=(const WorldSite&) = delete;
 
   // The server base address.
   [[nodiscard]] const std::string& Address() const { return address_; }
 
   // For every request whose target begins with `target`; the longest wins. Takes a target as the
   // program builds it, without the leading "/".
-  void Put(const std::string& target, SiteAnswer answer);
-  void Down();
+  void Put(const std::string& target, ScriptedAnswer answer);
+  void Down() { server_.reset(); }
   void Up();
 
   // The target of the last request of the program's own client, as it arrived.
@@ -39,16 +37,15 @@ class WorldSite {
 
  private:
   void Listen(std::unique_ptr<LoopbackServer> server);
-  [[nodiscard]] SiteAnswer AnswerTo(const std::string& target);
+  [[nodiscard]] ScriptedAnswer AnswerTo(const std::string& target);
   void Note(const httplib::Request& request);
 
   std::mutex mutex_;  // of the answers and the last target
-  std::map<std::string, SiteAnswer> answers_;
+  std::map<std::string, ScriptedAnswer> answers_;
   std::optional<std::string> lastTarget_;
   int port_ = 0;
   std::string address_;
-  std::unique_ptr<LoopbackServer> server_;
-  std::thread serving_;
+  std::unique_ptr<LoopbackServer> server_;  // last, so that it stops first; null while down
 };
 
 }  // namespace benevix

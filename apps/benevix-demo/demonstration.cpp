@@ -1,7 +1,6 @@
 #include "demonstration.h"
 
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QUrlQuery>
@@ -11,27 +10,17 @@
 #include "base/runtime_error.h"
 #include "database/organization_list.h"
 #include "mirror/look/texts.h"
-#include "player/keys.h"
-#include "player/page_picture.h"
-#include "player/targets.h"
+#include "player/paths.h"
+#include "player/waiting.h"
+#include "player/words.h"
 
 namespace benevix {
 namespace {
-
-constexpr int kPatience = 30'000;  // milliseconds
-constexpr int kPause = 200;        // milliseconds between two looks
 
 const std::string kBudgetBox = "frmBVX.Text1(0)";
 const std::string kBalanceBox = "frmBVX.Text1(1)";
 const std::string kDonationBox = "frmBVX.Text1(2)";
 const std::string kList = "frmBVX.ListView1";
-
-void LetEventsRun(int milliseconds) {
-  const QDeadlineTimer end(milliseconds);
-  while (!end.hasExpired()) {
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 10);
-  }
-}
 
 QWidget* ShownViewer() {
   for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -54,8 +43,8 @@ QString Field(const QString& address, const QString& name) {
 Demonstration::Demonstration(const RunFolder& folder, DemonstrationSite& site)
     : folder_(folder),
       site_(site),
-      frontEnd_(answers_, folder.Pictures().toStdString()),
-      machine_(folder.Program().toStdString(), frontEnd_.TheWaits(), frontEnd_.Boxes()),
+      frontEnd_(MakeWindowsFrontEnd(answers_, folder.Pictures().toStdString())),
+      machine_(folder.Program().toStdString(), frontEnd_->TheWaits(), frontEnd_->Boxes()),
       program_(machine_.TheSurroundings()) {}
 
 void Demonstration::Play() {
@@ -63,7 +52,7 @@ void Demonstration::Play() {
   Tell("The demonstration site answers at " + site_.Address());
   QDir(folder_.Pictures()).removeRecursively();
   QDir().mkpath(folder_.Pictures());
-  frontEnd_.Start(program_);
+  frontEnd_->Start(program_);
   program_.Main();
   Enter();
   TypeBudget();
@@ -83,15 +72,15 @@ void Demonstration::Enter() {
   Must(program_.TheDesk().IsShown(program_.TheForms().Get<frmBVX>()), "the main window opens");
   Must(program_.Run().ServerOK, "the site says that the server is well");
   if (program_.TheDesk().IsShown(program_.TheForms().Get<frmWizard>())) {
-    Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheForms().Get<frmWizard>())),
+    Must(frontEnd_->Close(program_.TheDesk().Find(program_.TheForms().Get<frmWizard>())),
          "the wizard closes");
   }
   Tell("Entered; the list has " + Shown(kList + ".Count") + " rows");
 }
 
 void Demonstration::TypeBudget() {
-  Must(frontEnd_.Type(FindControl(program_, kBudgetBox), "200"), "a Budget is typed");
-  Must(frontEnd_.Press(FindControl(program_, kBudgetBox), kEnterKey), "Enter is pressed");
+  Must(frontEnd_->Type(FindControl(program_, kBudgetBox), "200"), "a Budget is typed");
+  Must(frontEnd_->Press(FindControl(program_, kBudgetBox), kEnterKey), "Enter is pressed");
   Must(program_.Values().Budget == Currency::FromWhole(200), "the Budget is 200");
   Tell("Budget $" + Shown(kBudgetBox + ".Text") + " typed; Balance $" +
        Shown(kBalanceBox + ".Text"));
@@ -110,12 +99,12 @@ void Demonstration::ChoosePayment() {
 
 void Demonstration::Give(int row, const std::string& amount) {
   const QString name = Shown(CellPath(row, column::kOrganization));
-  Must(frontEnd_.Select(FindControl(program_, kList), row, MouseButton::Left),
+  Must(frontEnd_->Select(FindControl(program_, kList), row, MouseButton::Left),
        name + " is selected");
-  Must(frontEnd_.Type(FindControl(program_, kDonationBox), amount), "a donation is typed");
-  Must(frontEnd_.Press(FindControl(program_, kDonationBox), kEnterKey), "Enter is pressed");
+  Must(frontEnd_->Type(FindControl(program_, kDonationBox), amount), "a donation is typed");
+  Must(frontEnd_->Press(FindControl(program_, kDonationBox), kEnterKey), "Enter is pressed");
   const QString given = Shown(CellPath(row, column::kAmount));
-  Must(given.toDouble() == std::stod(amount), "the list shows the amount");
+  Must(given.toDouble() == ToQString(amount).toDouble(), "the list shows the amount");
   Tell("Given $" + given + " to " + name + " (" + Shown(CellPath(row, column::kType)) + ")");
   TellMore("service fee $" + Shown(CellPath(row, column::kFee)) + "; Balance $" +
            Shown(kBalanceBox + ".Text"));
@@ -129,23 +118,22 @@ void Demonstration::FinalizeSession() {
   Must(address.startsWith(site_.Address() + "xclick/business="), "the page is the payment's");
   Tell("Finalized: transaction " + Field(address, "item_number"));
   TellMore("to be paid: $" + Field(address, "amount") + " to " + Field(address, "business"));
-  // Nobody but the page viewer asks for it.
-  WaitFor(
-      [this] {
-        const QStringList asked = site_.Log().filter(QStringLiteral("GET /xclick/business="));
-        return !asked.filter(QStringLiteral(" 200 ")).isEmpty();
-      },
-      "the site serves the payment page");
-  WaitForPage("the payment page is shown");
+  // Only the page viewer asks for it.
+  Must(WaitUntil([this] {
+         const QStringList asked = site_.Log().filter(QStringLiteral("GET /xclick/business="));
+         return !asked.filter(QStringLiteral(" 200 ")).isEmpty();
+       }),
+       "the site serves the payment page");
+  MustShowPage("the payment page is shown");
   Tell("The payment page is shown");
   TakePicture("payment-page");
-  Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheForms().Get<frmInfo>())),
+  Must(frontEnd_->Close(program_.TheDesk().Find(program_.TheForms().Get<frmInfo>())),
        "the viewer closes");
 }
 
 void Demonstration::ShowHistory() {
   Click("frmBVX.mnuHistory");
-  WaitForPage("the history is shown");
+  MustShowPage("the history is shown");
   Tell("The history shows");
   QFile file(folder_.History());
   Must(file.open(QIODevice::ReadOnly), "the history can be read");
@@ -155,17 +143,17 @@ void Demonstration::ShowHistory() {
     TellMore(line);
   }
   TakePicture("history");
-  Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheForms().Get<frmInfo>())),
+  Must(frontEnd_->Close(program_.TheDesk().Find(program_.TheForms().Get<frmInfo>())),
        "the viewer closes");
 }
 
 void Demonstration::Leave() {
   TakePicture("end");
-  Must(frontEnd_.Close(program_.TheDesk().Find(program_.TheForms().Get<frmBVX>())),
+  Must(frontEnd_->Close(program_.TheDesk().Find(program_.TheForms().Get<frmBVX>())),
        "the main window closes");
   Must(program_.TheDesk().Ended(), "the program ends");
   program_.Finish();
-  frontEnd_.Stop();
+  frontEnd_->Stop();
   Tell("Left");
 }
 
@@ -185,12 +173,12 @@ void Demonstration::Must(bool done, const QString& what) {
 }
 
 void Demonstration::Click(const std::string& path) {
-  Must(frontEnd_.Click(FindControl(program_, path)), "a click on " + ToQString(path));
+  Must(frontEnd_->Click(FindControl(program_, path)), "a click on " + ToQString(path));
 }
 
 QString Demonstration::Shown(const std::string& path) {
   const Named named = Find(program_, path);
-  const auto text = frontEnd_.Read(named.target, named.property);
+  const auto text = frontEnd_->Read(named.target, named.property);
   Must(text.has_value(), ToQString(path) + " is there");
   return ToQString(*text);
 }
@@ -204,21 +192,15 @@ int Demonstration::RowOfOrganization(int country) {
   return row + 1;
 }
 
-void Demonstration::WaitFor(const std::function<bool()>& done, const QString& what) {
-  const QDeadlineTimer end(kPatience);
-  while (!done() && !end.hasExpired()) LetEventsRun(kPause);
-  Must(done(), what);
-}
-
-void Demonstration::WaitForPage(const QString& what) {
+void Demonstration::MustShowPage(const QString& what) {
   QWidget* const viewer = ShownViewer();
-  Must(viewer != nullptr && AwaitPage(*viewer), what);
+  Must(viewer != nullptr && WaitForPage(*viewer), what);
   Must(viewer->findChild<QWidget*>(QStringLiteral("pageNotice")) == nullptr, what);
 }
 
 void Demonstration::TakePicture(const std::string& name) {
   const std::string numbered = std::to_string(pictures_.size() + 1) + "-" + name;
-  Must(frontEnd_.Shot(numbered), "a picture is taken");
+  Must(frontEnd_->Shot(numbered), "a picture is taken");
   pictures_.append(ToQString(numbered) + ".png");
 }
 

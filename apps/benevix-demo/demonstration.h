@@ -2,12 +2,12 @@
 
 #include <QString>
 #include <QStringList>
-#include <functional>
+#include <memory>
 #include <string>
 
 #include "benevix/machine.h"
 #include "demonstration_site.h"
-#include "player/windows_front_end.h"
+#include "player/front_end.h"
 #include "program/program.h"
 #include "run_folder.h"
 
@@ -31,24 +31,23 @@ class Demonstration {
   void ShowHistory();
   void Leave();
 
-  // Prints a step of the story, or a line that belongs to it.
+  // Prints a numbered step, or a line that belongs to it.
   void Tell(const QString& step);
   static void TellMore(const QString& line);
-  // Fails unless it is so; a message box that nobody expects fails too.
+  // Raises RuntimeError unless it is done, and when a message box was shown.
   void Must(bool done, const QString& what);
   void Click(const std::string& path);
   // What a property shows; see the front end.
   [[nodiscard]] QString Shown(const std::string& path);
   // The first row below a country's heading, countries counted from 1.
   [[nodiscard]] int RowOfOrganization(int country);
-  void WaitFor(const std::function<bool()>& done, const QString& what);
-  void WaitForPage(const QString& what);
+  void MustShowPage(const QString& what);
   void TakePicture(const std::string& name);
 
   const RunFolder& folder_;
   DemonstrationSite& site_;
   BoxAnswers answers_;
-  WindowsFrontEnd frontEnd_;
+  std::unique_ptr<FrontEnd> frontEnd_;
   Machine machine_;
   Program program_;
   QStringList pictures_;

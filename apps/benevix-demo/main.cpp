@@ -3,7 +3,6 @@
 // screen.
 
 #include <QApplication>
-#include <clocale>
 #include <cstdio>
 
 #include "base/runtime_error.h"
@@ -11,6 +10,7 @@
 #include "demonstration.h"
 #include "demonstration_site.h"
 #include "mirror/page_viewer/administrator.h"
+#include "player/front_end.h"
 #include "run_folder.h"
 
 namespace {
@@ -22,9 +22,7 @@ constexpr auto kProbe = "--probe-display";
 // Whether a display can be opened. Tried by a process of its own, since the toolkit ends the one
 // that fails.
 bool HasDisplay() {
-  if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
-    return false;
-  }
+  if (!IsDisplayNamed()) return false;
   QProcess probe;
   probe.setStandardErrorFile(QProcess::nullDevice());
   probe.start(QCoreApplication::applicationFilePath(), {kProbe});
@@ -38,7 +36,7 @@ void DisableSandbox() {
   qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
 }
 
-// What the toolkit and the engine find to say about the screen and their start is not the story.
+// Keeps messages of the toolkit and the engine out of what the demonstration tells.
 void QuietToolkit() {
   const char* const variable = "QT_LOGGING_RULES";
   if (qEnvironmentVariableIsSet(variable)) return;
@@ -101,8 +99,6 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   DisableSandbox();
   const QApplication app(argc, argv);
-  // The toolkit sets the user's locale, in which a number may have a comma.
-  std::setlocale(LC_NUMERIC, "C");
   QApplication::setApplicationName("Benevix");
   QApplication::setQuitOnLastWindowClosed(false);
   return Demonstrate(false);

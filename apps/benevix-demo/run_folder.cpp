@@ -11,6 +11,7 @@
 #include "core/settings_store.h"
 #include "people/contact_information.h"
 #include "platform/qt/settings_file.h"
+#include "player/world.h"
 
 namespace benevix {
 
@@ -31,16 +32,12 @@ RunFolder::RunFolder(const QString& path) : path_(path) {
 
 void RunFolder::UseSite(const QString& address) const {
   QSaveFile file(path_ + "/deployment.ini");
-  const QString text = QStringLiteral(
-                           "ServerBase=%1\n"
-                           "PaymentBase=%1xclick/business=\n"
-                           "Mail=app@benevix.example\n"
-                           "TranslationName=Parley\n"
-                           "TranslationBase=%1parley\n"
-                           "Copyright=Copyright Quorl\n"
-                           "Product=Benevix\n")
-                           .arg(address);
-  const QByteArray bytes = text.toUtf8();
+  const Deployment values = DeploymentOn(address.toStdString());
+  const QByteArray bytes = QByteArray::fromStdString(
+      "ServerBase=" + values.serverBase + "\nPaymentBase=" + values.paymentBase +
+      "\nMail=" + values.mail + "\nTranslationName=" + values.translationName +
+      "\nTranslationBase=" + values.translationBase + "\nCopyright=" + values.copyright +
+      "\nProduct=" + values.product + "\n");
   if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
     throw RuntimeError(file.fileName().toStdString() + ": " + file.errorString().toStdString());
   }

@@ -2,15 +2,12 @@
 
 #include <QApplication>
 #include <QDir>
-#include <clocale>
 #include <iostream>
 #include <memory>
 #include <optional>
 
-#include "player/logic_front_end.h"
-#include "player/play_file.h"
+#include "player/player.h"
 #include "player/run_files.h"
-#include "player/windows_front_end.h"
 
 namespace benevix {
 namespace {
@@ -19,7 +16,7 @@ constexpr auto kUsage = "usage: benevix-play [--windows] [--shots DIR] FILE...\n
 
 struct Options {
   bool windows = false;
-  // Plays its one file in this process: how the player calls itself.
+  // Plays its one file in this process: so the player calls itself for each file.
   bool alone = false;
   QString shots;
   QStringList files;
@@ -55,18 +52,11 @@ struct Options {
   }
 };
 
-// Without a display the windows are drawn off the screen.
-void ChooseScreen() {
-  const bool hasDisplay =
-      qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-  if (!hasDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-  }
-}
-
 std::unique_ptr<QCoreApplication> MakeApplication(int& count, char** arguments, bool windows) {
   if (windows) {
-    ChooseScreen();
+    if (!IsDisplayNamed() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+      qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     return std::make_unique<QApplication>(count, arguments);
   }
   return std::make_unique<QCoreApplication>(count, arguments);
@@ -78,7 +68,7 @@ FrontEndMaker MakerOf(const Options& options) {
       return MakeWindowsFrontEnd(answers, shots);
     };
   }
-  return [](BoxAnswers& answers) { return std::make_unique<LogicFrontEnd>(answers); };
+  return MakeLogicFrontEnd;
 }
 
 int Main(int count, char** arguments) {
@@ -91,8 +81,6 @@ int Main(int count, char** arguments) {
   }
   const bool needsWindows = options->windows && options->alone;
   const auto application = MakeApplication(count, arguments, needsWindows);
-  // The toolkit sets the user's locale, in which a number may have a comma.
-  std::setlocale(LC_NUMERIC, "C");
   if (!options->shots.isEmpty() && !QDir().mkpath(options->shots)) {
     std::cerr << "benevix-play: " << options->shots.toStdString() << " cannot be made\n";
     return kExitUnreadable;

@@ -118,12 +118,9 @@ void Connect(LoopbackServer& server, Site& site) {
 
 void ServeUntilStopped(LoopbackServer& server) {
   using namespace std::chrono_literals;
-  std::thread serving([&server] { server.listen_after_bind(); });
-  // A stop before the server runs would be lost.
-  while (!server.is_running()) std::this_thread::sleep_for(1ms);
+  server.Start();
   while (stopRequested == 0 && server.is_running()) std::this_thread::sleep_for(50ms);
-  server.stop();
-  serving.join();
+  server.Stop();
 }
 
 int Run(const Options& options) {

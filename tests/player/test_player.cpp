@@ -1,4 +1,4 @@
-// The player itself, run as its user runs it.
+// The program benevix-play.
 
 #include <QFile>
 #include <QProcess>
@@ -72,7 +72,7 @@ TEST_F(Player, CountsEveryLineThatFailsAndGoesOn) {
   EXPECT_TRUE(printed.ends_with("\na.play: 4 passed, 8 failed\n4 passed, 8 failed\n")) << printed;
 }
 
-TEST_F(Player, PlaysEveryFileAndTellsTheGravestExitCode) {
+TEST_F(Player, PlaysEveryFileAndGivesTheWorstExitCode) {
   Put("good.play", "call Val 5x = 5\r\n");
   Put("bad.play", "call Val 5x = 6\n");
   Put("unreadable.play", "call\n");

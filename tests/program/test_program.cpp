@@ -69,9 +69,9 @@ TEST_F(ProgramTest, AnUpdaterThatIsNoneIsNeitherKeptNorStarted) {
   world.site.Put("53rv3r/news.txt", {.text = "2,Update now?=1.0.1"});
   Enter();
   boxes.answer = BoxAnswer::Yes;
-  for (const SiteAnswer& answer :
-       {SiteAnswer{Reply::Answer, 404, "#!/bin/sh\n"}, SiteAnswer{Reply::Answer, 500, "x"},
-        SiteAnswer{Reply::Answer, 200, ""}, SiteAnswer{Reply::Close, 200, "x"}}) {
+  for (const ScriptedAnswer& answer :
+       {ScriptedAnswer{Reply::Answer, 404, "#!/bin/sh\n"}, ScriptedAnswer{Reply::Answer, 500, "x"},
+        ScriptedAnswer{Reply::Answer, 200, ""}, ScriptedAnswer{Reply::Close, 200, "x"}}) {
     boxes.shown.clear();
     world.site.Put("downloads/updater.exe", answer);
     program.TheInput().Click(forms.Get<frmBVX>().Label12);

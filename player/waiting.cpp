@@ -1,4 +1,4 @@
-#include "player/page_picture.h"
+#include "player/waiting.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -31,18 +31,25 @@ bool IsBlank(const QImage& picture) {
 
 }  // namespace
 
-bool AwaitPage(QWidget& window) {
-  const QPointer<QWidget> page(window.findChild<QWidget*>(QStringLiteral("wb1")));
-  QImage before;
+bool WaitUntil(const std::function<bool()>& done) {
   const QDeadlineTimer end(kPatience);
-  while (page && page->isVisible()) {
-    const QImage now = page->grab().toImage();
-    if (now == before && !IsBlank(now)) return true;
+  while (!done()) {
     if (end.hasExpired()) return false;
-    before = now;
     LetEventsRun(kPause);
   }
   return true;
+}
+
+bool WaitForPage(QWidget& window) {
+  const QPointer<QWidget> page(window.findChild<QWidget*>(QStringLiteral("wb1")));
+  QImage before;
+  return WaitUntil([&] {
+    if (!page || !page->isVisible()) return true;
+    const QImage now = page->grab().toImage();
+    const bool stands = now == before && !IsBlank(now);
+    before = now;
+    return stands;
+  });
 }
 
 }  // namespace benevix

@@ -12,12 +12,12 @@
 namespace benevix {
 
 // The program in its world, run after run, behind a front end.
-class Stage {
+class ProgramRunner {
  public:
-  Stage(World& world, FrontEnd& frontEnd);
-  ~Stage();
-  Stage(const Stage&) = delete;
-  Stage& operator=(const Stage&) = delete;
+  ProgramRunner(World& world, FrontEnd& frontEnd);
+  ~ProgramRunner();
+  ProgramRunner(const ProgramRunner&) = delete;
+  ProgramRunner& operator=(const ProgramRunner&) = delete;
 
   [[nodiscard]] World& TheWorld() { return world_; }
   [[nodiscard]] FrontEnd& TheFrontEnd() { return frontEnd_; }
@@ -28,12 +28,13 @@ class Stage {
   // stands at its splash, is only started.
   void Restart();
 
-  [[nodiscard]] bool Runs() const { return program_ && !program_->TheDesk().Ended(); }
+  [[nodiscard]] bool IsRunning() const { return program_ && !program_->TheDesk().Ended(); }
   [[nodiscard]] bool HasEnded() const { return program_ && program_->TheDesk().Ended(); }
   // The present run. Raises CannotBeDone when there is none yet.
   [[nodiscard]] Program& TheProgram();
 
-  // To be called after every line: what a run leaves behind is taken up.
+  // To be called after every line: finishes a run that has ended, and notes where the page viewer
+  // was sent.
   void AfterLine();
 
   // The address that the page viewer was last sent to in the present run.

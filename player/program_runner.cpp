@@ -1,26 +1,26 @@
-#include "player/stage.h"
+#include "player/program_runner.h"
 
-#include "player/line_kinds.h"
+#include "player/script.h"
 
 namespace benevix {
 
-Stage::Stage(World& world, FrontEnd& frontEnd)
+ProgramRunner::ProgramRunner(World& world, FrontEnd& frontEnd)
     : world_(world),
       frontEnd_(frontEnd),
       client_(frontEnd.TheWaits()),
       http_(client_, world.requests) {}
 
-Stage::~Stage() {
+ProgramRunner::~ProgramRunner() {
   if (program_) frontEnd_.Stop();
 }
 
-void Stage::Start() {
-  if (Runs()) throw CannotBeDone("the program runs already");
+void ProgramRunner::Start() {
+  if (IsRunning()) throw CannotBeDone("the program runs already");
   Launch();
 }
 
-void Stage::Restart() {
-  if (Runs()) {
+void ProgramRunner::Restart() {
+  if (IsRunning()) {
     Desk& desk = program_->TheDesk();
     frmBVX& main = program_->TheForms().Get<frmBVX>();
     if (desk.IsLoaded(main)) program_->TheInput().Enter([&] { desk.Unload(main); });
@@ -29,7 +29,7 @@ void Stage::Restart() {
   Launch();
 }
 
-void Stage::Launch() {
+void ProgramRunner::Launch() {
   if (program_) frontEnd_.Stop();
   program_.reset();
   finished_ = false;
@@ -41,12 +41,12 @@ void Stage::Launch() {
   program_->Main();
 }
 
-Program& Stage::TheProgram() {
+Program& ProgramRunner::TheProgram() {
   if (!program_) throw CannotBeDone("the program was not started");
   return *program_;
 }
 
-void Stage::AfterLine() {
+void ProgramRunner::AfterLine() {
   if (!program_) return;
   const PageViewer& viewer = program_->TheForms().Get<frmInfo>().wb1;
   if (viewer.navigations > 0) navigated_ = viewer.address;
