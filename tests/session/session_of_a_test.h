@@ -9,7 +9,7 @@
 
 namespace benevix {
 
-// A session as the user's keys reach it.
+// A session that takes what the user types.
 struct SessionOfATest {
   explicit SessionOfATest(int option = payment::kCreditCard, bool deducts = true) {
     desk.Add(main);
