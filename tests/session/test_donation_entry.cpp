@@ -3,7 +3,7 @@
 #include <random>
 
 #include "base/format.h"
-#include "session_of_a_test.h"
+#include "session_fixture.h"
 
 namespace benevix {
 namespace {
@@ -13,7 +13,7 @@ std::string Cents(std::int64_t cents) {
 }
 
 TEST(DonationEntry, InvalidEntriesAndOverflowsChangeNothing) {
-  SessionOfATest session;
+  SessionFixture session;
   session.TypeBudget("200");
   for (const char* text : {"", ".", "99999999999", "1e999"}) session.Give(2, text);
   session.Give(1, "5");  // a country
@@ -32,7 +32,7 @@ TEST(DonationEntry, InvalidEntriesAndOverflowsChangeNothing) {
 
 // A donation that would overdraw the Balance is reduced by one fee.
 TEST(DonationEntry, TheBalanceStopsAtZero) {
-  SessionOfATest session(payment::kCreditCard, false);
+  SessionFixture session(payment::kCreditCard, false);
   session.TypeBudget("50");
   session.Give(2, "50");
   session.Give(2, "51");
@@ -41,18 +41,18 @@ TEST(DonationEntry, TheBalanceStopsAtZero) {
   EXPECT_TRUE(session.boxes.shown.empty());
 }
 
-std::string Maximum(const SessionOfATest& session) {
+std::string Maximum(const SessionFixture& session) {
   const std::string& question = session.boxes.shown.back().text;
   return question.substr(question.find('$') + 1, question.find(".  ") - question.find('$') - 1);
 }
 
 TEST(DonationEntry, NamesTheMaximumToTheCent) {
-  SessionOfATest added(payment::kCreditCard, false);
+  SessionFixture added(payment::kCreditCard, false);
   added.TypeBudget("100");
   for (const char* text : {"50", "200"}) added.Give(2, text);
   EXPECT_EQ(Maximum(added), "100");
 
-  SessionOfATest funds(payment::kFundsTransfer);
+  SessionFixture funds(payment::kFundsTransfer);
   funds.TypeBudget("100");
   Choose(funds.main.Option2, 1);
   funds.Give(2, "97");
@@ -61,7 +61,7 @@ TEST(DonationEntry, NamesTheMaximumToTheCent) {
   EXPECT_EQ(Maximum(funds), "98");
 
   // The e-check fee of 5 is refunded with a refusal, and deducted once.
-  SessionOfATest eCheck(payment::kECheck);
+  SessionFixture eCheck(payment::kECheck);
   eCheck.boxes.answer = BoxAnswer::Yes;
   eCheck.TypeBudget("20");
   eCheck.Give(2, "13.5");
@@ -71,7 +71,7 @@ TEST(DonationEntry, NamesTheMaximumToTheCent) {
 
   // For a foreign donor each computation raises the rate by a point, a refused one too. At 4.9:
   // 45.37 + 2 + 2.62113 = 49.99113; 45.38 + 2 + 2.62162 = 50.00162.
-  SessionOfATest card;
+  SessionFixture card;
   card.contact.Text1[contact_field::kCountry].text = "United Kingdom";
   card.TypeBudget("50");
   card.Give(2, "48");
@@ -91,7 +91,7 @@ TEST(DonationEntry, NoMoneyAppearsOrGetsLost) {
   for (int round = 0; round < 300; ++round) {
     const int option = round % 4 - 1;  // -1: no method
     const bool deducts = random() % 4 != 0;
-    SessionOfATest session(option, deducts);
+    SessionFixture session(option, deducts);
     if (random() % 2 == 0) session.contact.Text1[contact_field::kCountry].text = "Canada";
     session.boxes.answer = random() % 2 == 0 ? BoxAnswer::Yes : BoxAnswer::No;
     session.TypeBudget(std::to_string(20 + random() % 500));
@@ -120,10 +120,10 @@ TEST(DonationEntry, NoMoneyAppearsOrGetsLost) {
 }
 
 // A session in which a donation of 777.77 was just refused.
-std::unique_ptr<SessionOfATest> Refused(unsigned seed, BoxAnswer answer) {
+std::unique_ptr<SessionFixture> Refused(unsigned seed, BoxAnswer answer) {
   std::mt19937 random(seed);
   const bool deducts = random() % 5 != 0;
-  auto session = std::make_unique<SessionOfATest>(static_cast<int>(random() % 3), deducts);
+  auto session = std::make_unique<SessionFixture>(static_cast<int>(random() % 3), deducts);
   session->rates.CardRate = Currency::FromUnits(static_cast<std::int64_t>(1 + random() % 200000));
   if (random() % 2 == 0) session->contact.Text1[contact_field::kCountry].text = "Canada";
   session->TypeBudget(std::to_string(12 + random() % 300));
