@@ -16,18 +16,18 @@ inline constexpr std::int16_t kScramble = 1;
 inline constexpr std::int16_t kUnscramble = 2;
 }  // namespace codec_direction
 
-// Scrambles texts by a repeating-key XOR, written as two upper-case hexadecimal digits for each
-// character. It hides, it does not protect.
+// Scrambles texts with a repeating-key XOR; each character becomes two upper-case hexadecimal
+// digits. This is obfuscation, not encryption.
 class TextCodec {
  public:
   explicit TextCodec(std::string exeName) : exeName_(std::move(exeName)) {}
 
-  // Appends to `output`. Raises RuntimeError for a mode without a key and for digits that are not
-  // hexadecimal; any direction but the two does nothing.
+  // Appends the result to `output`. Raises RuntimeError for a mode without a key and for digits
+  // that are not hexadecimal; an unknown direction does nothing.
   void Codec(const std::string& input, std::string& output, std::int16_t mode,
              std::int16_t direction) const;
 
-  // In mode 1, into a new text.
+  // In mode kExecutable, into a new text.
   [[nodiscard]] std::string Scramble(const std::string& text) const;
   [[nodiscard]] std::string Unscramble(const std::string& digits) const;
 

@@ -5,7 +5,7 @@
 namespace benevix {
 namespace {
 
-const char* KindWord(std::uint8_t kind) {
+const char* KindText(std::uint8_t kind) {
   switch (kind) {
     case 1:
       return "Recoverable Error #0";
@@ -34,7 +34,7 @@ void Messages::ShowMessage(std::uint8_t number, std::uint8_t kind) {
 }
 
 std::string Messages::Title(std::uint8_t kind) const {
-  return info_.deployment.product + " - " + KindWord(kind);
+  return info_.deployment.product + " - " + KindText(kind);
 }
 
 BoxAnswer Messages::Show(const std::string& text, BoxIcon icon, BoxButtons buttons) {

@@ -9,24 +9,24 @@
 
 namespace benevix {
 
-// The catalogue of numbered user messages, and the boxes that stand outside it.
+// The catalogue of numbered user messages, and message boxes with other texts.
 class Messages {
  public:
   Messages(MessageBoxes& boxes, const ProgramInfo& info, const RunValues& run)
       : boxes_(boxes), info_(info), run_(run) {}
 
-  // Shows message `number` with the title word of `kind` and the extra text. Number 13 puts the
-  // extra text into the message and clears it.
+  // Shows message `number` with the title of its kind followed by `extra`. Message 13 has `extra`
+  // in its text instead and clears it.
   void ShowMessage(std::uint8_t number, std::uint8_t kind, std::string& extra);
   void ShowMessage(std::uint8_t number, std::uint8_t kind);
 
-  // A box outside the catalogue, titled with the product name unless a title is given.
+  // Shows a box with any text; the title is the product name unless one is given.
   BoxAnswer Show(const std::string& text, BoxIcon icon = BoxIcon::None,
                  BoxButtons buttons = BoxButtons::OK);
   BoxAnswer Show(const std::string& title, const std::string& text, BoxIcon icon,
                  BoxButtons buttons);
 
-  // The title of a message of this kind: the product's name and the kind's word.
+  // The title of a message of this kind: the product name and the words of the kind.
   [[nodiscard]] std::string Title(std::uint8_t kind) const;
 
  private:
@@ -38,7 +38,7 @@ class Messages {
   const RunValues& run_;
 };
 
-// The numbers and kinds that the program uses.
+// The numbers that the program uses.
 namespace message {
 inline constexpr std::uint8_t kNoServer = 1;
 inline constexpr std::uint8_t kNoUpdates = 2;
@@ -53,7 +53,7 @@ inline constexpr std::uint8_t kMaximumDonation = 13;
 inline constexpr std::uint8_t kLocalListNewer = 14;
 }  // namespace message
 
-// How message 13 begins, and the question that is asked in its place; the amount follows.
+// The beginning of message 13 and of the question about raising the Budget; the amount follows.
 inline constexpr const char* kMaximumDonationText =
     "With the present options the maximum donation is: $";
 

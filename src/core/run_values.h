@@ -2,15 +2,15 @@
 
 namespace benevix {
 
-// Program-wide values that are no part of a session.
+// Program-wide values that do not belong to a session.
 struct RunValues {
-  bool ServerOK = false;  // the server answered "server ok" when last asked
+  bool ServerOK = false;  // the server's status when last asked
   float DBVersion = 0;    // version of the organization list
-  int YtdState = 0;       // 0 no year-to-date table in this run, 1 downloaded, 2 found damaged
-  int PlatformCode = 0;   // of the operating system
+  int YtdState = 0;       // 0 no year-to-date table in this run, 1 downloaded, 2 malformed
+  int PlatformCode = 0;   // see GetPlatformCode
 };
 
-// 3, 9, 1 or 0 by the operating system's platform identifier 0, 1, 2 or any other.
+// The code of the operating system's platform identifier; 0 for an unknown one.
 constexpr int GetPlatformCode(int platformId) {
   switch (platformId) {
     case 0:

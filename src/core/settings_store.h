@@ -10,31 +10,33 @@ namespace benevix {
 inline const std::string kSettingsPath = "Software\\Quorl\\Benevix";
 inline const std::string kFavoritesPath = kSettingsPath + "\\Favorites";
 
-// The program's settings: texts under a key of the registry. Nothing here fails: what cannot be
-// read is the empty text, what cannot be written is not. There is no cache.
+// The program's settings: texts under a registry key. Failures are silent: what cannot be read is
+// empty, what cannot be written is skipped. Nothing is cached.
 class SettingsStore {
  public:
   explicit SettingsStore(Registry& registry) : registry_(registry) {}
 
   void CreateKey(Root root, const std::string& path);
 
-  // Writes through SetValueOnHandle when the key is there.
+  // Writes with SetValueOnHandle if the key exists.
   void SetValue(Root root, const std::string& path, const std::string& name, std::uint32_t type,
                 const std::string& value);
-  // A text with its closing NUL or a 32-bit number; any other type writes nothing and gives 0.
+  // Writes a text with its terminating NUL or a 32-bit number (RuntimeError beyond 32 bits); any
+  // other type writes nothing and returns 0.
   static ResultCode SetValueOnHandle(RegistryKey& key, const std::string& name, std::uint32_t type,
                                      const std::string& value);
 
-  // Makes the key first when it is not there.
+  // Creates the key first if it does not exist.
   void SaveString(Root root, const std::string& path, const std::string& name,
                   const std::string& value);
   std::string GetString(Root root, const std::string& path, const std::string& name);
+  // Reads a text, or a 32-bit number as text. Returns 0, or another code and leaves `value`.
   static ResultCode QueryValueOnHandle(RegistryKey& key, const std::string& name,
                                        std::string& value);
 
   void DeleteValue(Root root, const std::string& path, const std::string& name);
 
-  // The program's own key in the user's branch.
+  // In the program's own key of the user's branch.
   void SaveUserString(const std::string& name, const std::string& value) {
     SaveString(Root::CurrentUser, kSettingsPath, name, value);
   }

@@ -7,11 +7,11 @@
 
 namespace benevix {
 
-// A folder of the shell by its identifier; empty for an unknown one.
+// The path of a shell folder, UTF-8; empty for an unknown identifier.
 std::string GetSpecialFolder(const Shell& shell, int folderId);
 
-// Puts the program's shortcut, which the installer left in the start menu, on the desktop. Without
-// one there nothing happens.
+// Copies the program's shortcut, which the installer put into the start menu, to the desktop. Does
+// nothing without one.
 void CreateDesktopShortcut(Shell& shell, const ProgramInfo& info);
 
 }  // namespace benevix

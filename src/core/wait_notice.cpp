@@ -14,19 +14,19 @@ WaitNotice::WaitNotice(const WaitWindow& window) : window_(window) {
 }
 
 std::function<void(std::size_t received, std::size_t total)> WaitNotice::Progress() {
-  return [this](std::size_t received, std::size_t total) { Move(received, total); };
+  return [this](std::size_t received, std::size_t total) { MoveBar(received, total); };
 }
 
-void WaitNotice::Move(std::size_t received, std::size_t total) {
-  constexpr int whole = 100;
+void WaitNotice::MoveBar(std::size_t received, std::size_t total) {
+  constexpr int full = 100;
   if (total == 0) return;
   ProgressBar& bar = window_.form.ProgressBar1;
   const auto value = static_cast<int>(static_cast<double>(std::min(received, total)) /
-                                      static_cast<double>(total) * whole);
-  if (bar.max == whole && bar.value == value) return;
-  bar.max = whole;
+                                      static_cast<double>(total) * full);
+  if (bar.max == full && bar.value == value) return;
+  bar.max = full;
   bar.value = value;
-  const WaitScope seen(window_.waits);  // the windows are brought into line
+  const WaitScope redraw(window_.waits);  // updates the widgets
 }
 
 }  // namespace benevix

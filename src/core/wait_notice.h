@@ -9,14 +9,14 @@
 
 namespace benevix {
 
-// The please-wait window, and what brings it to the screen.
+// The please-wait window and what it takes to show it.
 struct WaitWindow {
   frmWait& form;
   Desk& desk;
   Waits& waits;
 };
 
-// Shows the please-wait window while a long request runs; it goes with this object.
+// Shows the please-wait window as long as this object lives.
 class WaitNotice {
  public:
   explicit WaitNotice(const WaitWindow& window);
@@ -24,11 +24,11 @@ class WaitNotice {
   WaitNotice(const WaitNotice&) = delete;
   WaitNotice& operator=(const WaitNotice&) = delete;
 
-  // What a request is to tell its progress: its bytes move the bar.
+  // The progress callback for a request; it moves the bar.
   [[nodiscard]] std::function<void(std::size_t received, std::size_t total)> Progress();
 
  private:
-  void Move(std::size_t received, std::size_t total);
+  void MoveBar(std::size_t received, std::size_t total);
 
   WaitWindow window_;
 };

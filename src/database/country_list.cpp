@@ -8,7 +8,7 @@
 namespace benevix {
 namespace {
 
-// The first field of a comma-delimited line: up to a comma, or what stands between quotes.
+// The first field of the first line: up to a comma, or between quotes.
 std::string FirstField(std::string_view text) {
   if (text.empty()) throw RuntimeError("Input past end of file");
   std::string_view line = Lines(text).front();
@@ -26,11 +26,11 @@ std::string FirstField(std::string_view text) {
 
 std::vector<std::string> ReadCountryList(const Files& files, const std::string& file,
                                          const TextCodec& codec) {
-  std::string clear;
-  codec.Codec(FirstField(files.ReadAll(file)), clear, codec_mode::kCountries,
+  std::string names;
+  codec.Codec(FirstField(files.ReadAll(file)), names, codec_mode::kCountries,
               codec_direction::kUnscramble);
   std::vector<std::string> countries;
-  for (std::string_view rest = clear; !rest.empty();) {
+  for (std::string_view rest = names; !rest.empty();) {
     if (rest.find(',') == std::string_view::npos) throw RuntimeError("Invalid procedure call");
     countries.emplace_back(CutField(rest, ','));
   }

@@ -8,8 +8,9 @@
 
 namespace benevix {
 
-// The country names of a scrambled list file, in its order. Raises RuntimeError when the file is
-// missing or empty, its field is not hexadecimal, or the last name lacks its comma.
+// The country names of a scrambled list file, in file order. The file's first field holds the
+// names, each followed by a comma, scrambled in mode kCountries. Raises RuntimeError when the file
+// is missing or empty, the field is not hexadecimal, or the last comma is missing.
 std::vector<std::string> ReadCountryList(const Files& files, const std::string& file,
                                          const TextCodec& codec);
 

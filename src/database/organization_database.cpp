@@ -11,7 +11,7 @@
 namespace benevix {
 
 void OrganizationDatabase::LoadOrganizationList() {
-  list_.reset();  // before the new one is read, so that there are never two
+  list_.reset();  // first, so that memory never holds two lists
   list_ = std::make_shared<const OrganizationList>(*files_.Open(file_));
   main_.ListView1.SetRows(list_);
   if (list_->Version()) run_.DBVersion = *list_->Version();
@@ -46,7 +46,7 @@ void OrganizationDatabase::BuildCountriesMenu() {
 
 namespace {
 
-// `keyOf` gives what a row is looked up by; the first row of each wanted key counts.
+// The first row of each wanted key, under its name in `wanted`; keyOf(row) is the key of a row.
 template <class Keys, class KeyOf>
 std::map<std::string, int> FindFirst(const OrganizationList* list, Keys wanted, KeyOf keyOf) {
   std::map<std::string, int> rows;
@@ -61,18 +61,19 @@ std::map<std::string, int> FindFirst(const OrganizationList* list, Keys wanted, 
 
 }  // namespace
 
-std::map<std::string, int> OrganizationDatabase::FindRows(const std::set<std::string>& ids) const {
+std::map<std::string, int> OrganizationDatabase::FindRowsById(
+    const std::set<std::string>& ids) const {
   std::unordered_map<std::int32_t, std::string> wanted;
   for (const std::string& id : ids) {
     std::int32_t number = 0;
     const auto read = std::from_chars(id.data(), id.data() + id.size(), number);
-    // Only as the list writes its numbers, and never a heading's.
+    // Only the form in which the list shows an ID; 0 stands for headings.
     if (read.ec == std::errc() && std::to_string(number) == id && number != 0) wanted[number] = id;
   }
   return FindFirst(list_.get(), wanted, [this](int row) { return list_->Id(row); });
 }
 
-std::map<std::string, int> OrganizationDatabase::FindNames(
+std::map<std::string, int> OrganizationDatabase::FindRowsByName(
     const std::set<std::string>& names) const {
   std::unordered_map<std::string_view, std::string> wanted;
   for (const std::string& name : names) wanted.emplace(name, name);

@@ -13,8 +13,8 @@
 
 namespace benevix {
 
-// The version in a list file's first header line; nothing without one. Raises RuntimeError when the
-// file cannot be read or the number is beyond a single.
+// The version in the first header line of a list file; nothing without one. Raises RuntimeError
+// when the file cannot be read or the number is beyond a float.
 std::optional<float> ListFileVersion(const Files& files, const std::string& file);
 
 // The installed organization list, its version and the countries menu.
@@ -24,22 +24,23 @@ class OrganizationDatabase {
                        std::string file)
       : main_(main), run_(run), settings_(settings), files_(files), file_(std::move(file)) {}
 
-  // Puts the file's rows into ListView1; DBVersion is that of the last header line. Raises
-  // RuntimeError when the file cannot be read, and after the rows so far when a line is bad.
+  // Loads the file into ListView1 and DBVersion from the last header line. Raises RuntimeError when
+  // the file cannot be read, and at a bad line, with the rows before it loaded.
   void LoadOrganizationList();
 
-  // Sets DBVersion from the first header line; without one DBVersion is stored as `BVXDB`.
+  // Sets DBVersion from the first header line; without one, stores the current DBVersion in the
+  // setting `BVXDB`. Raises like ListFileVersion.
   void ReadListVersion();
 
-  // Element i - 1 of `lclist` gets the country heading of row i.
+  // Fills the countries menu: element i - 1 of `lclist` is the country heading of row i.
   void BuildCountriesMenu();
 
-  // The rows of organizations by their numbers as texts, in one pass over the list; one that is not
-  // in the list has none.
-  [[nodiscard]] std::map<std::string, int> FindRows(const std::set<std::string>& ids) const;
-  // The first rows whose organization has one of the names.
-  [[nodiscard]] std::map<std::string, int> FindNames(const std::set<std::string>& names) const;
+  // The row of each ID that is in the list, found in one pass.
+  [[nodiscard]] std::map<std::string, int> FindRowsById(const std::set<std::string>& ids) const;
+  // The first row of each organization name that is in the list.
+  [[nodiscard]] std::map<std::string, int> FindRowsByName(const std::set<std::string>& names) const;
 
+  // Null without a loaded list.
   [[nodiscard]] const OrganizationList* List() const { return list_.get(); }
 
  private:

@@ -15,9 +15,9 @@ namespace {
 
 constexpr std::size_t kIdLength = 8;
 constexpr std::size_t kNameBegin = 9;
-// Each piece is scanned while it is still in the processor's cache.
-constexpr std::size_t kPiece = std::size_t{256} << 10;
-// Few lines are shorter; memory that is not touched costs nothing.
+// Bytes per read; they are scanned while still in the processor's cache.
+constexpr std::size_t kReadSize = std::size_t{256} << 10;
+// For reserving memory: few lines are shorter, and memory that is never touched costs nothing.
 constexpr std::size_t kShortLine = 32;
 
 std::string_view WithoutReturn(std::string_view line) {
@@ -25,7 +25,7 @@ std::string_view WithoutReturn(std::string_view line) {
   return line;
 }
 
-// Whether eight characters are digits: such a number needs no look for its range.
+// Whether eight characters are all digits; such a number cannot be out of range.
 bool IsPlainId(const char* digits) {
   std::uint64_t eight = 0;
   std::memcpy(&eight, digits, kIdLength);
@@ -58,23 +58,23 @@ OrganizationList::OrganizationList(FileReader& file) {
     return;
   }
   bytes_.resize(size);
-  begins_.reserve(size / kShortLine);
+  lineStarts_.reserve(size / kShortLine);
   LineScan scan;
   const auto onLine = [this](std::size_t begin, std::size_t end, std::size_t comma) {
     if (!IsPlainOrganization(begin, comma)) return AddLine(begin, end, comma);
-    begins_.push_back(static_cast<std::uint32_t>(begin));
+    lineStarts_.push_back(static_cast<std::uint32_t>(begin));
     return true;
   };
-  bool whole = true;
-  std::size_t have = 0;
-  while (whole && have < size) {
-    const std::size_t got = file.Read(bytes_.data() + have, std::min(kPiece, size - have));
-    if (got == 0) break;
-    have += got;
-    whole = scan.Advance(bytes_.data(), have, onLine);
+  bool intact = true;
+  std::size_t loaded = 0;
+  while (intact && loaded < size) {
+    const std::size_t count = file.Read(bytes_.data() + loaded, std::min(kReadSize, size - loaded));
+    if (count == 0) break;
+    loaded += count;
+    intact = scan.Advance(bytes_.data(), loaded, onLine);
   }
-  bytes_.resize(have);
-  if (whole && scan.LineBegin() < have) AddLine(scan.LineBegin(), have, scan.LastComma());
+  bytes_.resize(loaded);
+  if (intact && scan.LineBegin() < loaded) AddLine(scan.LineBegin(), loaded, scan.LastComma());
 }
 
 bool OrganizationList::IsPlainOrganization(std::size_t begin, std::size_t lastComma) const {
@@ -94,16 +94,16 @@ bool OrganizationList::AddLine(std::size_t begin, std::size_t end, std::size_t l
     return damage_.empty();
   }
   if (line[0] == '[') {
-    headings_.push_back(static_cast<int>(begins_.size()) + 1);
+    headings_.push_back(static_cast<int>(lineStarts_.size()) + 1);
   } else {
-    const bool comma = lastComma != LineScan::kNone && lastComma >= begin;
-    if (!TakeOrganization(line, comma ? lastComma - begin : LineScan::kNone)) return false;
+    const bool inLine = lastComma != LineScan::kNone && lastComma >= begin;
+    if (!CheckOrganization(line, inLine ? lastComma - begin : LineScan::kNone)) return false;
   }
-  begins_.push_back(static_cast<std::uint32_t>(begin));
+  lineStarts_.push_back(static_cast<std::uint32_t>(begin));
   return true;
 }
 
-bool OrganizationList::TakeOrganization(std::string_view line, std::size_t comma) {
+bool OrganizationList::CheckOrganization(std::string_view line, std::size_t comma) {
   const bool hasComma =
       comma != LineScan::kNone && (comma >= kNameBegin || line.size() <= kNameBegin);
   if (!hasComma && !IsBlank(line)) {
@@ -120,7 +120,7 @@ bool OrganizationList::TakeOrganization(std::string_view line, std::size_t comma
 }
 
 std::string_view OrganizationList::Line(int row) const {
-  const std::size_t begin = begins_[static_cast<std::size_t>(row - 1)];
+  const std::size_t begin = lineStarts_[static_cast<std::size_t>(row - 1)];
   const char* const text = bytes_.data() + begin;
   const void* const end = std::memchr(text, '\n', bytes_.size() - begin);
   const std::size_t length = end == nullptr
@@ -148,8 +148,8 @@ int OrganizationList::FindName(std::string_view word, int from) const {
 
 int OrganizationList::FindNameIn(std::string_view word, int from, int to) const {
   for (int row = from; row <= to; ++row) {
-    // A look at one byte passes over most rows; the name itself is cut out for the others only.
-    const std::size_t at = begins_[static_cast<std::size_t>(row - 1)] + kNameBegin;
+    // Comparing the first letter skips most rows without cutting out the name.
+    const std::size_t at = lineStarts_[static_cast<std::size_t>(row - 1)] + kNameBegin;
     if (at >= bytes_.size() || !SameLetter(bytes_[at], word[0])) continue;
     if (BeginsWith(View(row, column::kOrganization), word)) return row;
   }

@@ -26,25 +26,25 @@ inline constexpr int kFee = 8;
 inline constexpr int kCardFee = 9;
 }  // namespace column
 
-// The rows of a list file: its bytes and where each heading and organization line begins. Lines:
-// ";QUORL" and a version (header), ";" (comment), "[Country]" (heading), otherwise ID in positions
-// 1 to 8, Name from 10 to the comma, Type from two characters behind it.
+// The rows of a list file, kept as its bytes and the start of each row's line. A line is ";QUORL"
+// and a version (header), ";" and a comment, "[Country]" (heading), or ID in columns 1 to 8, name
+// from column 10 to the comma, type from two characters after it (organization).
 class OrganizationList : public RowSource {
  public:
-  // Reads the file. Raises RuntimeError when it cannot be read. A bad line ends the list before it,
-  // and of a file of 4 GiB or more nothing is read; Damage() then says why.
+  // Reads the file; raises RuntimeError when that fails. A bad line ends the list before it, and a
+  // file of 4 GiB or more is not read at all; Damage() then says why.
   explicit OrganizationList(FileReader& file);
 
-  [[nodiscard]] int Count() const override { return static_cast<int>(begins_.size()); }
+  [[nodiscard]] int Count() const override { return static_cast<int>(lineStarts_.size()); }
   [[nodiscard]] std::string Text(int row, int column) const override;
 
-  // As Text, without a copy; for the columns that stand in the file as they are shown.
+  // As Text, without a copy, for a row in range; empty for ID and the written columns.
   [[nodiscard]] std::string_view View(int row, int column) const;
-  // An organization's number; 0 on a heading.
+  // The ID of an organization, 0 for a heading; the row must be in range.
   [[nodiscard]] std::int32_t Id(int row) const;
 
-  // The first row from `from` on, and then from the list's beginning, of an organization whose name
-  // begins with the word, whatever the case; 0 when there is none.
+  // The first organization row from `from` on, then from row 1, whose name begins with the word,
+  // ignoring case; 0 without one.
   [[nodiscard]] int FindName(std::string_view word, int from) const;
 
   // The rows of the country headings, in order.
@@ -55,25 +55,25 @@ class OrganizationList : public RowSource {
   [[nodiscard]] const std::string& Damage() const { return damage_; }
 
  private:
-  // Nearly every line is one; the others are looked at closely.
+  // Fast check that nearly every line passes; the others go through AddLine.
   [[nodiscard]] bool IsPlainOrganization(std::size_t begin, std::size_t lastComma) const;
+  // Both return false at a bad line and set damage_.
   bool AddLine(std::size_t begin, std::size_t end, std::size_t lastComma);
-  bool TakeOrganization(std::string_view line, std::size_t comma);
+  bool CheckOrganization(std::string_view line, std::size_t comma);
   [[nodiscard]] std::string_view Line(int row) const;
   [[nodiscard]] int FindNameIn(std::string_view word, int from, int to) const;
 
   std::vector<char, LargeAllocator<char>> bytes_;
-  std::vector<std::uint32_t, LargeAllocator<std::uint32_t>> begins_;
+  std::vector<std::uint32_t, LargeAllocator<std::uint32_t>> lineStarts_;
   std::vector<int> headings_;
   std::optional<float> version_;
   std::string damage_;
 };
 
-// What a header line begins with.
+// How a header line begins.
 inline constexpr std::string_view kListHeader = ";QUORL";
 
-// The version that a header line carries; nothing when it is none. Raises RuntimeError when the
-// number is beyond a single.
+// The version in a header line; nothing for any other line. Raises RuntimeError beyond a float.
 std::optional<float> HeaderVersion(std::string_view line);
 
 }  // namespace benevix

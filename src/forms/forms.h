@@ -18,8 +18,8 @@
 
 namespace benevix {
 
-// Every window of the program, once. This list feeds all others: the desk and the tests go through
-// it, and the build file takes the drawings from the includes above.
+// All windows of the program. The desk, the mirror and the tests iterate over this list; the build
+// file takes the drawings from the includes above.
 class Forms {
  public:
   template <class Form>
@@ -27,7 +27,7 @@ class Forms {
     return std::get<Form>(forms_);
   }
 
-  // Calls f(form) for each, the main window first.
+  // Calls f(form) for each window, the main window first.
   template <class F>
   void ForEach(F&& f) {
     std::apply([&f](auto&... form) { (f(form), ...); }, forms_);

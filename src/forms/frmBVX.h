@@ -4,11 +4,11 @@
 
 namespace benevix {
 
-// What the two indicators tell while they are off.
+// What a screen reader says of the two indicators while they are off.
 inline constexpr const char* kNoNews = "No news";
 inline constexpr const char* kNoAmounts = "No amounts";
 
-// Elements of the control arrays.
+// Indexes into the control arrays.
 namespace money_box {  // Text1
 inline constexpr int kBudget = 0;
 inline constexpr int kBalance = 1;
@@ -62,11 +62,11 @@ struct frmBVX : Window {
     qhelp1.items[0];
     Shape2.meaning = kNoAmounts;
     Shape5.meaning = kNoNews;
-    GiveShortcuts();
+    SetShortcuts();
   }
 
-  // A command that has a menu item carries it there.
-  void GiveShortcuts() {
+  // A command with a menu item has its shortcut there.
+  void SetShortcuts() {
     closesByEscape = false;
     ListView1.shortcut = "Ctrl+L";
     Label12.shortcut = "Ctrl+Shift+N";
@@ -94,20 +94,20 @@ struct frmBVX : Window {
   Label Label1[4] = {Label("Budget"), Label("Balance"), Label("Donation"), Label("Funds")};
   TextBox Text1[3] = {TextBox("The maximum amount to donate"), TextBox("how much is left"),
                       TextBox("The amount you give")};
-  Label Label3{"$"};  // the unit of the Donation box
-  MoneyBar BudgetUse;
+  Label Label3{"$"};   // the unit of the Donation box
+  MoneyBar BudgetUse;  // how the Budget is used
   // What each payment method would charge.
   Label ChargeName[3] = {Label("Pay by Credit Card"), Label("Pay by Funds Transfer"),
                          Label("Pay by e-check")};
   Label ChargeAmount[3], ChargeFees[3];
   Label Label9{"Estimated Bal", "Estimated Balance"};
-  Label Label8;  // the small balance label
-  Label Label6{"Type a Dollar amount in the Budget box and press <Enter>"};  // the guidance line
-  Label Label12{"System Message", "Click to receive"};                       // the news line
-  Label Label10{"Fees"};
+  Label Label8;  // the estimated balance, hidden once a Budget is entered
+  Label Label6{"Type a Dollar amount in the Budget box and press <Enter>"};  // the hint line
+  Label Label12{"System Message", "Click to receive"};                       // the news
+  Label Label10{"Fees"};  // heading of the fee options
   Label Label11[2] = {Label("Update List"), Label("&Help")};
-  Label Label4{"Benevix helps you give."};  // the credit line, later the payment method
-  Label iLbl{"YTD Status", {}, "Frame9"};
+  Label Label4{"Benevix helps you give."};  // the scrolling credit line, later the payment method
+  Label iLbl{"YTD Status", {}, "Frame9"};   // opens and closes the year-to-date window
 
   Frame Frame2{"Fees"};
   OptionButton Option3[2] = {OptionButton("Add to Budget", {}, "Frame2"),
@@ -134,16 +134,15 @@ struct frmBVX : Window {
   ListView ListView1;
   Button Command1{"&Continue", "Send the donation(s)"};  // index 1, the only element of its array
 
-  HttpControl Inet1, Inet2;
+  HttpControl Inet1, Inet2;  // for the server and for the translation service
   Timer Timer1{20, false};   // scrolls the credit line in
   Timer Timer2{500, false};  // makes the news indicator blink
+  Shape Shape2;              // the year-to-date indicator
+  Shape Shape5;              // the news indicator
+  Shape Shape7;              // the ring around the news indicator
+  // Decoration that has no widgets in the drawing.
   PictureBox Image1, Image2, Image3, Image4, Image5, Picture2;
-  Shape Shape1;
-  Shape Shape2;          // the year-to-date mark
-  Shape Shape3, Shape4;  // the two frames around the list
-  Shape Shape5;          // the news indicator
-  Shape Shape6;
-  Shape Shape7;  // the ring around the news indicator
+  Shape Shape1, Shape3, Shape4, Shape6;
   Line Line1, Line2, Line3;
 
   MenuItem TFile{"&File"};

@@ -4,7 +4,7 @@
 
 namespace benevix {
 
-// The information viewer: a text panel or a page.
+// The information viewer: shows a text panel or a page.
 struct frmInfo : Window {
   static constexpr const char* kName = "frmInfo";
 
@@ -22,12 +22,12 @@ struct frmInfo : Window {
   static constexpr const char* kTitle = "Information";
   static constexpr int kPanelHeight = 7200;  // twips
 
-  PictureBox Picture1;
-  Label Label1;  // the page text
+  PictureBox Picture1;  // the text panel
+  Label Label1;         // its text
   ScrollBar VScroll1;
   Label Label2{"Retrieving Information. Please wait..."};
   Label Label3{"TRANSLATE"};
-  PageViewer wb1;
+  PageViewer wb1;  // the page
 };
 
 template <class F>

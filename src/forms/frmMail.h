@@ -12,13 +12,13 @@ struct frmMail : Window {
     caption = " BVX Messenger";
     Text1[1].multiLine = true;
     Command1[2].enabled = false;
-    // Not by Enter: what is sent cannot be called back.
+    // Not Enter: a message that was sent cannot be recalled.
     Command1[0].shortcut = "Ctrl+Return";
     Command1[1].shortcut = kEscapeShortcut;
     Command1[2].shortcut = "Ctrl+P";
   }
 
-  // 3 the sender's e-mail, 4 the organization's name; the others name the fields.
+  // 0 to 2 name the fields; 3 is the sender's e-mail, 4 the organization's name.
   Label Label1[5] = {Label("From:"), Label("Subject:"), Label("Message")};
   TextBox Text1[2] = {TextBox("What the message is about"), TextBox("The message")};
   Button Command1[3] = {Button("&Send", "Deliver the message"),

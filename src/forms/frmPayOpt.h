@@ -4,13 +4,13 @@
 
 namespace benevix {
 
-namespace payment {
+namespace payment {  // Option1
 inline constexpr int kCreditCard = 0;
 inline constexpr int kFundsTransfer = 1;
 inline constexpr int kECheck = 2;
 }  // namespace payment
 
-// Asks for the session's form of payment.
+// Asks for the payment method of the session.
 struct frmPayOpt : Window {
   static constexpr const char* kName = "frmPayOpt";
 
@@ -33,7 +33,7 @@ struct frmPayOpt : Window {
                    "info"),
       OptionButton("e-check",
                    "Transfer from your Bank account - Fees apply - Press Help for more info")};
-  // What each would charge, once something is given.
+  // What each method would charge; shown after the first donation.
   Label ChargeAmount[3], ChargeFees[3];
   Button Command1[2] = {Button("&Continue"), Button("&Help")};
 };

@@ -4,7 +4,7 @@
 
 namespace benevix {
 
-namespace contact_field {
+namespace contact_field {  // Text1
 inline constexpr int kFullName = 0;
 inline constexpr int kCountry = 5;
 inline constexpr int kEMail = 6;

@@ -4,14 +4,14 @@
 
 namespace benevix {
 
-namespace translate_field {
+namespace translate_field {  // Text1
 inline constexpr int kMyLanguage = 0;
 inline constexpr int kFromLanguage = 1;
 inline constexpr int kService = 2;
-inline constexpr int kAddressKey = 3;
+inline constexpr int kAddressKey = 3;  // precedes the page's address in a request
 }  // namespace translate_field
 
-// Into which language an information page is translated, and by which service.
+// The languages and the service with which an information page is translated.
 struct frmPrefsTranslate : Window {
   static constexpr const char* kName = "frmPrefsTranslate";
 

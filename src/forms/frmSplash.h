@@ -4,7 +4,7 @@
 
 namespace benevix {
 
-// The first window: from it the user enters or leaves.
+// The splash window: the user enters the program or exits.
 struct frmSplash : Window {
   static constexpr const char* kName = "frmSplash";
 
@@ -16,7 +16,7 @@ struct frmSplash : Window {
 
   PictureBox Image1;
   PictureBox Image2[2] = {PictureBox("Enter"), PictureBox("Exit")};
-  Shape Shape2;
+  Shape Shape2;  // the frame, highlighted while the mouse is over a button
 };
 
 template <class F>

@@ -4,7 +4,7 @@
 
 namespace benevix {
 
-// Finds a row of the organization list by a word.
+// Searches the organization list for a word.
 struct frmSrch : Window {
   static constexpr const char* kName = "frmSrch";
 

@@ -4,7 +4,7 @@
 
 namespace benevix {
 
-namespace friend_field {
+namespace friend_field {  // Text1
 inline constexpr int kFriendName = 0;
 inline constexpr int kFriendMail = 1;
 inline constexpr int kOwnName = 2;

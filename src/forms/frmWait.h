@@ -4,7 +4,7 @@
 
 namespace benevix {
 
-// Stands while a long request runs; its timer takes it away at the latest.
+// The please-wait window. Its timer closes it if nothing else does.
 struct frmWait : Window {
   static constexpr const char* kName = "frmWait";
 

@@ -4,7 +4,7 @@
 
 namespace benevix {
 
-// Asks a first-time user for the two modes, page by page.
+// Asks a first-time user for the fee mode and the donation mode, page by page.
 struct frmWizard : Window {
   static constexpr const char* kName = "frmWizard";
 

@@ -4,7 +4,7 @@
 
 namespace benevix {
 
-// What the selected organization has received.
+// The year-to-date amounts of the selected organization.
 struct frmYtdTag : Window {
   static constexpr const char* kName = "frmYtdTag";
 

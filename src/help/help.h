@@ -15,10 +15,10 @@ class Help {
   Help(InformationViewer& viewer, const frmBVX& main, Messages& messages, const ProgramInfo& info)
       : viewer_(viewer), main_(main), messages_(messages), info_(info) {}
 
-  // A page of the Resources folder, with or without an anchor.
+  // Shows a page of the Resources folder; `page` may end in "#" and an anchor.
   void ShowPage(const std::string& page, const std::string& title = frmInfo::kTitle);
 
-  // The quick-help page at the topic of a menu element.
+  // Shows the quick help at the topic of the menu item.
   void qhelp1_Click(int index);
   void whatisBtn1_Click();
   void mnuHelp_Click();

@@ -23,32 +23,33 @@ void InformationViewer::AwaitText() {
 }
 
 void InformationViewer::ShowText(const std::string& text, const std::string& title) {
-  // Until it is drawn, a text is taken to be as high as its lines.
+  // The height is estimated from the number of lines until the text is drawn.
   constexpr int lineHeight = 195;  // twips
-  constexpr std::ptrdiff_t mostLines = 1'000'000;
-  const auto lines = std::min(1 + std::count(text.begin(), text.end(), '\n'), mostLines);
+  constexpr std::ptrdiff_t maxLines = 1'000'000;
+  const auto lines = std::min(1 + std::count(text.begin(), text.end(), '\n'), maxLines);
   window_.caption = title;
   window_.Label1.caption = text;
   window_.Label1.height = std::max(frmInfo::kPanelHeight, static_cast<int>(lines) * lineHeight);
   window_.Label1.top = window_.VScroll1.value = 0;
   window_.Picture1.visible = true;
-  desk_.SetFocus(window_.VScroll1);  // so that the arrow keys move the text
-  waits_.DoEvents();                 // the text is measured as it is drawn
-  MeasureText();
+  desk_.SetFocus(window_.VScroll1);  // so that the arrow keys scroll the text
+  waits_.DoEvents();                 // draws the text, which sets its height
+  UpdateScrollRange();
 }
 
 void InformationViewer::Form_Load() {
-  MeasureText();
+  UpdateScrollRange();
   window_.topmost = true;
 }
 
 void InformationViewer::VScroll1_Scroll() {
-  MeasureText();  // the window may have been made narrower since
+  UpdateScrollRange();  // the window may have been resized
   window_.Label1.top = -window_.VScroll1.value;
 }
 
 void InformationViewer::Form_Unload() {
   window_.wb1.visible = false;
+  // Makes the main window repaint.
   main_.Line2.visible = false;
   main_.Line2.visible = true;
 }

@@ -15,24 +15,23 @@ class InformationViewer {
   InformationViewer(frmInfo& window, frmBVX& main, Desk& desk, Waits& waits)
       : window_(window), main_(main), desk_(desk), waits_(waits) {}
 
-  // Opens at a page, in place of what was shown: a web address, or a file's path and perhaps "#"
-  // and an anchor. The title is never that of the page before.
+  // Opens the viewer at a page, in place of what it showed. `address` is a web address or a file
+  // path, which may end in "#" and an anchor.
   void ShowPage(const std::string& address, const std::string& title = frmInfo::kTitle,
                 Attention attention = Attention::None);
 
-  // Opens for a text that is still to come; the main window waits.
+  // Opens the viewer before its text has arrived; disables the main window.
   void AwaitText();
-  // Shows the text, from its beginning.
+  // Shows the text, scrolled to its beginning.
   void ShowText(const std::string& text, const std::string& title);
 
   void Form_Load();
   void VScroll1_Scroll();
-  // The main window repaints.
   void Form_Unload();
 
  private:
-  // The scroll bar reaches over the whole text.
-  void MeasureText() { window_.VScroll1.max = window_.Label1.height; }
+  // The scroll bar covers the whole text.
+  void UpdateScrollRange() { window_.VScroll1.max = window_.Label1.height; }
 
   frmInfo& window_;
   frmBVX& main_;

@@ -9,14 +9,14 @@
 namespace benevix {
 namespace {
 
-// Each "%" and the two characters behind it become a blank.
+// Replaces each "%" and the two characters after it by a blank.
 std::string WithoutEscapes(std::string_view name) {
-  std::string clear;
+  std::string text;
   for (std::size_t i = 0; i < name.size(); ++i) {
-    clear += name[i] == '%' ? ' ' : name[i];
+    text += name[i] == '%' ? ' ' : name[i];
     if (name[i] == '%') i += 2;
   }
-  return clear;
+  return text;
 }
 
 }  // namespace
@@ -28,15 +28,15 @@ void BuildQuickHelpMenu(const Files& files, const std::string& page, MenuArray& 
   } catch (const RuntimeError&) {
     return;
   }
-  const std::string opening = "<A NAME=";
-  int k = 0;
+  const std::string anchor = "<A NAME=";
+  int index = 0;
   for (const std::string_view line : Lines(text)) {
-    const auto p = line.find(opening);
-    if (p == std::string_view::npos) continue;
-    const auto start = p + opening.size() + 1;
-    const auto q = line.find('>', p);
-    if (q == std::string_view::npos || q < start + 1) return;
-    qhelp1.items[k++].caption = WithoutEscapes(line.substr(start, q - start - 1));
+    const auto at = line.find(anchor);
+    if (at == std::string_view::npos) continue;
+    const auto start = at + anchor.size() + 1;
+    const auto end = line.find('>', at);
+    if (end == std::string_view::npos || end < start + 1) return;
+    qhelp1.items[index++].caption = WithoutEscapes(line.substr(start, end - start - 1));
   }
 }
 

@@ -7,8 +7,8 @@
 
 namespace benevix {
 
-// Makes a menu element of each anchor of the quick-help page: the first `<A NAME="...">` of a line,
-// URL escapes read as blanks. A missing page or a malformed anchor ends the building there.
+// Adds a menu item for each anchor of the quick-help page: the first `<A NAME="...">` of a line,
+// with blanks for URL escapes. A malformed anchor ends the menu; without the page nothing is added.
 void BuildQuickHelpMenu(const Files& files, const std::string& page, MenuArray& qhelp1);
 
 }  // namespace benevix

@@ -10,7 +10,7 @@ void Wizard::Show() {
   desk_.Show(window_);
 }
 
-void Wizard::ReadStartMark() {
+void Wizard::ReadShowAtStart() {
   const std::string stored = settings_.GetUserString("ShowWiz");
   try {
     main_.mnuWiz.checked = stored.empty() || TextToBoolean(stored);
@@ -59,7 +59,7 @@ void Wizard::Command1_Click() {
                           "Add to my Budget", "Deduct from my Budget");
     case Page::Fees:
       window_.Command1.enabled = false;
-      // As with the menu, nothing changes once something has been given.
+      // As in the menu, the fee mode is fixed after the first donation.
       if (main_.mnuAddFees.enabled) SetFeeMode(main_, first ? FeeMode::Add : FeeMode::Deduct);
       return ShowQuestion(Page::DonationMode, "The amounts you type as Donation are:", "Currency",
                           "% of Balance");

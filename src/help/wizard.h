@@ -11,8 +11,8 @@
 
 namespace benevix {
 
-// The start-up wizard: welcome, the fee mode, the donation mode. A choice takes effect with the
-// Continue of its page.
+// The start-up wizard: a welcome page, the fee mode, the donation mode. A choice takes effect when
+// Continue is pressed on its page.
 class Wizard {
  public:
   Wizard(frmWizard& window, frmBVX& main, Desk& desk, SettingsStore& settings,
@@ -21,14 +21,14 @@ class Wizard {
 
   void Show();
 
-  // Marks the menu's "Start with the Wizard" by the setting `ShowWiz`: an empty one sets the mark,
-  // one that says neither yes nor no leaves it off.
-  void ReadStartMark();
-  // The mark is toggled and stored; setting it also shows the wizard.
+  // Checks "Start with the Wizard" in the menu if the setting `ShowWiz` is true or empty; a setting
+  // that is no truth value counts as false.
+  void ReadShowAtStart();
+  // Toggles and stores the check mark; checking it also shows the wizard.
   void mnuWiz_Click();
 
   void Form_Load();
-  // An answer opens the way on.
+  // Choosing an answer enables Continue.
   void Option1_MouseUp(int index);
   void Command1_Click();
   void Command2_Click();

@@ -19,7 +19,7 @@ void SplitContact(const std::string& text, frmPersInfo& window) {
     const std::string prefix = "dat" + std::to_string(i);
     if (text.compare(at, prefix.size(), prefix) != 0) return;
     at += prefix.size();
-    // A "^" of the field itself is told from its end by what follows.
+    // A field may contain "^": its end is the one before the next field's prefix.
     const bool last = i + 1 == contact_field::kCount;
     const auto end = last ? text.rfind('^') : text.find("^dat" + std::to_string(i + 1), at);
     if (end == std::string::npos || end < at) return;
@@ -38,7 +38,7 @@ void ContactInformation::Form_Load() {
   try {
     SplitContact(codec_.Unscramble(settings_.GetUserString("UsrInfo")), window_);
   } catch (const RuntimeError&) {
-    // Details that cannot be read are asked for again.
+    // Unreadable details must be entered again.
   }
   window_.Check1.value = settings_.GetUserString("DonRank") == "1" ? 1 : 0;
 }
@@ -69,12 +69,12 @@ void ContactInformation::Save() {
     return;
   }
   settings_.SaveUserString("UsrInfo", codec_.Scramble(JoinContact(window_)));
-  follow_.nameSaved(fullName);
+  callbacks_.nameSaved(fullName);
   const ContactCaller caller = caller_;
   const bool complete = !fullName.empty() && !window_.Text1[contact_field::kEMail].text.empty();
   if (caller == ContactCaller::ContactOrganization && !complete) return;
   Reload();
-  follow_.saved(caller);
+  callbacks_.saved(caller);
 }
 
 void ContactInformation::Cancel() {

@@ -13,22 +13,22 @@
 
 namespace benevix {
 
-// What opened the contact window, and so what follows when the details are saved.
+// What opened the contact window; decides what happens after the details are saved.
 enum class ContactCaller { None = 0, DonationEntry = 1, ContactOrganization = 3, Menu = 4 };
 
-// The user's contact details, kept scrambled in the setting `UsrInfo`: for each field "dat", its
+// The user's contact details, stored scrambled in the setting `UsrInfo`: for each field "dat", its
 // index, its text and "^".
 class ContactInformation {
  public:
-  // What follows a save: the own name goes to the donor names, the caller goes on.
-  struct Follow {
+  // Called after a save: nameSaved updates the donor names, saved resumes the caller's action.
+  struct Callbacks {
     std::function<void(const std::string& fullName)> nameSaved;
     std::function<void(ContactCaller)> saved;
   };
 
   ContactInformation(frmPersInfo& window, frmDonRankg& ranking, Desk& desk, SettingsStore& settings,
                      const TextCodec& codec, Messages& messages, Surroundings& surroundings,
-                     Follow follow)
+                     Callbacks callbacks)
       : window_(window),
         ranking_(ranking),
         desk_(desk),
@@ -36,7 +36,7 @@ class ContactInformation {
         codec_(codec),
         messages_(messages),
         surroundings_(surroundings),
-        follow_(std::move(follow)) {}
+        callbacks_(std::move(callbacks)) {}
 
   void Open(ContactCaller caller);
 
@@ -45,17 +45,17 @@ class ContactInformation {
   void Command1_Click(int index);
   void Combo1_Click();
   void Check1_MouseUp();
-  // The user closes the window: as Cancel.
+  // Also when the user closes the window.
   void Cancel();
 
-  // The details as a session's notice carries them: joined by "," and scrambled.
+  // The details for the session notice: joined by "," and scrambled.
   [[nodiscard]] std::string ForNotice() const;
   [[nodiscard]] bool TakesPartInRanking() const { return window_.Check1.value == 1; }
 
  private:
   void LoadCountryList();
   void Save();
-  // Back to what is stored: the boxes stay readable for other rooms.
+  // Restores the stored details and keeps the window loaded, as other modules read its boxes.
   void Reload();
 
   frmPersInfo& window_;
@@ -65,12 +65,12 @@ class ContactInformation {
   const TextCodec& codec_;
   Messages& messages_;
   Surroundings& surroundings_;
-  Follow follow_;
+  Callbacks callbacks_;
   ContactCaller caller_ = ContactCaller::None;
 };
 
-// The text that `UsrInfo` holds before it is scrambled, and back. A field that is not there reads
-// as empty.
+// The text of `UsrInfo` before scrambling, and back. SplitContact stops at the first missing field
+// and leaves the rest of the boxes unchanged.
 std::string JoinContact(const frmPersInfo& window);
 void SplitContact(const std::string& text, frmPersInfo& window);
 

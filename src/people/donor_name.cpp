@@ -32,7 +32,7 @@ void DonorName::Combo1_LostFocus() {
   names_.AppendOtherName(combo.text);
 }
 
-void PutOwnName(frmBVX& main, const std::string& name) {
+void SetOwnName(frmBVX& main, const std::string& name) {
   ComboBox& combo = main.Combo1;
   if (combo.list.empty()) combo.list.emplace_back();
   if (!name.empty()) combo.list[0] = name;

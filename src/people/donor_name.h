@@ -6,7 +6,7 @@
 
 namespace benevix {
 
-// Who a donation is shown as coming from: the user, another name or nobody.
+// The name a donation is sent under: the user's own, another one or anonymous.
 class DonorName {
  public:
   DonorName(frmBVX& main, Desk& desk, OtherNames& names)
@@ -15,7 +15,7 @@ class DonorName {
   // Takes a constant of `donor_option`.
   void Option1_Click(int index);
 
-  // A new other name becomes an entry and is remembered.
+  // Adds a new other name to the list and stores it.
   void Combo1_LostFocus();
 
  private:
@@ -24,7 +24,7 @@ class DonorName {
   OtherNames& names_;
 };
 
-// The user's own name is entry 0; it shows while "My Name" is chosen.
-void PutOwnName(frmBVX& main, const std::string& name);
+// Sets the user's own name, entry 0, unless `name` is empty; shows it while "My Name" is chosen.
+void SetOwnName(frmBVX& main, const std::string& name);
 
 }  // namespace benevix

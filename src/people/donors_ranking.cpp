@@ -27,7 +27,7 @@ void DonorsRanking::Form_Load() {
     window_.Text1.Write(std::string(rest));
     window_.Text1.enabled = !window_.Option1[kMyName].value;
   } catch (const RuntimeError&) {
-    // A choice that cannot be read is made again.
+    // An unreadable choice must be made again.
   }
 }
 

@@ -8,7 +8,7 @@
 
 namespace benevix {
 
-// The name of the donor's entry in the ranking, kept scrambled in the setting `RankOpt`: the
+// The name of the donor's entry in the ranking, stored scrambled in the setting `RankOpt`: the
 // option's index, ",", the business name.
 class DonorsRanking {
  public:
@@ -20,8 +20,8 @@ class DonorsRanking {
   void Option1_Click(int index);
   void Command1_Click();
 
-  // What a session's notice says of the ranking: ",0", or ",1" and then, when the name for the
-  // entry was chosen, "," and the choice, scrambled. Raises RuntimeError when it cannot be read.
+  // The ranking part of the session notice: ",0" without participation, else ",1" and, once a name
+  // was chosen, "," and the scrambled choice. Raises RuntimeError if `RankOpt` is damaged.
   [[nodiscard]] std::string ForNotice(bool takesPart);
 
  private:

@@ -74,7 +74,7 @@ void Messenger::Send() {
       break;
   }
   window_.mousePointer = MousePointer::Default;
-  // Although the message speaks of another try: a failed messenger closes.
+  // Intended, although the message offers a retry.
   if (result == MailResult::NotSent) Close();
 }
 

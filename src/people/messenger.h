@@ -19,8 +19,8 @@ class Messenger {
   struct Others {
     const frmPersInfo& contact;
     const frmBVX& main;
-    std::function<void()> askForContact;  // the user's own details come first
-    // From, to, subject and message.
+    std::function<void()> askForContact;  // opens the contact window
+    // Takes from, to, subject and message.
     std::function<void(const std::string&, const std::string&, const std::string&,
                        const std::string&)>
         print;
@@ -35,9 +35,9 @@ class Messenger {
         info_(info),
         others_(std::move(others)) {}
 
-  // Opens for a recipient; without the user's name or e-mail the contact window comes first.
+  // Opens for a mail address; without the user's name or e-mail asks for the contact details first.
   void WriteTo(const std::string& recipient);
-  // Shows the window with the focus in the subject; the main window waits.
+  // Shows the window with the focus in the subject; disables the main window.
   void Show();
 
   void Form_Load();

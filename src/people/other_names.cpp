@@ -10,7 +10,7 @@ void OtherNames::LoadOtherNames(ComboBox& names) const {
     const std::string text = files_.ReadAll(file_);
     for (const std::string_view line : Lines(text)) names.list.emplace_back(line);
   } catch (const RuntimeError&) {
-    // The program goes on with the user's own name.
+    // The user's own name is enough to go on.
   }
 }
 
@@ -18,7 +18,7 @@ void OtherNames::AppendOtherName(const std::string& name) {
   try {
     files_.Append(file_, name + "\r\n");
   } catch (const RuntimeError&) {
-    // The name stays in the list of this run.
+    // The name remains in the list until the program ends.
   }
 }
 

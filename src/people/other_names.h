@@ -7,7 +7,7 @@
 
 namespace benevix {
 
-// The names of other donors that the user has typed, one a line, in the order of typing.
+// The other donor names that the user has typed, one per line in the order of typing.
 class OtherNames {
  public:
   OtherNames(Files& files, std::string file) : files_(files), file_(std::move(file)) {}
@@ -15,7 +15,7 @@ class OtherNames {
   // Adds every line as an entry; a missing or unreadable file adds none.
   void LoadOtherNames(ComboBox& names) const;
 
-  // A name that cannot be written is not reported.
+  // A failed write is not reported.
   void AppendOtherName(const std::string& name);
 
  private:

@@ -15,15 +15,15 @@ bool LooksLikeAddress(const std::string& text) {
 }  // namespace
 
 void TellAFriend::Form_Load() {
-  window_.Text1[kOwnName].Write(Remembered("UsrName"));
-  window_.Text1[kOwnMail].Write(Remembered("UsrMail"));
+  window_.Text1[kOwnName].Write(StoredText("UsrName"));
+  window_.Text1[kOwnMail].Write(StoredText("UsrMail"));
 }
 
-std::string TellAFriend::Remembered(const std::string& name) {
+std::string TellAFriend::StoredText(const std::string& name) {
   try {
     return codec_.Unscramble(settings_.GetUserString(name));
   } catch (const RuntimeError&) {
-    return {};  // typed again
+    return {};  // the user types it again
   }
 }
 

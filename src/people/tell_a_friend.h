@@ -9,7 +9,8 @@
 
 namespace benevix {
 
-// Sends a friend a recommendation; the sender's name and address are remembered scrambled.
+// Sends a friend a recommendation. The sender's name and address are stored scrambled in the
+// settings `UsrName` and `UsrMail`.
 class TellAFriend {
  public:
   TellAFriend(frmTellAFriend& window, Desk& desk, SettingsStore& settings, const TextCodec& codec,
@@ -26,7 +27,7 @@ class TellAFriend {
 
  private:
   void Send();
-  [[nodiscard]] std::string Remembered(const std::string& name);
+  [[nodiscard]] std::string StoredText(const std::string& name);
 
   frmTellAFriend& window_;
   Desk& desk_;

@@ -6,7 +6,7 @@
 namespace benevix {
 namespace {
 
-// A handler that needs nothing of the event.
+// Wraps a handler that takes no arguments.
 template <class F>
 EventTable::Handler Plain(F handler) {
   return [handler](EventArgs&) { handler(); };
@@ -148,7 +148,7 @@ void Program::ConnectPayment() {
   events_.On(payment, Event::Unload, Plain([this] { paymentOptions_.Form_Unload(); }));
   const auto chosen = [this](int, EventArgs&) { paymentOptions_.Option1_Click(); };
   events_.On(payment.Option1, Event::Click, chosen);
-  // So that the method that is chosen already can be confirmed.
+  // So that the method that is already chosen can be confirmed.
   events_.On(payment.Option1, Event::MouseUp, chosen);
   events_.On(payment.Command1, Event::Click,
              [this](int index, EventArgs&) { paymentOptions_.Command1_Click(index); });
@@ -196,9 +196,9 @@ void Program::ConnectContact() {
 
 void Program::ConnectSmallWindows() {
   frmWait& wait = forms_.Get<frmWait>();
-  events_.On(wait.Timer1, Event::Tick, Plain([this] {
-               forms_.Get<frmWait>().Timer1.enabled = false;
-               desk_.Unload(forms_.Get<frmWait>());
+  events_.On(wait.Timer1, Event::Tick, Plain([this, &wait] {
+               wait.Timer1.enabled = false;
+               desk_.Unload(wait);
              }));
 
   frmWizard& wizard = forms_.Get<frmWizard>();

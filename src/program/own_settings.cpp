@@ -12,7 +12,7 @@ bool IsFirstRun(SettingsStore& settings) {
   try {
     return Val(settings.GetUserString("BVXDB")) == 0;
   } catch (const RuntimeError&) {
-    return true;  // a number beyond all versions is no version
+    return true;  // a number beyond a double is no version
   }
 }
 
@@ -44,7 +44,7 @@ void CleanUpdater(SettingsStore& settings, Surroundings& surroundings) {
   try {
     surroundings.files.Remove(surroundings.info.folder + "/updater.exe");
   } catch (const RuntimeError&) {
-    // It is no longer started either way.
+    // The setting is cleared all the same.
   }
   settings.SaveUserString("updater", "");
 }

@@ -5,15 +5,14 @@
 
 namespace benevix {
 
-// What the program keeps of itself in its settings is brought up to date at every start: on a first
-// run, when `BVXDB` is no version, all of it, then `ExeName` and `Version`. A leftover updater
-// goes.
+// Updates the program's own settings at every start: all of them on a first run (`BVXDB` is missing
+// or numerically 0), then `ExeName` and `Version`. Removes an updater that has run.
 void UpdateOwnSettings(SettingsStore& settings, Surroundings& surroundings);
 
-// The settings of a first run, and the shortcut on the desktop.
+// Writes the settings of a first run and puts the shortcut on the desktop.
 void InitSettings(SettingsStore& settings, Surroundings& surroundings);
 
-// Deletes the updater, which has done its work, and its mark.
+// Deletes the updater and clears the setting `updater`, which says that it has run.
 void CleanUpdater(SettingsStore& settings, Surroundings& surroundings);
 
 }  // namespace benevix

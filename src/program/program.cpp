@@ -50,7 +50,7 @@ Program::Program(Surroundings surroundings)
       donorName_(main_, desk_, otherNames_),
       contact_(forms_.Get<frmPersInfo>(), forms_.Get<frmDonRankg>(), desk_, settings_, codec_,
                messages_, surroundings_,
-               {[this](const std::string& name) { PutOwnName(main_, name); },
+               {[this](const std::string& name) { SetOwnName(main_, name); },
                 [this](ContactCaller caller) { ContactSaved(caller); }}),
       ranking_(forms_.Get<frmDonRankg>(), desk_, settings_, codec_, messages_),
       messenger_(forms_.Get<frmMail>(), desk_, server_, messages_, surroundings_.info,

@@ -44,8 +44,7 @@
 
 namespace benevix {
 
-// One run of the program, from Main to its end: builds every module once and hands each exactly
-// what it touches.
+// One run of the program: builds every module once and hands each exactly what it uses.
 class Program {
  public:
   explicit Program(Surroundings surroundings);
@@ -53,18 +52,18 @@ class Program {
   Program& operator=(const Program&) = delete;
   ~Program() = default;
 
-  // The entry routine; the splash stands when it returns.
+  // The entry routine; shows the splash window.
   void Main();
-  // New Session: the list is reloaded, the session starts empty.
+  // Resets the session and reloads the list. Raises RuntimeError if the list cannot be loaded.
   void NewSession();
-  // What the program still has to write when it has ended.
+  // Writes what is still unwritten when the program has ended.
   void Finish();
 
   [[nodiscard]] Desk& TheDesk() { return desk_; }
   [[nodiscard]] Input& TheInput() { return input_; }
   [[nodiscard]] Forms& TheForms() { return forms_; }
 
-  // For whoever asks for the values and the routines by name.
+  // For tests and session scripts, which use values and routines by name.
   [[nodiscard]] const SessionValues& Values() const { return values_; }
   [[nodiscard]] const FeeRates& Rates() const { return rates_; }
   [[nodiscard]] const RunValues& Run() const { return run_; }
@@ -74,7 +73,7 @@ class Program {
   [[nodiscard]] const Surroundings& TheSurroundings() const { return surroundings_; }
 
  private:
-  // How the program starts and ends (start_up.cpp).
+  // Start-up and end of the program (start_up.cpp).
   void frmSplash_Load();
   void Image2_Click(int index);  // of the splash: 0 enters, 1 leaves
   void frmBVX_Load();
@@ -84,7 +83,7 @@ class Program {
   void ContactSaved(ContactCaller caller);
   void DownloadUpdater();
 
-  // The one table that says which event goes to which handler, by window (event_table.cpp).
+  // The table of events and their handlers, by window (event_table.cpp).
   void ConnectEvents();
   void ConnectSplash();
   void ConnectMainWindow();
@@ -105,7 +104,7 @@ class Program {
   SessionValues values_;
   FeeRates rates_;
 
-  // The modules, layer by layer. What a module needs of a later one it gets as a function.
+  // The modules, layer by layer. What a module needs from a later one it gets as a callback.
   SettingsStore settings_;
   Messages messages_;
   TextCodec codec_;

@@ -59,12 +59,12 @@ void Program::LoadMainWindow() {
   ShowHint(main_, hint::kTypeBudget);
   frmPersInfo& contact = forms_.Get<frmPersInfo>();
   desk_.Load(contact);
-  PutOwnName(main_, contact.Text1[contact_field::kFullName].text);
+  SetOwnName(main_, contact.Text1[contact_field::kFullName].text);
   otherNames_.LoadOtherNames(main_.Combo1);
   run_.PlatformCode = GetPlatformCode(surroundings_.info.platformId);
   main_.Label4.left = frmBVX::kWidth;  // the credit line comes in from the right
   BuildQuickHelpMenu(surroundings_.files, surroundings_.info.Resource("qhelp.html"), main_.qhelp1);
-  wizard_.ReadStartMark();
+  wizard_.ReadShowAtStart();
   favorites_.LoadFavoritesMenu();
   database_.BuildCountriesMenu();
 }

@@ -27,7 +27,7 @@ void Finalization::Finalize() {
       case Result::NoMailScript:
         Fail(message::kServiceUnavailable);
         return RestorePointer();
-      case Result::NotTaken:
+      case Result::NotAccepted:
         return Fail(message::kServiceUnavailable);  // the busy pointer stays on purpose
       case Result::EmptyField:
         RestorePointer();
@@ -49,7 +49,7 @@ void Finalization::Commit(const SessionNotice::Outcome& sent) {
   lastRecord_ = history_.WriteHistory(sent.session, main_.ListView1);
   main_.mnuPrntSession.enabled = true;
   ShowHint(main_, hint::kFinalized);
-  desk_.SetFocus(main_.ListView1);  // one more Enter must not pay once more
+  desk_.SetFocus(main_.ListView1);  // another Enter must not pay again
   main_.Command1.tag.clear();
 }
 

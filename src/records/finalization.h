@@ -28,10 +28,10 @@ class Finalization {
   // The Continue button.
   void Command1_Click();
 
-  // Without a payment method its window is shown and nothing else happens.
+  // Finalizes the session; without a payment method only asks for one. Errors show a message.
   void Finalize();
 
-  // The last session that was finalized, for its printout.
+  // The last finalized session, for its printout.
   [[nodiscard]] const SessionRecord& LastRecord() const { return lastRecord_; }
 
  private:

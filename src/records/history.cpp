@@ -7,7 +7,7 @@ namespace benevix {
 SessionRecord History::WriteHistory(SessionRecord record, const ListView& list) {
   record.time = surroundings_.clock.Now();
   const std::string end = "\r\n";
-  // Read once more on purpose: the record bears the instant in which it is written.
+  // Intended: the clock is read again, as the heading shows when the record is written.
   pending_ += HeadingLine(surroundings_.clock.Now()) + end;
   pending_ += TransactionLine(record) + end;
   for (const std::string& line : OrganizationLines(list)) pending_ += line + end;

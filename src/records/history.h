@@ -9,20 +9,20 @@
 
 namespace benevix {
 
-// The donation history: a text file that only grows.
+// The donation history: a text file that is only appended to.
 class History {
  public:
   History(Surroundings& surroundings, Messages& messages, InformationViewer& viewer)
       : surroundings_(surroundings), messages_(messages), viewer_(viewer) {}
 
-  // Appends the session's record in one write; gives it with its time. A record that cannot be
-  // written is told to the user, kept, and tried again with the next one.
+  // Appends the session's record in one write and returns it with its time. A failed write is
+  // reported to the user, and the record is written with the next one.
   SessionRecord WriteHistory(SessionRecord record, const ListView& list);
 
-  // Tries once more to write what could not be written; at the end of the program.
+  // Retries records that could not be written; called at the end of the program.
   void WritePending();
 
-  // Shows the file as it stands; nothing without one.
+  // Shows the file if there is one.
   void ShowHistory();
 
  private:

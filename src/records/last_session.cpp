@@ -24,7 +24,7 @@ void LastSession::mnuRecallSession_Click() {
   main_.caption = surroundings_.info.deployment.product +
                   " - Last Session: " + std::string(CutField(rest, ','));
   std::vector<OptionsRecord> records;
-  while (rest.size() >= 2) records.push_back(OptionsRecord::Take(rest));
+  while (rest.size() >= 2) records.push_back(OptionsRecord::CutFrom(rest));
   try {
     const Currency total = RefillRows(records);
     values_.Budget = total;
@@ -49,8 +49,8 @@ Currency LastSession::RefillRows(const std::vector<OptionsRecord>& records) {
   };
   std::set<std::string> names;
   for (const std::string& id : ids) names.insert(nameOf(id));
-  const auto byName = database_.FindNames(names);
-  const auto byId = database_.FindRows(ids);
+  const auto byName = database_.FindRowsByName(names);
+  const auto byId = database_.FindRowsById(ids);
 
   Currency total;
   ListView& list = main_.ListView1;
@@ -60,7 +60,7 @@ Currency LastSession::RefillRows(const std::vector<OptionsRecord>& records) {
     const auto named = byName.find(record.organization);
     if (named == byName.end() && numbered == byId.end()) continue;
     const int row = named != byName.end() ? named->second : numbered->second;
-    total += Currency::FromText(record.amount);  // first: a row stands only when its sum does
+    total += Currency::FromText(record.amount);  // first: an overflow leaves the row empty
     list.SetSubItem(row, column::kAmount, record.amount);
     list.SetSubItem(row, column::kPool, record.delivery);
     list.SetSubItem(row, column::kFrom, record.from);

@@ -15,7 +15,7 @@
 
 namespace benevix {
 
-// The last session that was sent, kept in the setting `LastSession` as its date and then "," and
+// The last session that was sent, stored in the setting `LastSession` as its date and then "," and
 // the options record of each organization.
 class LastSession {
  public:
@@ -28,18 +28,17 @@ class LastSession {
         database_(database),
         surroundings_(surroundings) {}
 
-  // Takes "," and the options record of each organization.
+  // Stores today's date and `records`, which is "," and the options record of each organization.
   void Remember(const std::string& records);
 
-  // Refills the list with its donations.
+  // Puts its donations back into the list.
   void mnuRecallSession_Click();
 
  private:
-  // Gives the recalled total. Raises RuntimeError for an amount beyond a currency, with the rows
-  // before it refilled.
+  // Returns the recalled total. Raises RuntimeError when the list file cannot be read, or for an
+  // amount beyond a currency, with the rows before it refilled.
   Currency RefillRows(const std::vector<OptionsRecord>& records);
-  // An organization may stand in the list file as the first field of a line; then the line's second
-  // field names it. Gives these names.
+  // The names of IDs that are the first field of a line of the list file: the line's second field.
   [[nodiscard]] std::map<std::string, std::string> NamesInFile(
       const std::set<std::string>& ids) const;
 

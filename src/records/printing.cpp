@@ -42,7 +42,7 @@ void Printing::PrintDocument(const std::function<void()>& body) {
   try {
     body();
   } catch (const RuntimeError&) {
-    // What was printed so far is sent; a later document must not run on from it.
+    // What was printed so far is sent, so that the next document does not continue it.
   }
   surroundings_.printer.EndDoc();
 }

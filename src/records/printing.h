@@ -30,13 +30,12 @@ class Printing {
                     const std::string& message);
 
  private:
-  // Runs the body and ends the document; a missing file or a printer error ends it where it stands.
+  // Runs `body` and ends the document, also after a missing file or a printer error.
   void PrintDocument(const std::function<void()>& body);
   void PrintWaitNotice();
   void PrintPageHeading();
-  // The document's last lines.
   void PrintDocumentEnd();
-  // With the list as it stands now.
+  // With the current donations of the list.
   void PrintSession(const SessionRecord& record);
   void PrintHistory();
   void PrintTitle(const std::string& title);

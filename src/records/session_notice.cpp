@@ -8,7 +8,7 @@ namespace benevix {
 SessionNotice::Outcome SessionNotice::Send() {
   Outcome outcome;
   SessionRecord& session = outcome.session;
-  // Made before the server is asked, so that details that cannot be told stop everything.
+  // First, so that details that cannot be encoded stop everything before the server is asked.
   const std::string contact = contact_.ForNotice();
   session.transactionId =
       TransactionId(surroundings_.clock, surroundings_.random, charges_.ChosenMethod());
@@ -31,7 +31,7 @@ SessionNotice::Outcome SessionNotice::Send() {
   if (mail.result == MailResult::NoScript) {
     outcome.result = Result::NoMailScript;
   } else if (mail.result == MailResult::NotSent) {
-    outcome.result = Result::NotTaken;
+    outcome.result = Result::NotAccepted;
   } else {
     const bool hasEmptyField = mail.address.find(",,") != std::string::npos;
     outcome.result = hasEmptyField ? Result::EmptyField : Result::Sent;

@@ -10,7 +10,7 @@
 
 namespace benevix {
 
-// Makes a session's transaction and sends the server a notice of it, before anything is paid.
+// Creates a session's transaction and sends the server a notice of it, before it is paid.
 class SessionNotice {
  public:
   SessionNotice(const frmBVX& main, const Charges& charges, ServerFiles& server,
@@ -28,8 +28,8 @@ class SessionNotice {
     Sent,
     ServerBusy,    // not available; nothing was sent or stored
     NoMailScript,  // the server does not say where its mail script is
-    NotTaken,      // the mail script did not take the notice
-    EmptyField     // sent, but with an empty field, which must never reach the payment
+    NotAccepted,   // the mail script did not accept the notice
+    EmptyField     // sent, but with an empty field: such a session must not be paid
   };
   struct Outcome {
     Result result = Result::ServerBusy;
@@ -37,8 +37,8 @@ class SessionNotice {
     SessionRecord session;
   };
 
-  // Takes a session whose payment method is chosen. What Recall Last Session brings back is
-  // remembered before the notice is sent. Raises RuntimeError when the session cannot be told.
+  // Needs a chosen payment method. Stores the session for Recall Last Session before the notice is
+  // sent. Raises RuntimeError on overflow or if contact details or ranking cannot be encoded.
   Outcome Send();
 
  private:

@@ -9,7 +9,7 @@
 
 namespace benevix {
 
-// A finalized session as the history and the printout tell it.
+// A finalized session as shown in the history and the printout.
 struct SessionRecord {
   std::string transactionId;
   std::string amountText;  // the payment amount as sent
@@ -21,8 +21,9 @@ struct SessionRecord {
 // The lines of a record, without line ends.
 std::string HeadingLine(const DateTime& time);
 std::string TransactionLine(const SessionRecord& record);
+// One line for each row with a donation.
 std::vector<std::string> OrganizationLines(const ListView& list);
-// Raises RuntimeError when the amount is beyond a currency.
+// Raises RuntimeError if the amount is beyond a currency.
 std::string PaymentLine(const SessionRecord& record);
 
 // Month-day-year, "03-05-2003", and hours and minutes, "12:34".

@@ -6,16 +6,16 @@
 
 namespace benevix {
 
-float TimerOf(const DateTime& time) {
+float SecondsSinceMidnight(const DateTime& time) {
   return static_cast<float>(time.hour * 3600 + time.minute * 60 + time.second);
 }
 
 std::string TransactionId(const Clock& clock, RandomNumbers& random, int option) {
-  random.Seed(TimerOf(clock.Now()));
+  random.Seed(SecondsSinceMidnight(clock.Now()));
   const std::int32_t number = ToInt32(random.Next() * 1000000);
   const DateTime now = clock.Now();
   const char letter = option == payment::kCreditCard ? 'C' : option == payment::kECheck ? 'E' : 'A';
-  return SingleToText(TimerOf(now)) + "-" + std::to_string(number) + "-" +
+  return SingleToText(SecondsSinceMidnight(now)) + "-" + std::to_string(number) + "-" +
          std::to_string(now.year) + std::to_string(now.month) + std::to_string(now.day) + letter;
 }
 

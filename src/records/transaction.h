@@ -8,13 +8,12 @@
 
 namespace benevix {
 
-// The pure texts of a finalization.
+// The texts of a finalization.
 
-// Seconds since midnight.
-float TimerOf(const DateTime& time);
+float SecondsSinceMidnight(const DateTime& time);
 
-// Timer, "-", a random whole number below 1000000, "-", year, month and day without padding, and
-// the letter of the payment option: C, A or E.
+// Seconds since midnight, "-", a random whole number from 0 to 1000000, "-", year, month and day
+// without padding, and the letter of the payment option: C, A or E. Seeds `random` with the time.
 std::string TransactionId(const Clock& clock, RandomNumbers& random, int option);
 
 // "," and the options record of each organization row that carries a donation, in list order.

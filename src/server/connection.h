@@ -8,13 +8,12 @@
 
 namespace benevix {
 
-// Gives both HTTP controls the machine's settings: `Proxy` unless it is empty, and the whole
-// seconds of `TimeOut`, or 5 when that is no number. Raises RuntimeError for a number beyond 32
-// bits.
+// Applies the machine's settings to both HTTP controls: `Proxy` unless it is empty, and `TimeOut`
+// in whole seconds, or 5 if it is no number. Raises RuntimeError for a number beyond 32 bits.
 void ApplyConnectionSettings(SettingsStore& settings, frmBVX& main);
 
-// The answer of an address, by the control's proxy and time-out whatever the options say. Raises
-// RuntimeError when none comes.
+// Fetches an address with the control's proxy and time-out, which override those of `options`.
+// Raises RuntimeError when no answer comes.
 std::string OpenURL(HttpClient& client, const HttpControl& control, const std::string& address,
                     HttpOptions options = {});
 

@@ -57,8 +57,8 @@ bool ListUpdate::InstallList() {
   const std::string temporary = info.Resource("$shrdb.dat");
   const bool isList = files.ReadAll(temporary).starts_with(kListHeader);
   if (isList) {
-    // The doubled "d" is meant: an installation links that name to sharedb.dat, from where the list
-    // is loaded.
+    // The doubled "d" is intended: in an installation that name is a link to sharedb.dat, from
+    // which the list is loaded.
     files.Remove(info.Resource("sharedb.dat"));
     files.Copy(temporary, info.Resource("/shareddb.dat"));
   }
@@ -73,7 +73,7 @@ bool ListUpdate::DownloadUpdater() {
     options.needsOk = true;
     program = Download("downloads/updater.exe", options);
   } catch (const RuntimeError&) {
-    // Told below, like an empty answer.
+    // Reported below, like an empty answer.
   }
   if (program.empty() || program[0] == '<') {
     messages_.ShowMessage(message::kServerBusy, message_kind::kFailedToConnect);

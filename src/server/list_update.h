@@ -10,28 +10,28 @@
 
 namespace benevix {
 
-// Replaces the organization list by a newer one of the server.
+// Replaces the organization list with a newer one from the server.
 class ListUpdate {
  public:
   ListUpdate(Surroundings& surroundings, ServerFiles& server, Messages& messages,
              const RunValues& run, WaitWindow wait)
       : surroundings_(surroundings), server_(server), messages_(messages), run_(run), wait_(wait) {}
 
-  // Compares the server's version with DBVersion and downloads a newer list into the temporary
-  // file. `ready` becomes true when it may be installed at once, which only the silent check says;
-  // what a user's own check has downloaded waits for the next start. Without `download`, which
-  // every caller sets, it only compares.
+  // Compares the server's version with DBVersion; with `download`, which every caller sets,
+  // downloads a newer list into the temporary file. `ready` becomes true when it can be installed
+  // now, which only a silent check reports; otherwise the next start installs it.
   void CheckListUpdate(bool silent, bool download, bool& ready);
 
-  // Installs the temporary file and deletes it; false when it is no list file.
+  // Installs the temporary file and deletes it; false if it is no list file. Raises RuntimeError.
   bool InstallList();
 
-  // Downloads the updater, starts it and gives true: the program then ends. An answer that is
-  // empty, a web page or of another status than 200 is neither saved nor started: message 8.
+  // Downloads and starts the updater; true if the program must end for it. An answer that is empty,
+  // a web page or of another status than 200 is not saved or started, but reported with message 8.
+  // Raises RuntimeError if the file cannot be written or started.
   bool DownloadUpdater();
 
  private:
-  // Fetches a long file while the please-wait window shows how far it is.
+  // Fetches a large file while the please-wait window shows the progress.
   [[nodiscard]] std::string Download(const std::string& path, HttpOptions options = {});
 
   Surroundings& surroundings_;

@@ -11,7 +11,7 @@ void ListUpdateCommand::Label11_MouseUp() {
   }
   bool ready = false;
   update_.CheckListUpdate(false, true, ready);
-  if (!ready) return;
+  if (!ready) return;  // as after every check that is not silent
   if (update_.InstallList()) {
     newSession_();
   } else {

@@ -8,7 +8,7 @@
 
 namespace benevix {
 
-// "Update List": asks first when a session would be lost.
+// The command "Update List": asks first if a session would be lost.
 class ListUpdateCommand {
  public:
   ListUpdateCommand(ListUpdate& update, const SessionValues& values, Messages& messages,

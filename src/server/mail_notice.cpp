@@ -15,7 +15,7 @@ MailOutcome SendMailNotice(ServerFiles& server, const MailNotice& notice) {
     const std::string answer = server.FetchServerText(path);
     if (answer.find("Thank You") != std::string::npos) outcome.result = MailResult::Sent;
   } catch (const RuntimeError&) {
-    // No answer is no thanks.
+    // Without an answer the notice counts as not sent.
   }
   return outcome;
 }

@@ -7,11 +7,11 @@
 
 namespace benevix {
 
-// A mail that the server's script sends. The texts go out as they stand, so that an "&" in one of
+// A mail that the server's script sends. Intended: the texts are not escaped, so an "&" in one of
 // them begins another key of the request.
 struct MailNotice {
   std::string sender;
-  std::optional<std::string> recipient;  // nothing: who the server says gets the notices
+  std::optional<std::string> recipient;  // if not set, the one the server names
   std::string subject;
   std::string body;
 };
@@ -20,11 +20,11 @@ enum class MailResult { Sent, NoScript, NotSent };
 
 struct MailOutcome {
   MailResult result = MailResult::NoScript;
-  std::string address;  // what was asked for; empty without a script
+  std::string address;  // as requested; empty without a script
 };
 
-// Asks the server where its mail script is and sends the notice through it. It is sent when the
-// answer says "Thank You". Raises nothing.
+// Asks the server for its mail script and sends the notice through it. It counts as sent when the
+// answer contains "Thank You". Raises nothing.
 MailOutcome SendMailNotice(ServerFiles& server, const MailNotice& notice);
 
 }  // namespace benevix

@@ -6,7 +6,7 @@
 namespace benevix {
 namespace {
 
-// A number beyond all numbers is no kind that is known, like any other above 2.
+// A number beyond a double counts as an unknown kind, like any above 2.
 double KindOf(const std::string& number) {
   try {
     return Val(number);
@@ -23,7 +23,7 @@ void News::LoadNews() {
   if (news.compare(0, 2, "2,") != 0) return Show(news);
   const auto equals = news.find('=');
   if (equals == std::string::npos) return Hide();
-  // By character codes on purpose: the server's versions are written for it.
+  // Compared as texts on purpose: the server's versions are chosen for that.
   if (news.substr(equals + 1) > info_.Version()) return Show(news.substr(0, equals));
   Hide();
 }
@@ -61,10 +61,10 @@ void News::Label12_Click() {
       }
     }
   }
-  Quiet();
+  MarkAsRead();
 }
 
-void News::Quiet() {
+void News::MarkAsRead() {
   main_.Timer2.enabled = false;
   main_.Shape7.fillStyle = 1;
   main_.Shape7.borderColor = colors::kMuted;

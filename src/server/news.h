@@ -10,8 +10,9 @@
 
 namespace benevix {
 
-// The news line: "kind,message". The kind decides what a click does: 0 nothing, 1 a box, 2 a
-// question that leads to the updater, any other a question that leads to the news page.
+// The news line. The server's text is "kind,message", and the kind decides what a click does: 0
+// nothing, 1 shows the message, 2 asks whether to download the updater, any other asks whether to
+// open the news page. Kind 2 ends in "=" and a version and is shown only if that is a newer one.
 class News {
  public:
   News(frmBVX& main, InformationViewer& viewer, ServerFiles& server, Messages& messages,
@@ -29,7 +30,7 @@ class News {
  private:
   void Show(const std::string& news);
   void Hide();
-  void Quiet();
+  void MarkAsRead();
 
   frmBVX& main_;
   InformationViewer& viewer_;

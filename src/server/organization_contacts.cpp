@@ -16,7 +16,7 @@ OrganizationContacts::Result OrganizationContacts::LookupContacts(const std::str
   try {
     list = server_.FetchServerText("infoDB/idcontacts.dat");
   } catch (const RuntimeError&) {
-    // No answer has no marker either.
+    // Reported below, like a list without its marker.
   }
   if (list.compare(0, marker.size(), marker) != 0) {
     messages_.ShowMessage(message::kMailFailed, message_kind::kFailedToConnect);
@@ -25,7 +25,7 @@ OrganizationContacts::Result OrganizationContacts::LookupContacts(const std::str
   std::string_view rest = list;
   rest.remove_prefix(std::min(marker.size() + 1, rest.size()));
   while (rest.size() > 1) {
-    // A record that breaks off ends the lookup with what has been read.
+    // An incomplete record ends the lookup; what was read of it is kept.
     if (rest.find(':') == std::string_view::npos) break;
     const std::string_view recordId = CutField(rest, ':');
     if (rest.find(';') == std::string_view::npos) break;

@@ -7,8 +7,8 @@
 
 namespace benevix {
 
-// The two addresses that the server keeps for each organization: where it can be contacted and its
-// web site.
+// The two addresses that the server keeps for each organization: its contact and its web site. The
+// file is "QUORL", one more character, and a line "ID:contact;web" for each organization.
 class OrganizationContacts {
  public:
   OrganizationContacts(ServerFiles& server, Messages& messages)
@@ -16,8 +16,8 @@ class OrganizationContacts {
 
   enum class Result { Found, NotFound, NoList };
 
-  // `first` and `second` receive the addresses of every record read, so for an ID that is not there
-  // they hold the last record's. Without a list message 10 is shown and they stay as they were.
+  // `first` and `second` receive the addresses of every record read, so for an unknown ID they hold
+  // those of the last record. Without a list message 10 is shown and they are unchanged.
   Result LookupContacts(const std::string& id, std::string& first, std::string& second);
 
  private:

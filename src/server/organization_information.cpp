@@ -39,7 +39,7 @@ std::string OrganizationInformation::InformationPage(const std::string& id) {
       const std::string page = server_.FetchServerText("infoDB/" + id + ".dat", options);
       if (!page.empty() && page.find("404") == std::string::npos) return page;
     } catch (const RuntimeError&) {
-      // The next attempt may get through.
+      // The next attempt may succeed.
     }
   }
   return "  Information Unavailable at this time. Try again later.";

@@ -12,7 +12,7 @@
 
 namespace benevix {
 
-// What can be learned of the selected organization, and how it is reached.
+// Shows information about the selected organization, and how to contact it.
 class OrganizationInformation {
  public:
   // `writeTo` opens the messenger for a mail recipient.
@@ -28,6 +28,7 @@ class OrganizationInformation {
         writeTo_(std::move(writeTo)) {}
 
   void MoreInfo();
+  // Opens the contact's web form, or the messenger for its mail address.
   void Contact();
   void WebSite();
 

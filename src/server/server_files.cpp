@@ -35,7 +35,7 @@ void ServerFiles::LoadFeeRates() {
   try {
     ReadFeeRates(FetchServerText("53rv3r/rates.dat"), rates_, main_);
   } catch (const RuntimeError&) {
-    // What was read so far stands.
+    // The values read so far are kept.
   }
 }
 

@@ -10,7 +10,7 @@
 
 namespace benevix {
 
-// The one way files of the server are fetched, and the small files that several modules read.
+// Fetches files from the server, and reads the small ones that several modules use.
 class ServerFiles {
  public:
   ServerFiles(Surroundings& surroundings, frmBVX& main, FeeRates& rates, RunValues& run)
@@ -19,22 +19,23 @@ class ServerFiles {
   // The server base address, which ends in "/".
   [[nodiscard]] const std::string& Base() const { return surroundings_.info.deployment.serverBase; }
 
-  // The answer of the base address followed by `path`; RuntimeError when none comes.
+  // Fetches the base address followed by `path`. Raises RuntimeError when no answer comes.
   std::string FetchServerText(const std::string& path, HttpOptions options = {});
 
-  // Empty when no usable answer comes: none at all, or an error page.
+  // The same, but empty if there is no answer or it is an error page (one with "<").
   std::string FetchUsable(const std::string& path);
 
-  // ServerOK becomes true only when the status file answers "server ok" exactly; gives it.
+  // Sets and returns ServerOK: whether the status file is exactly "server ok".
   bool CheckServerStatus();
 
   struct ContactData {
     std::string script;     // path of the mail script
     std::string recipient;  // who gets the notices
   };
+  // Nothing if the file is missing or has no comma.
   std::optional<ContactData> GetContactData();
 
-  // Reads the fee rates; an error ends it with the values read so far.
+  // Reads the fee rates; after an error the values read so far are kept.
   void LoadFeeRates();
 
  private:

@@ -38,7 +38,7 @@ std::string Translation::RequestAddress() const {
   const auto& boxes = windows_.preferences.Text1;
   const bool builtIn = LowerCase(boxes[kService].text) == LowerCase(deployment.translationName);
   const ListView& list = windows_.main.ListView1;
-  // Another service is asked in its own words.
+  // For another service the user enters its address and its key.
   const std::string prefix =
       builtIn ? deployment.translationBase + "?sequence=core&language=" : boxes[kService].text;
   return prefix + boxes[kFromLanguage].text + "/" + boxes[kMyLanguage].text +
@@ -58,7 +58,7 @@ void Translation::Translate() {
   frmInfo& info = windows_.info;
   if (info.Label3.tag != "Yes") return;
   windows_.preferences.mousePointer = MousePointer::Hourglass;
-  const std::string page = JudgeTranslation(Fetch());
+  const std::string page = TranslatedPage(Fetch());
   windows_.preferences.mousePointer = MousePointer::Default;
   const std::string file = surroundings_.info.Resource("tmp.html");
   surroundings_.files.Replace(file, page + "\r\n");
@@ -68,7 +68,7 @@ void Translation::Translate() {
   desk_.Unload(windows_.preferences);
 }
 
-std::string JudgeTranslation(const std::string& answer) {
+std::string TranslatedPage(const std::string& answer) {
   if (answer.empty()) return "Request timed out";
   std::string text = answer;
   const auto bracket = text.find('>');

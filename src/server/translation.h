@@ -12,7 +12,7 @@
 
 namespace benevix {
 
-// Translates an organization's information page through an online service, and shows the answer.
+// Translates an organization's information page through an online service and shows the answer.
 class Translation {
  public:
   struct Windows {
@@ -29,11 +29,11 @@ class Translation {
         settings_(settings),
         surroundings_(surroundings) {}
 
-  // The viewer's TRANSLATE.
+  // TRANSLATE in the viewer: opens the preferences.
   void Label3_Click();
   void Form_Load();
   void Translate();
-  // Keeps the preferences and closes.
+  // Stores the preferences and closes the window; only this stores them.
   void Close();
 
  private:
@@ -48,8 +48,8 @@ class Translation {
   Surroundings& surroundings_;
 };
 
-// What is shown for a service's answer: the page behind its first ">", or a sentence that says what
-// went wrong.
-std::string JudgeTranslation(const std::string& answer);
+// The page to show for a service's answer: the text after its first ">", or a sentence that says
+// what went wrong.
+std::string TranslatedPage(const std::string& answer);
 
 }  // namespace benevix

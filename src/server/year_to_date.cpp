@@ -14,7 +14,7 @@ void YearToDate::DownloadYtd() {
     surroundings_.files.Replace(File(), table + "\r\n");
     run_.YtdState = 1;
   } catch (const RuntimeError&) {
-    // Without a table the program goes on.
+    // The program also works without the table.
   }
 }
 
@@ -25,7 +25,7 @@ void YearToDate::ShowYtd() {
   } catch (const RuntimeError&) {
     return;
   }
-  // The table is the server's text in one line of ours: only CR LF ends it.
+  // Only CR LF ends a line of the copy; the records in a line end in LF.
   std::string_view rest = table;
   while (!rest.empty()) {
     const auto end = rest.find("\r\n");
@@ -33,24 +33,24 @@ void YearToDate::ShowYtd() {
     const Lookup lookup = FindRecord(rest.substr(0, end), amounts);
     if (lookup == Lookup::Found) {
       ShowAmounts(amounts);
-      return SetMark(Mark::Found);
+      return SetIndicator(true);
     }
-    if (lookup == Lookup::Broken) {
+    if (lookup == Lookup::Malformed) {
       run_.YtdState = 2;
       break;
     }
     rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 2);
   }
-  SetMark(Mark::NoData);
+  SetIndicator(false);
 }
 
 YearToDate::Lookup YearToDate::FindRecord(std::string_view text, std::string& amounts) const {
-  constexpr std::size_t shortest = 13;
+  constexpr std::size_t shortest = 13;  // less than this is not searched
   const std::string id = main_.ListView1.SubItem(main_.ListView1.selected, column::kId);
   while (text.size() >= shortest) {
     const std::string_view record = CutField(text, '\n');
     const auto comma = record.find(',');
-    if (comma == std::string_view::npos) return Lookup::Broken;
+    if (comma == std::string_view::npos) return Lookup::Malformed;
     if (record.substr(0, comma) != id) continue;
     amounts = record.substr(comma + 1);
     return Lookup::Found;
@@ -65,8 +65,7 @@ void YearToDate::ShowAmounts(std::string_view amounts) {
   }
 }
 
-void YearToDate::SetMark(Mark mark) {
-  const bool found = mark == Mark::Found;
+void YearToDate::SetIndicator(bool found) {
   main_.iLbl.foreColor = found ? colors::kBlack : colors::kOff;
   main_.Shape2.fillColor = found ? colors::kGreen : colors::kLightGrey;
   main_.Shape2.meaning = found ? "Amounts are known" : kNoAmounts;

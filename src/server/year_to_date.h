@@ -12,8 +12,8 @@
 
 namespace benevix {
 
-// The table of what each organization has received this year. It is the server's; the program keeps
-// a copy for the time of a run.
+// The server's table of what each organization has received; the program keeps a copy while it
+// runs. A record is "ID,today,month,year,total" and LF.
 class YearToDate {
  public:
   YearToDate(Surroundings& surroundings, ServerFiles& server, RunValues& run, frmBVX& main,
@@ -25,25 +25,23 @@ class YearToDate {
         window_(window),
         desk_(desk) {}
 
-  // Replaces the copy; an empty answer or an error page leaves an older one.
+  // Replaces the copy; an empty answer or an error page leaves an older copy in place.
   void DownloadYtd();
 
-  // Shows the selected row's amounts and sets the colour mark. A record without "," is told by
-  // YtdState 2; a table that cannot be read changes nothing.
+  // Shows the selected row's amounts and sets the indicator. A record without "," sets YtdState 2;
+  // a table that cannot be read changes nothing.
   void ShowYtd();
 
-  // Opens the window of the amounts, or closes it.
+  // Opens or closes the window with the amounts.
   void iLbl_Click();
 
-  // Takes the copy of this run away; errors are ignored.
+  // Deletes the copy of this run; errors are ignored.
   void RemoveYtd();
 
  private:
-  enum class Mark { Found, NoData };
-  enum class Lookup { Found, NotFound, Broken };  // broken: a record without ","
-  void SetMark(Mark mark);
-  // Looks in one line of the file for the selected row's record; `amounts` is what is behind its
-  // key.
+  enum class Lookup { Found, NotFound, Malformed };  // malformed: a record without ","
+  void SetIndicator(bool found);
+  // Searches one line of the copy for the selected row; `amounts` receives what follows its ID.
   [[nodiscard]] Lookup FindRecord(std::string_view text, std::string& amounts) const;
   void ShowAmounts(std::string_view amounts);
   [[nodiscard]] std::string File() const { return surroundings_.info.Resource("ytd.dat"); }

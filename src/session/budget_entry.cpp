@@ -18,11 +18,11 @@ void BudgetEntry::Enter() {
     balance = budget - values_.TotalDonated;
     values_.Budget = budget;
   } catch (const RuntimeError&) {
-    return;  // beyond a whole number, or beyond all money
+    return;  // beyond 32 bits or the range of money
   }
   if (values_.Budget == Currency()) return;
 
-  if (ConfirmsLargeBudget()) {
+  if (ConfirmLargeBudget()) {
     if (values_.TotalDonated == Currency()) choosePayment_();
     values_.BudgetEntered = values_.Budget;
     values_.Balance = balance;
@@ -34,14 +34,14 @@ void BudgetEntry::Enter() {
   main_.Label8.visible = false;
 }
 
-bool BudgetEntry::ConfirmsLargeBudget() {
+bool BudgetEntry::ConfirmLargeBudget() {
   constexpr Currency large = Currency::FromWhole(9999);
   if (values_.Budget < large) return true;
   const BoxAnswer answer = messages_.Show(
       "Alert! ", "You have entered a very large amount of money. Are you sure this is correct",
       BoxIcon::Question, BoxButtons::YesNo);
   if (answer == BoxAnswer::Yes) return true;
-  // Back to what is given already.
+  // The Budget becomes what is already donated.
   values_.Budget = std::max(values_.TotalDonated, Currency());
   if (values_.TotalDonated > Currency()) values_.Balance = Currency();
   return false;

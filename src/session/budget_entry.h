@@ -9,10 +9,10 @@
 
 namespace benevix {
 
-// The Budget box: what the user enters is added to the Budget.
+// The Budget box: each amount entered is added to the Budget.
 class BudgetEntry {
  public:
-  // `choosePayment` asks for the form of payment when none is chosen yet.
+  // `choosePayment` asks for the payment method unless one is chosen.
   BudgetEntry(frmBVX& main, SessionValues& values, Desk& desk, Messages& messages,
               std::function<void()> choosePayment)
       : main_(main),
@@ -21,11 +21,13 @@ class BudgetEntry {
         messages_(messages),
         choosePayment_(std::move(choosePayment)) {}
 
-  // Enter or Tab in the box. A text that is not a whole number of 32 bits changes nothing.
+  // Handles Enter or Tab in the box: a number is rounded to whole dollars, halves to even; a text
+  // that is no number or beyond 32 bits changes nothing.
   void Enter();
 
  private:
-  [[nodiscard]] bool ConfirmsLargeBudget();
+  // Asks about a Budget of 9999 dollars or more; takes it back unless the user confirms it.
+  [[nodiscard]] bool ConfirmLargeBudget();
 
   frmBVX& main_;
   SessionValues& values_;

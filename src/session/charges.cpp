@@ -53,7 +53,7 @@ void Charges::Show() {
         charge = ChargeWith(option++, values_, rates_, serviceFees, main_.mnuRound.checked);
       }
     }
-    ShowUse(serviceFees, charges);
+    ShowBudgetUse(serviceFees, charges);
   } catch (const RuntimeError&) {
     charges = {};
     main_.BudgetUse = MoneyBar();
@@ -71,8 +71,8 @@ PaymentDue Charges::Due() const {
           values_.Budget, ChargedTotal(values_, rates_, list, method, main_.mnuAddFees.checked)};
 }
 
-// Fees that come on top of the Budget stand behind what is left of it.
-void Charges::ShowUse(Currency serviceFees, const ByMethod& charges) {
+// Fees that are added to the Budget come after the Balance in the bar.
+void Charges::ShowBudgetUse(Currency serviceFees, const ByMethod& charges) {
   using Part = MoneyBar::Part;
   MoneyBar& bar = main_.BudgetUse;
   bar = MoneyBar();

@@ -5,13 +5,13 @@
 
 namespace benevix {
 
-// The largest amount that fits with its fees into an equal part of the Balance.
-Currency Distribution::Share(std::size_t stillToCome) const {
+// The largest amount that with its fees fits into an equal part of the Balance.
+Currency Distribution::Share(std::size_t rowsLeft) const {
   try {
     return donation_.LargestWithin(
-        Currency::FromUnits(values_.Balance.Units() / static_cast<std::int64_t>(stillToCome)));
+        Currency::FromUnits(values_.Balance.Units() / static_cast<std::int64_t>(rowsLeft)));
   } catch (const RuntimeError&) {
-    return {};  // with fees beyond all money nothing fits
+    return {};  // the fees overflow, so nothing fits
   }
 }
 
@@ -19,7 +19,7 @@ void Distribution::mnuDistribFavs_Click() {
   ListView& list = main_.ListView1;
   std::vector<int> rows = favorites_.Rows();
   std::erase_if(rows, [&](int row) { return !list.SubItem(row, column::kRecord).empty(); });
-  if (!donation_.KnowsDonor()) return;
+  if (!donation_.RequireDonorCountry()) return;
   if (rows.empty() || Share(rows.size()) == Currency()) {
     messages_.Show("The Balance is too small to distribute");
     return;

@@ -8,7 +8,7 @@
 
 namespace benevix {
 
-// Distributes what is left in equal parts to the favorites that carry no donation yet.
+// Distributes the Balance in equal parts among the favorites that have no donation yet.
 class Distribution {
  public:
   Distribution(frmBVX& main, const SessionValues& values, const Favorites& favorites,
@@ -22,7 +22,7 @@ class Distribution {
   void mnuDistribFavs_Click();
 
  private:
-  [[nodiscard]] Currency Share(std::size_t stillToCome) const;
+  [[nodiscard]] Currency Share(std::size_t rowsLeft) const;
 
   frmBVX& main_;
   const SessionValues& values_;

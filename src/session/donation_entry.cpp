@@ -17,14 +17,13 @@ namespace {
 
 constexpr std::int64_t kCent = Currency::kScale / 100;
 
-// Rounded up to whole dollars.
-Currency WholeDollars(Currency amount) {
+Currency RoundUpToDollars(Currency amount) {
   const std::int64_t rest = amount.Units() % Currency::kScale;
   return rest > 0 ? amount + Currency::FromUnits(Currency::kScale - rest) : amount;
 }
 
 // Nothing when the text is not numeric, or its dollars are beyond 32 bits.
-std::optional<Currency> AmountIn(const std::string& text) {
+std::optional<Currency> ParseAmount(const std::string& text) {
   try {
     const auto number = ParseNumber(text);
     if (!number) return std::nullopt;
@@ -35,6 +34,7 @@ std::optional<Currency> AmountIn(const std::string& text) {
   }
 }
 
+// "Pool" of "Donors Pool", or the whole caption "Stand-alone".
 std::string DeliveryText(const frmBVX& main) {
   if (!main.Option2[delivery_option::kPool].value)
     return main.Option2[delivery_option::kStandAlone].caption;
@@ -56,7 +56,7 @@ void DonationEntry::Text1_Change() {
       values_.Donation = Currency::FromWhole(ToInt32(*typed));
     }
   } catch (const RuntimeError&) {
-    return;  // beyond a whole number
+    return;  // beyond 32 bits
   }
   main_.Check1.enabled =
       values_.Donation >= Currency::FromWhole(1000) && values_.Balance >= values_.Donation;
@@ -64,16 +64,12 @@ void DonationEntry::Text1_Change() {
 
 void DonationEntry::Enter() {
   const TextBox& box = main_.Text1[money_box::kDonation];
-  const auto amount = AmountIn(box.text);
+  const auto amount = ParseAmount(box.text);
   if (!box.typed || !amount) return;
   Give(*amount, main_.mnuPercentBal.checked ? Unit::Percent : Unit::Dollars);
 }
 
-void DonationEntry::Give(Currency amount) {
-  Give(amount, Unit::Dollars);
-}
-
-bool DonationEntry::KnowsDonor() {
+bool DonationEntry::RequireDonorCountry() {
   const bool known = !others_.contact.Text1[contact_field::kCountry].text.empty();
   if (!known) others_.askForContact();
   return known;
@@ -88,28 +84,28 @@ Currency DonationEntry::ServiceFee() const {
                                                                          : rates_.StandAloneFee);
 }
 
-// The charge for e-checks is taken with the first donation of a session.
-bool DonationEntry::TakesSessionFee() const {
-  return Deducts() && values_.TotalDonated == Currency() && !values_.SessionFeeTaken &&
+bool DonationEntry::IsSessionFeeDue() const {
+  return DeductsFees() && values_.TotalDonated == Currency() && !values_.SessionFeeTaken &&
          others_.payment.Option1[payment::kECheck].value;
 }
 
 void DonationEntry::Give(Currency amount, Unit unit) {
-  if (!KnowsDonor()) return;
+  if (!RequireDonorCountry()) return;
   const ListView& list = main_.ListView1;
   if (list.selected == 0 || !list.Text(list.selected).empty()) return;
 
-  // A donation that is refused, or whose numbers overflow, leaves the session as it was.
+  // A donation that is refused or overflows leaves the Balance, session fee and fee mode as they
+  // were.
   const SessionValues before = values_;
-  const bool feeModeOpen = main_.Option3[fee_option::kAdd].enabled;
+  const bool feeModeEnabled = main_.Option3[fee_option::kAdd].enabled;
   const auto restore = [&] {
     values_.Balance = before.Balance;
     values_.SessionFeeTaken = before.SessionFeeTaken;
-    EnableFeeMode(main_, feeModeOpen);
+    EnableFeeMode(main_, feeModeEnabled);
   };
   Row row;
   try {
-    if (TakesSessionFee()) {
+    if (IsSessionFeeDue()) {
       values_.Balance -= rates_.SessionFee;
       values_.SessionFeeTaken = true;
     }
@@ -122,7 +118,7 @@ void DonationEntry::Give(Currency amount, Unit unit) {
     row = SelectedRow();
     if (IsOverLimit(row)) {
       restore();
-      return OverLimit(row);
+      return OfferLargerBudget(row);
     }
     MoveMoney(row);
   } catch (const RuntimeError&) {
@@ -133,7 +129,6 @@ void DonationEntry::Give(Currency amount, Unit unit) {
   main_.Label8.visible = false;
 }
 
-// Reads the donation and fixes the service fee of this entry.
 void DonationEntry::method71(Currency amount) {
   if (!main_.Check1.enabled) main_.Check1.value = 0;
   values_.Donation = amount;
@@ -157,98 +152,97 @@ DonationEntry::Row DonationEntry::SelectedRow() const {
 
 bool DonationEntry::IsOverLimit(const Row& row) const {
   Currency needed = values_.Donation;
-  if (Deducts()) needed += values_.BvxFee;
+  if (DeductsFees()) needed += values_.BvxFee;
   if (DeductsCardFee()) needed += values_.CardFee;
   return needed > row.available || values_.Donation > row.available;
 }
 
-void DonationEntry::OverLimit(const Row& row) {
+void DonationEntry::OfferLargerBudget(const Row& row) {
   const FeeRates next = NextCardRates(rates_, IsForeignDonor());
   const Currency oldTotal = row.amount + row.fee + row.cardFee;
   const Currency balance = row.available - oldTotal;
 
   Currency fees;
-  if (Deducts()) fees += values_.BvxFee;
+  if (DeductsFees()) fees += values_.BvxFee;
   if (DeductsCardFee()) fees += CardFeeOf(values_.Donation, values_.BvxFee, next);
-  // Fees below zero, as a server may publish them, do not raise what may be given.
-  const Currency lacks = values_.Donation + std::max(fees, Currency()) -
-                         (Deducts() ? row.available : balance + row.amount);
+  // The server may publish negative fees; they must not raise the limit.
+  const Currency missing = values_.Donation + std::max(fees, Currency()) -
+                           (DeductsFees() ? row.available : balance + row.amount);
 
   const BoxAnswer answer = messages_.Show(messages_.Title(message_kind::kInputError),
-                                          kMaximumDonationText + Maximum(row).ToText() +
+                                          kMaximumDonationText + MaximumDonation(row).ToText() +
                                               ".   Would you like to adjust the Budget instead?   ",
                                           BoxIcon::Information, BoxButtons::YesNo);
   if (answer != BoxAnswer::Yes) {
-    ++main_.Text1[money_box::kDonation].selections;  // the next amount replaces the refused one
+    ++main_.Text1[money_box::kDonation].selections;  // the next amount typed replaces this one
     return;
   }
-  const Currency rise = WholeDollars(lacks);
-  const Currency raised = values_.Balance + rise;
-  values_.Budget += rise;  // both or, when one overflows, none
-  values_.Balance = raised;
+  const Currency increase = RoundUpToDollars(missing);
+  const Currency newBalance = values_.Balance + increase;
+  values_.Budget += increase;  // if either sum overflows, neither changes
+  values_.Balance = newBalance;
   main_.Text1[money_box::kBudget].Write(Format(values_.Budget, kMoneyPattern));
   main_.Text1[money_box::kBalance].Write(Format(values_.Balance, kMoneyPattern));
   main_.Text1[money_box::kBalance].foreColor = colors::kRed;
   main_.Text1[money_box::kDonation].Write("");
 }
 
-Currency DonationEntry::Maximum(const Row& row) const {
-  if (!Deducts()) return std::max(row.available - row.fee - row.cardFee, Currency());
+Currency DonationEntry::MaximumDonation(const Row& row) const {
+  if (!DeductsFees()) return std::max(row.available - row.fee - row.cardFee, Currency());
   if (!DeductsCardFee()) return std::max(row.available - values_.BvxFee, Currency());
   return LargestWithCardFee(row.available - values_.BvxFee, values_.BvxFee);
 }
 
-Currency DonationEntry::LargestWithin(Currency room) const {
-  if (TakesSessionFee()) room -= rates_.SessionFee;
-  if (Deducts()) room -= ServiceFee();
-  if (DeductsCardFee()) return LargestWithCardFee(room, ServiceFee());
-  return Currency::FromUnits(std::max<std::int64_t>(room.Units() / kCent, 0) * kCent);
+Currency DonationEntry::LargestWithin(Currency limit) const {
+  if (IsSessionFeeDue()) limit -= rates_.SessionFee;
+  if (DeductsFees()) limit -= ServiceFee();
+  if (DeductsCardFee()) return LargestWithCardFee(limit, ServiceFee());
+  return Currency::FromUnits(std::max<std::int64_t>(limit.Units() / kCent, 0) * kCent);
 }
 
 // The fee grows with the donation, so a binary search finds the largest.
-Currency DonationEntry::LargestWithCardFee(Currency left, Currency serviceFee) const {
+Currency DonationEntry::LargestWithCardFee(Currency limit, Currency serviceFee) const {
   const FeeRates next = NextCardRates(rates_, IsForeignDonor());
   std::int64_t fits = 0;
-  std::int64_t tooMuch = std::max<std::int64_t>(left.Units() / kCent, 0) + 1;
+  std::int64_t tooMuch = std::max<std::int64_t>(limit.Units() / kCent, 0) + 1;
   while (tooMuch - fits > 1) {
     const std::int64_t middle = fits + (tooMuch - fits) / 2;
     const Currency donation = Currency::FromUnits(middle * kCent);
-    (donation + CardFeeOf(donation, serviceFee, next) <= left ? fits : tooMuch) = middle;
+    (donation + CardFeeOf(donation, serviceFee, next) <= limit ? fits : tooMuch) = middle;
   }
   return Currency::FromUnits(fits * kCent);
 }
 
-// The former amount and fees come back to the Balance, the new ones leave it.
+// Returns the row's former amount and fees to the Balance and takes the new ones from it.
 void DonationEntry::MoveMoney(const Row& row) {
   ListView& list = main_.ListView1;
   Currency balance = values_.Balance + row.amount - values_.Donation;
-  const bool gives = values_.Donation != Currency();
-  if (Deducts()) {
+  const bool donates = values_.Donation != Currency();
+  if (DeductsFees()) {
     balance += row.fee;
-    if (!gives || DeductsCardFee()) balance += row.cardFee;
-    if (gives) balance -= values_.BvxFee;
-    if (gives && DeductsCardFee()) balance -= values_.CardFee;
+    if (!donates || DeductsCardFee()) balance += row.cardFee;
+    if (donates) balance -= values_.BvxFee;
+    if (donates && DeductsCardFee()) balance -= values_.CardFee;
   }
-  if (gives && Deducts()) {
+  if (donates && DeductsFees()) {
     list.SetSubItem(row.number, column::kFee, values_.BvxFee.ToText());
     if (DeductsCardFee()) {
       list.SetSubItem(row.number, column::kCardFee, values_.CardFee.ToText());
     }
   }
-  if (!gives) {
+  if (!donates) {
     list.cells.erase(row.number);
     ++list.changes;
   }
   values_.Balance = balance;
-  // Meant so, in both fee modes: what would overdraw the Balance is given less one service fee, and
-  // the Balance is then used up.
+  // Intended, in both fee modes: a donation that would overdraw the Balance is reduced by one
+  // service fee, and the Balance becomes zero.
   if (values_.Balance < Currency()) {
     values_.Donation -= values_.BvxFee;
     values_.Balance = Currency();
   }
 }
 
-// Writes delivery, donor, fee and amount into the row.
 void DonationEntry::method72(int row) {
   ListView& list = main_.ListView1;
   list.SetSubItem(row, column::kPool, DeliveryText(main_));

@@ -11,10 +11,10 @@
 
 namespace benevix {
 
-// The Donation box: gives the selected organization an amount, or a percentage of the Balance.
+// The Donation box: donates an amount or a percentage of the Balance to the selected row.
 class DonationEntry {
  public:
-  // What the entry reads of other windows, and how it asks for the contact details.
+  // The other windows that are read, and how the contact details are asked for.
   struct Others {
     const frmPersInfo& contact;
     const frmPayOpt& payment;
@@ -30,49 +30,51 @@ class DonationEntry {
         messages_(messages),
         others_(std::move(others)) {}
 
-  // While the user types: Donation follows in whole dollars, and proof of mailing can be asked for
-  // from 1000 dollars on.
+  // While the user types: sets Donation in whole dollars, and enables proof of mailing from 1000
+  // dollars on if the Balance covers them.
   void Text1_Change();
 
-  // Enter or Tab in the box: gives what was typed.
+  // Handles Enter or Tab in the box: donates what was typed.
   void Enter();
 
-  // Gives the selected row an amount through the same steps; nothing when a heading or no row is
-  // selected, or the contact details must be asked for first.
-  void Give(Currency amount);
+  enum class Unit { Dollars, Percent };
+  // Donates to the selected row as Enter does; an amount of 0 withdraws its donation. Does nothing
+  // when no organization is selected, or when the contact details must be asked for first.
+  void Give(Currency amount, Unit unit = Unit::Dollars);
 
-  // Whether the donor's country is known, without which nothing can be given; asks for it when not.
-  [[nodiscard]] bool KnowsDonor();
+  // Whether the donor's country is known, which every donation needs; asks for it if not.
+  [[nodiscard]] bool RequireDonorCountry();
 
-  // The largest amount of whole cents that fits with its fees into `room`, by the options as they
-  // stand.
-  [[nodiscard]] Currency LargestWithin(Currency room) const;
+  // The largest donation in whole cents that with its fees, under the current options, does not
+  // exceed `limit`. Raises RuntimeError on overflow.
+  [[nodiscard]] Currency LargestWithin(Currency limit) const;
 
  private:
-  // What the selected row held before, and what it could use if it were given again.
+  // The selected row before the new donation.
   struct Row {
     int number = 0;
     Currency amount, fee, cardFee;
-    Currency available;  // old total plus Balance
+    Currency available;  // to the new donation: the old amount and fees plus the Balance
   };
 
-  [[nodiscard]] bool Deducts() const { return main_.mnuDeductFees.checked; }
+  [[nodiscard]] bool DeductsFees() const { return main_.mnuDeductFees.checked; }
   [[nodiscard]] bool DeductsCardFee() const {
-    return Deducts() && others_.payment.Option1[payment::kCreditCard].value;
+    return DeductsFees() && others_.payment.Option1[payment::kCreditCard].value;
   }
-  enum class Unit { Dollars, Percent };
-  void Give(Currency amount, Unit unit);
+  // Starts a donation (fixed name): stores the amount, locks the fee mode, sets the service fee.
   void method71(Currency amount);
   [[nodiscard]] Currency ServiceFee() const;
-  [[nodiscard]] bool TakesSessionFee() const;
+  // The e-check fee is deducted with the first donation of a session.
+  [[nodiscard]] bool IsSessionFeeDue() const;
   [[nodiscard]] bool IsForeignDonor() const;
+  // Writes delivery, donor, fee and amount into the row (fixed name).
   void method72(int row);
   [[nodiscard]] Row SelectedRow() const;
   [[nodiscard]] bool IsOverLimit(const Row& row) const;
-  void OverLimit(const Row& row);
-  [[nodiscard]] Currency Maximum(const Row& row) const;
-  // The largest donation that fits into `left` with its card fee, at the rate of the next one.
-  [[nodiscard]] Currency LargestWithCardFee(Currency left, Currency serviceFee) const;
+  void OfferLargerBudget(const Row& row);
+  [[nodiscard]] Currency MaximumDonation(const Row& row) const;
+  // The largest donation that with its card fee, at the next rate, does not exceed `limit`.
+  [[nodiscard]] Currency LargestWithCardFee(Currency limit, Currency serviceFee) const;
   void MoveMoney(const Row& row);
   void WriteRow(int row);
 

@@ -4,18 +4,18 @@
 
 namespace benevix {
 
-bool EditCommands::RowCarriesDonation() const {
+bool EditCommands::SelectedRowHasDonation() const {
   const ListView& list = main_.ListView1;
   return list.selected != 0 && !list.SubItem(list.selected, column::kRecord).empty();
 }
 
 void EditCommands::mnuCls_Click() {
-  if (RowCarriesDonation()) donation_.Give(Currency());
+  if (SelectedRowHasDonation()) donation_.Give(Currency());
   main_.Text1[money_box::kDonation].Write("");
 }
 
 void EditCommands::mnuCorrect_Click() {
-  if (!RowCarriesDonation()) return;
+  if (!SelectedRowHasDonation()) return;
   const ListView& list = main_.ListView1;
   donation_.Give(Currency::FromText(list.SubItem(list.selected, column::kAmount)));
 }

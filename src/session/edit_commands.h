@@ -5,18 +5,18 @@
 
 namespace benevix {
 
-// The Edit menu: what is done to the selected row's donation, by the donation entry's own steps.
+// The Edit menu: withdraws or corrects the donation of the selected row.
 class EditCommands {
  public:
   EditCommands(frmBVX& main, DonationEntry& donation) : main_(main), donation_(donation) {}
 
-  // Takes the row's donation back and empties the Donation box.
+  // Withdraws the row's donation and empties the Donation box.
   void mnuCls_Click();
-  // Gives the row its own amount again, with the options as they stand now.
+  // Donates the row's amount again, with the current options.
   void mnuCorrect_Click();
 
  private:
-  [[nodiscard]] bool RowCarriesDonation() const;
+  [[nodiscard]] bool SelectedRowHasDonation() const;
 
   frmBVX& main_;
   DonationEntry& donation_;

@@ -9,8 +9,8 @@
 namespace benevix {
 namespace {
 
-// Where a search for favorites behind a damaged count ends.
-constexpr std::size_t kMostGap = 100;
+// A repair stops after so many missing values in a row.
+constexpr std::size_t kMaxGap = 100;
 
 const std::string kRemoveHint =
     "Choose from the Favorites menu the favorite to remove, or Cancel Remove.";
@@ -43,7 +43,7 @@ void Favorites::LoadFavoritesMenu() {
   removing_ = false;
   std::set<std::string> ids;
   for (const Favorite& favorite : favorites_) ids.insert(favorite.id);
-  const auto rows = database_.FindRows(ids);
+  const auto rows = database_.FindRowsById(ids);
   for (Favorite& favorite : favorites_) {
     const auto found = rows.find(favorite.id);
     favorite.row = found == rows.end() ? 0 : found->second;
@@ -68,14 +68,14 @@ std::optional<std::vector<Favorites::Favorite>> Favorites::Read() {
 void Favorites::Repair() {
   std::vector<std::string> readable;
   std::size_t last = 0;
-  for (std::size_t i = 1; i <= last + kMostGap; ++i) {
+  for (std::size_t i = 1; i <= last + kMaxGap; ++i) {
     const std::string favorite = Stored(std::to_string(i));
     if (!favorite.empty()) last = i;
     if (IsReadable(favorite)) readable.push_back(favorite);
   }
   for (std::size_t i = 0; i < readable.size(); ++i) Save(std::to_string(i + 1), readable[i]);
   Save("", std::to_string(readable.size()));
-  // What is left behind them would come back with the next repair.
+  // Values left after the last one would reappear at the next repair.
   for (std::size_t i = readable.size() + 1; i <= last; ++i) {
     settings_.DeleteValue(Root::CurrentUser, kFavoritesPath, std::to_string(i));
   }
@@ -98,12 +98,12 @@ void Favorites::Add() {
   const ListView& list = main_.ListView1;
   const std::string id = list.SubItem(list.selected, column::kId);
   if (list.selected == 0 || !list.Text(list.selected).empty() || id.empty()) return;
-  const bool isThere = std::any_of(favorites_.begin(), favorites_.end(),
-                                   [&](const Favorite& favorite) { return favorite.id == id; });
-  if (isThere) return;
+  const bool isFavorite = std::any_of(favorites_.begin(), favorites_.end(),
+                                      [&](const Favorite& favorite) { return favorite.id == id; });
+  if (isFavorite) return;
   const std::string name = list.SubItem(list.selected, column::kOrganization);
   favorites_.push_back({id, name, list.selected});
-  // The value before the count: a crash between the two leaves the old set.
+  // The value before the count: after a crash between the two the old favorites are intact.
   Save(std::to_string(favorites_.size()), id + "," + name);
   Save("", std::to_string(favorites_.size()));
   BuildMenu();
@@ -116,35 +116,27 @@ void Favorites::mnuFavs_Click(int index) {
 }
 
 void Favorites::mnuFavsRemove_Click() {
-  if (!removing_) hintBefore_ = main_.Label6.caption;
+  if (!removing_) previousHint_ = main_.Label6.caption;
   removing_ = true;
   main_.Label6.caption = kRemoveHint;
   BuildMenu();
 }
 
 void Favorites::mnuCancelRemove_Click() {
-  EndRemoving();
-}
-
-void Favorites::EndRemoving() {
   removing_ = false;
-  // What has been said since stands.
-  if (main_.Label6.caption == kRemoveHint) main_.Label6.caption = hintBefore_;
+  // Another hint shown meanwhile stays.
+  if (main_.Label6.caption == kRemoveHint) main_.Label6.caption = previousHint_;
   BuildMenu();
 }
 
 void Favorites::Remove(std::size_t index) {
   favorites_.erase(favorites_.begin() + static_cast<std::ptrdiff_t>(index));
-  Store();
-  EndRemoving();
-}
-
-void Favorites::Store() {
   for (std::size_t i = 0; i < favorites_.size(); ++i) {
     Save(std::to_string(i + 1), favorites_[i].id + "," + favorites_[i].name);
   }
   Save("", std::to_string(favorites_.size()));
   settings_.DeleteValue(Root::CurrentUser, kFavoritesPath, std::to_string(favorites_.size() + 1));
+  mnuCancelRemove_Click();
 }
 
 std::vector<int> Favorites::Rows() const {

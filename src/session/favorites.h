@@ -11,23 +11,23 @@
 
 namespace benevix {
 
-// The favorite organizations, stored one a value, numbered from 1, as ID, ",", name.
+// The favorite organizations. In the settings key kFavoritesPath the default value is their count;
+// the values "1", "2" ... hold ID, ",", name.
 class Favorites {
  public:
   Favorites(frmBVX& main, SettingsStore& settings, const OrganizationDatabase& database,
             ListViewEvents& listView)
       : main_(main), settings_(settings), database_(database), listView_(listView) {}
 
-  // Makes a menu element of each stored favorite; a damaged store is repaired first. One that is
-  // not in the list is marked so, and disabled except while one is being removed, which this ends.
+  // Fills the menu with the stored favorites, after a repair if the settings are damaged, and ends
+  // remove mode. A favorite that is not in the list is marked, and disabled except in remove mode.
   void LoadFavoritesMenu();
 
-  // Adds the selected organization, once.
+  // Adds the selected organization unless it is a favorite already.
   void Add();
-  // Selects the favorite's row as a left click does, or removes the favorite while one is being
-  // removed.
+  // Selects the favorite's row as a left click does; in remove mode removes the favorite.
   void mnuFavs_Click(int index);
-  // From here on the next chosen favorite is removed.
+  // Starts remove mode: the next chosen favorite is removed.
   void mnuFavsRemove_Click();
   void mnuCancelRemove_Click();
 
@@ -40,14 +40,12 @@ class Favorites {
     int row = 0;  // 0 when it is not in the list
   };
 
-  // Nothing when the count is no number or a favorite is missing or unreadable.
+  // Nothing if the count is not a number or a favorite is missing or unreadable.
   [[nodiscard]] std::optional<std::vector<Favorite>> Read();
   // Keeps the readable favorites in order, numbers them from 1 and writes their count.
   void Repair();
   void Remove(std::size_t index);
-  void Store();
   void BuildMenu();
-  void EndRemoving();
   [[nodiscard]] std::string Stored(const std::string& name);
   void Save(const std::string& name, const std::string& value);
 
@@ -57,7 +55,7 @@ class Favorites {
   ListViewEvents& listView_;
   std::vector<Favorite> favorites_;
   bool removing_ = false;
-  std::string hintBefore_;
+  std::string previousHint_;
 };
 
 }  // namespace benevix

@@ -36,8 +36,8 @@ Currency CardFeeOf(Currency donation, Currency serviceFee, const FeeRates& rates
 }
 
 Currency ComputeCardFee(const SessionValues& values, FeeRates& rates, bool foreign) {
-  rates =
-      NextCardRates(rates, foreign);  // kept on purpose: the rate of a foreign donor goes on rising
+  // Stored on purpose: the rate of a foreign donor rises with each computation.
+  rates = NextCardRates(rates, foreign);
   return CardFeeOf(values.Donation, values.BvxFee, rates);
 }
 

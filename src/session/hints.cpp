@@ -5,36 +5,36 @@ namespace benevix {
 void ShowHint(frmBVX& main, int step) {
   const std::string enterDonation =
       "enter the donation as " + main.Label3.caption + " in the Donation box and press <Enter> ";
-  std::string& sentence = main.Label6.caption;
+  std::string& line = main.Label6.caption;
   switch (step) {
     case hint::kPreferences:
-      sentence = "Choose your preferences: Send Method, Donor Name, Request Certificate, etc";
+      line = "Choose your preferences: Send Method, Donor Name, Request Certificate, etc";
       break;
     case hint::kAnonymous:
-      sentence = enterDonation;
+      line = enterDonation;
       break;
     case hint::kMyName:
-      sentence = "Verify your name shows correctly, then " + enterDonation;
+      line = "Verify your name shows correctly, then " + enterDonation;
       break;
     case hint::kOtherName:
-      sentence = "Enter a name for this donor, then " + enterDonation;
+      line = "Enter a name for this donor, then " + enterDonation;
       break;
     case hint::kSelectFirst:
-      sentence = "Select from the list an organization to donate to.";
+      line = "Select from the list an organization to donate to.";
       break;
     case hint::kContinue:
-      sentence = "Press the Continue button to finalize this session.";
+      line = "Press the Continue button to finalize this session.";
       break;
     case hint::kSelectAnother:
-      sentence = "Select from the list another organization to donate to.";
+      line = "Select from the list another organization to donate to.";
       break;
     case hint::kFinalized:
-      sentence =
+      line =
           "To start over select New Session from the File menu or press Continue to repeat this "
           "session";
       break;
     case hint::kTypeBudget:
-      sentence = "Type a Dollar amount for your Budget (US$) on the Budget box + <Enter>";
+      line = "Type a Dollar amount for your Budget (US$) on the Budget box + <Enter>";
       break;
     default:
       break;

@@ -16,7 +16,7 @@ inline constexpr int kFinalized = 8;
 inline constexpr int kTypeBudget = 9;
 }  // namespace hint
 
-// Puts the sentence of a step into the guidance line; a step without one leaves it.
+// Shows the hint of a step in the hint line (Label6); an unknown step changes nothing.
 void ShowHint(frmBVX& main, int step);
 
 }  // namespace benevix

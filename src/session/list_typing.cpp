@@ -8,7 +8,7 @@
 namespace benevix {
 namespace {
 
-// Midnight tears a word apart, and does no harm.
+// A word typed across midnight is split, which does no harm.
 bool WithinASecond(const DateTime& a, const DateTime& b) {
   const auto seconds = [](const DateTime& t) { return (t.hour * 60 + t.minute) * 60 + t.second; };
   return a.day == b.day && std::abs(seconds(a) - seconds(b)) <= 1;
@@ -20,16 +20,16 @@ void ListTyping::ListView1_KeyPress(const EventArgs& args) {
   const OrganizationList* const list = database_.List();
   if (list == nullptr) return;
   const DateTime now = clock_.Now();
-  if (!WithinASecond(now, last_)) typed_.clear();
-  last_ = now;
+  if (!WithinASecond(now, lastKeyTime_)) typed_.clear();
+  lastKeyTime_ = now;
   typed_ += static_cast<char>(args.key);
 
-  const bool oneLetter =
+  const bool sameLetter =
       std::all_of(typed_.begin(), typed_.end(), [&](char c) { return SameLetter(c, typed_[0]); });
-  // A word that grows may stay where it is.
-  const int from = std::max(main_.ListView1.selected, 0) + (oneLetter ? 1 : 0);
-  const int row = list->FindName(oneLetter ? typed_.substr(0, 1) : typed_, std::max(from, 1));
-  if (row != 0) listView_.GoTo(row);
+  // A longer word may still match the selected row.
+  const int from = std::max(main_.ListView1.selected, 0) + (sameLetter ? 1 : 0);
+  const int row = list->FindName(sameLetter ? typed_.substr(0, 1) : typed_, std::max(from, 1));
+  if (row != 0) listView_.SelectByKeyboard(row);
 }
 
 }  // namespace benevix

@@ -10,15 +10,15 @@
 
 namespace benevix {
 
-// Letters typed in the list go to the next organization whose name begins with them.
+// Type-ahead in the list: selects the next organization whose name begins with the typed letters.
 class ListTyping {
  public:
   ListTyping(const frmBVX& main, const OrganizationDatabase& database, const Clock& clock,
              ListViewEvents& listView)
       : main_(main), database_(database), clock_(clock), listView_(listView) {}
 
-  // Letters within a second of the one before belong together; one letter again and again goes
-  // from organization to organization.
+  // Letters typed within a second of each other form a word; repeating one letter steps through the
+  // organizations.
   void ListView1_KeyPress(const EventArgs& args);
 
  private:
@@ -27,7 +27,7 @@ class ListTyping {
   const Clock& clock_;
   ListViewEvents& listView_;
   std::string typed_;
-  DateTime last_;
+  DateTime lastKeyTime_;
 };
 
 }  // namespace benevix

@@ -45,11 +45,9 @@ void ListViewEvents::LeftClick(bool organization, bool byKeyboard) {
   ShowHint(main_, hint::kPreferences);
 }
 
-void ListViewEvents::GoTo(int row) {
+void ListViewEvents::SelectByKeyboard(int row) {
   main_.ListView1.selected = row;
-  EventArgs args;
-  args.byKeyboard = true;
-  ListView1_ItemClick(args);
+  ListView1_ItemClick({.byKeyboard = true});
 }
 
 void ListViewEvents::Select(int row, bool byKeyboard) {
@@ -57,16 +55,14 @@ void ListViewEvents::Select(int row, bool byKeyboard) {
   if (!byKeyboard) desk_.SetFocus(list);
   list.EnsureVisible(row);
   list.selected = row;
-  EventArgs args;
-  args.byKeyboard = byKeyboard;
-  ListView1_ItemClick(args);
+  ListView1_ItemClick({.byKeyboard = byKeyboard});
 }
 
 void ListViewEvents::lclist_Click(int index) {
   const ListView& list = main_.ListView1;
   const std::string country = main_.lclist.items[index].caption;
   for (const auto& [element, item] : main_.lclist.items) {
-    // The menu's elements stand at their rows, so the first equal caption is the first equal row.
+    // Element i is row i + 1, so the first equal caption is the first equal row.
     if (element >= list.Count() || item.caption != country || list.Text(element + 1) != country) {
       continue;
     }

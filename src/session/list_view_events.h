@@ -9,7 +9,7 @@
 
 namespace benevix {
 
-// What a click on a row of the organization list does.
+// Selecting rows of the organization list, and what follows from it.
 class ListViewEvents {
  public:
   // `showYtd` shows the year-to-date figures of the selected row.
@@ -17,16 +17,16 @@ class ListViewEvents {
       : main_(main), desk_(desk), run_(run), showYtd_(std::move(showYtd)) {}
 
   void ListView1_ItemClick(const EventArgs& args);
-  // Enter goes on to the box in which the next amount is typed.
+  // Enter moves the focus to the Donation box, or to the Budget box while that is empty.
   void ListView1_KeyUp(const EventArgs& args);
 
   // Selects a row as the arrow keys do.
-  void GoTo(int row);
-  // Scrolls a row into view and selects it, with what follows from a selected row; by the mouse
-  // also with what follows from a click.
+  void SelectByKeyboard(int row);
+  // Scrolls a row into view and selects it: by keyboard as the arrow keys do, otherwise as a left
+  // click, with its change of focus.
   void Select(int row, bool byKeyboard);
 
-  // A country of the countries menu: its first heading is scrolled into view and selected.
+  // The countries menu: scrolls to the country's first heading and selects it.
   void lclist_Click(int index);
 
  private:

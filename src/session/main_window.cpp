@@ -28,8 +28,8 @@ void MainWindow::Text1_GotFocus(int index) {
 void MainWindow::Timer1_Tick() {
   constexpr int step = 20;
   constexpr int ticksToThanks = 200;
-  if (main_.Label4.left > kLabel4Rest) {
-    main_.Label4.left = std::max(main_.Label4.left - step, kLabel4Rest);
+  if (main_.Label4.left > kLabel4End) {
+    main_.Label4.left = std::max(main_.Label4.left - step, kLabel4End);
     return;
   }
   const int ticks = ToInt32(Val(main_.Timer1.tag)) + 1;

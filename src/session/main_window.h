@@ -7,7 +7,7 @@
 
 namespace benevix {
 
-// The handlers of the main window that belong to no other room.
+// The handlers of the main window that belong to no other module.
 class MainWindow {
  public:
   MainWindow(frmBVX& main, BudgetEntry& budget, DonationEntry& donation)
@@ -17,10 +17,10 @@ class MainWindow {
   static void Text1_KeyPress(EventArgs& args);
   void Text1_KeyUp(int index, const EventArgs& args);
   void Text1_Change(int index);
-  // So that typing replaces what the program wrote.
+  // Selects the text, so that typing replaces it.
   void Text1_GotFocus(int index);
 
-  // Scrolls the credit line in from the right, then counts to its thanks.
+  // Scrolls the credit line in from the right; 200 ticks later it says thanks.
   void Timer1_Tick();
   // Blinks the news indicator.
   void Timer2_Tick();
@@ -31,7 +31,7 @@ class MainWindow {
   DonationEntry& donation_;
 };
 
-// Where the credit line rests, twips.
-inline constexpr int kLabel4Rest = 120;
+// Where the credit line stops, in twips.
+inline constexpr int kLabel4End = 120;
 
 }  // namespace benevix

@@ -4,12 +4,11 @@
 
 namespace benevix {
 
-// Whether fees come on top of the Budget or out of it: the menu's check marks and the options say
-// the same.
+// Whether fees are added to the Budget or deducted from it; sets the menu items and the options.
 enum class FeeMode { Add, Deduct };
 void SetFeeMode(frmBVX& main, FeeMode mode);
 
-// The fee mode cannot be changed once something has been given in the session.
+// The fee mode is locked after the first donation of a session.
 void EnableFeeMode(frmBVX& main, bool enabled);
 
 // Whether donations are typed as amounts or as percentages of the Balance.

@@ -43,7 +43,7 @@ void ResetSession(frmBVX& main, SessionValues& values, Desk& desk) {
   values.TotalDonated = values.BudgetEntered = Currency();
   values.SessionFeeTaken = false;
   ResetSessionControls(main);
-  // Gone even when the reload fails, so that no donation outlives its session.
+  // Emptied here, so that no donation remains if the caller's reload fails.
   main.ListView1.SetRows(nullptr);
   desk.SetFocus(main.Text1[money_box::kBudget]);
 }

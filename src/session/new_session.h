@@ -6,11 +6,10 @@
 
 namespace benevix {
 
-// The controls as a session starts with them. The modes, the payment method and what hangs on the
-// favorites stay.
+// Resets the controls for a new session. The modes, the payment method and the favorites stay.
 void ResetSessionControls(frmBVX& main);
 
-// The values back to zero, the controls to a session's start. The list is reloaded by the caller.
+// Resets the values to zero and the controls, and empties the list, which the caller reloads.
 void ResetSession(frmBVX& main, SessionValues& values, Desk& desk);
 
 }  // namespace benevix

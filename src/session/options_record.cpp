@@ -6,9 +6,9 @@
 namespace benevix {
 namespace {
 
-// Whether the character `back` places from the record's end is a 1.
-bool HasFlag(std::string_view record, std::size_t back) {
-  return record.size() >= back && Val(record.substr(record.size() - back, 1)) == 1;
+// Whether the character `fromEnd` places before the record's end is a 1.
+bool HasFlag(std::string_view record, std::size_t fromEnd) {
+  return record.size() >= fromEnd && Val(record.substr(record.size() - fromEnd, 1)) == 1;
 }
 
 }  // namespace
@@ -18,7 +18,7 @@ std::string OptionsRecord::ToText() const {
          proof;
 }
 
-OptionsRecord OptionsRecord::Take(std::string_view& text) {
+OptionsRecord OptionsRecord::CutFrom(std::string_view& text) {
   OptionsRecord record;
   for (std::string* const field : {&record.organization, &record.amount, &record.delivery,
                                    &record.from, &record.certificate, &record.proof}) {

@@ -5,18 +5,18 @@
 
 namespace benevix {
 
-// What a row with a donation keeps of it, as one text of the list: six fields joined by ",".
+// The options of a row's donation, kept in the list's record column: six fields joined by ",".
 struct OptionsRecord {
-  std::string organization;  // its ID; after a recall perhaps what the list file has in its place
+  std::string organization;  // the ID; after a recall possibly the name (see LastSession)
   std::string amount, delivery, from;
-  std::string certificate, proof;  // "1" when it was asked for, otherwise "0"
+  std::string certificate, proof;  // "1" if requested, otherwise "0"
 
   [[nodiscard]] std::string ToText() const;
-  // Cuts a record off the front of `text`. Fields that are missing are empty.
-  static OptionsRecord Take(std::string_view& text);
+  // Cuts a record off the front of `text`; missing fields are empty.
+  static OptionsRecord CutFrom(std::string_view& text);
 };
 
-// The flags of a record's text, found from its end, since a donor's name may hold a comma.
+// The flags of a record, counted from its end because the donor's name may contain a comma.
 bool AsksForCertificate(std::string_view record);
 bool AsksForProof(std::string_view record);
 

@@ -8,24 +8,23 @@
 
 namespace benevix {
 
-// What a session costs: the sums over its rows, and what is to be paid.
+// What a session costs. Every routine but Payee raises RuntimeError on overflow.
 
-// Sum of the Fee column, rounded to whole dollars (halves to even) after each addition, 16 bits.
+// Sum of the Fee column, rounded to 16-bit whole dollars (halves to even) after each addition.
 Currency ServiceFeeTotal(const ListView& list);
 // Sum of the CC Fee column.
 Currency CardFeeTotal(const ListView& list);
 
-// Budget plus the fees that the user pays: the service fees, and when fees come on top those of the
-// payment option.
+// The Budget plus the service fees and, with `addsFees`, the card or e-check fees of the option.
 Currency ChargedTotal(const SessionValues& values, const FeeRates& rates, const ListView& list,
                       int option, bool addsFees);
 
-// What is to be paid, "###.#0", rounded up to whole dollars when asked for. The payee decides
-// between funds transfer and the rest: equal accounts are charged as the first one.
+// The amount to pay, formatted "###.#0"; with `roundUp` rounded up to whole dollars. Intended:
+// funds transfer is recognized by its payee, so with equal accounts it is charged like an e-check.
 std::string PaymentAmount(const SessionValues& values, const FeeRates& rates, Currency serviceFees,
                           int option, bool roundUp);
 
-// The account that the payment goes to.
+// The payee account of a payment option.
 const std::string& Payee(const FeeRates& rates, int option);
 
 }  // namespace benevix

@@ -21,7 +21,7 @@ void PaymentOptions::Command1_Click(int index) {
   if (index == 0) {
     Continue();
   } else {
-    follow_.showHelpPage("qhelp.html#Avoiding Credit Card Fees");
+    callbacks_.showHelpPage("qhelp.html#Avoiding Credit Card Fees");
   }
 }
 
@@ -30,13 +30,13 @@ void PaymentOptions::Continue() {
   main_.mnuChgPayMethod.enabled = false;
   const int chosen = Chosen(window_.Option1);
   if (chosen >= 0) main_.Label4.caption = window_.Option1[chosen].caption + " Payment method ";
-  main_.Label4.tag = "1";  // says that a method was chosen; only scripts ask for it
+  main_.Label4.tag = "1";  // a method was chosen; only session scripts read it
   main_.Timer1.tag.clear();
   main_.Timer1.enabled = true;
   desk_.Hide(window_);
   if (Val(main_.Command1.tag) == 1) {
     main_.Command1.tag.clear();
-    follow_.finalize();
+    callbacks_.finalize();
   }
 }
 

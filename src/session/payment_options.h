@@ -8,26 +8,26 @@
 
 namespace benevix {
 
-// The payment options window. Its choice stays in the hidden window for the rest of the run.
+// The payment options window. The hidden window keeps the choice until the program ends.
 class PaymentOptions {
  public:
-  struct Follow {
-    std::function<void()> finalize;                             // a Continue was waiting
+  struct Callbacks {
+    std::function<void()> finalize;                             // if a Continue was waiting
     std::function<void(const std::string& page)> showHelpPage;  // a page of the Resources folder
   };
 
-  PaymentOptions(frmPayOpt& window, frmBVX& main, Desk& desk, Follow follow)
-      : window_(window), main_(main), desk_(desk), follow_(std::move(follow)) {}
+  PaymentOptions(frmPayOpt& window, frmBVX& main, Desk& desk, Callbacks callbacks)
+      : window_(window), main_(main), desk_(desk), callbacks_(std::move(callbacks)) {}
 
   [[nodiscard]] bool IsChosen() const { return Chosen(window_.Option1) >= 0; }
-  // At the first Budget entry: asks when nothing is chosen yet; the main window waits for it.
+  // At the first Budget entry: asks unless a method is chosen; disables the main window.
   void AskOnce();
   // The menu's Change Payment Method.
   void Ask();
 
   void Option1_Click();
   void Command1_Click(int index);
-  // Closed by the user: nothing is chosen and no Continue waits.
+  // Closed without a choice: a waiting Continue is cancelled.
   void Form_Unload();
 
  private:
@@ -36,7 +36,7 @@ class PaymentOptions {
   frmPayOpt& window_;
   frmBVX& main_;
   Desk& desk_;
-  Follow follow_;
+  Callbacks callbacks_;
 };
 
 }  // namespace benevix

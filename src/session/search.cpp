@@ -18,9 +18,9 @@ void Search::Command1_Click() {
   const std::string& word = window_.Text1.text;
   if (word.empty() || database_.List() == nullptr) return;
   const bool byName = window_.Option1[1].value;
-  int row = byName ? FindBeginning(word) : FindCountry(word);
+  int row = byName ? FindByBeginning(word) : FindCountry(word);
   if (row == 0 && byName) {
-    row = FindWithin(word);
+    row = FindByNamePart(word);
     if (row != 0) startRow_ = row + 1;
   }
   if (row != 0) select_(row);
@@ -34,9 +34,9 @@ int Search::FindCountry(const std::string& word) const {
   return 0;
 }
 
-int Search::FindBeginning(const std::string& word) const {
+int Search::FindByBeginning(const std::string& word) const {
   const OrganizationList& list = *database_.List();
-  // Only a word of a number can begin one.
+  // Only a digit or a minus can begin an ID.
   const bool maybeId = word[0] == '-' || (word[0] >= '0' && word[0] <= '9');
   int found = 0;
   for (int row = 1; row <= list.Count() && found == 0; ++row) {
@@ -56,7 +56,7 @@ int Search::FindBeginning(const std::string& word) const {
   return found;
 }
 
-int Search::FindWithin(const std::string& word) const {
+int Search::FindByNamePart(const std::string& word) const {
   const OrganizationList& list = *database_.List();
   for (int row = startRow_; row <= list.Count(); ++row) {
     if (Contains(list.View(row, column::kOrganization), word)) return row;

@@ -8,7 +8,7 @@
 
 namespace benevix {
 
-// Finds a row of the list by the beginning of its texts, or by a part of its organization's name.
+// Finds a row of the list by the beginning of its texts, or by a part of the organization's name.
 class Search {
  public:
   // `select` scrolls a row into view and selects it.
@@ -16,16 +16,16 @@ class Search {
          std::function<void(int row)> select)
       : window_(window), main_(main), database_(database), select_(std::move(select)) {}
 
-  // The search begins anew: the window was loaded or the word changed.
+  // Starts again at row 1: the window was loaded or the word changed.
   void Restart() { startRow_ = 1; }
   void Command1_Click();
 
  private:
   [[nodiscard]] int FindCountry(const std::string& word) const;
-  // The first row one of whose sub-items begins with the word.
-  [[nodiscard]] int FindBeginning(const std::string& word) const;
-  // The first row from the start row whose name contains the word.
-  [[nodiscard]] int FindWithin(const std::string& word) const;
+  // The first row with a sub-item that begins with the word.
+  [[nodiscard]] int FindByBeginning(const std::string& word) const;
+  // The first row from startRow_ on whose name contains the word.
+  [[nodiscard]] int FindByNamePart(const std::string& word) const;
 
   frmSrch& window_;
   const frmBVX& main_;

@@ -15,12 +15,12 @@ void RecalcTotalDonated(SessionValues& values, const ListView& list) {
 }
 
 void method73(const SessionValues& values, frmBVX& main, Desk& desk) {
-  const bool isLeft = values.Balance > Currency();
+  const bool hasBalance = values.Balance > Currency();
   TextBox& balance = main.Text1[money_box::kBalance];
   main.Text1[money_box::kBudget].Write(Format(values.Budget, kMoneyPattern));
-  balance.Write(isLeft ? Format(values.Balance, kMoneyPattern) : "0.00");
-  balance.foreColor = isLeft ? colors::kBlack : colors::kRed;
-  ShowHint(main, isLeft ? hint::kSelectAnother : hint::kContinue);
+  balance.Write(hasBalance ? Format(values.Balance, kMoneyPattern) : "0.00");
+  balance.foreColor = hasBalance ? colors::kBlack : colors::kRed;
+  ShowHint(main, hasBalance ? hint::kSelectAnother : hint::kContinue);
   main.Command1.enabled = values.Balance <= values.BvxFee;
   desk.SetFocus(main.ListView1);
 }

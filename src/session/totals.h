@@ -6,14 +6,14 @@
 
 namespace benevix {
 
-// TotalDonated = the sum of the Amount column. Raises RuntimeError on overflow.
+// Sets TotalDonated to the sum of the Amount column. Raises RuntimeError on overflow.
 void RecalcTotalDonated(SessionValues& values, const ListView& list);
 
-// Refreshes the totals (the name is fixed): shows Budget and Balance, the Balance in red once it is
-// used up, says what comes next, opens Continue, and gives the list the focus.
+// Refreshes the totals (fixed name): shows Budget, Balance (red once used up) and the next hint,
+// enables Continue if the Balance does not exceed the last service fee, and focuses the list.
 void method73(const SessionValues& values, frmBVX& main, Desk& desk);
 
-// The Budget box as it looks once a Budget was accepted.
+// Gives the Budget box the look of an accepted Budget.
 void MarkBudgetAccepted(frmBVX& main);
 
 }  // namespace benevix

@@ -11,7 +11,7 @@ using namespace codec_direction;
 
 std::string Coded(const std::string& input, std::int16_t mode, std::int16_t direction,
                   const std::string& exeName = "Benevix") {
-  std::string output = ">";  // is appended to
+  std::string output = ">";  // the result is appended
   try {
     TextCodec(exeName).Codec(input, output, mode, direction);
   } catch (const RuntimeError&) {
@@ -20,7 +20,7 @@ std::string Coded(const std::string& input, std::int16_t mode, std::int16_t dire
   return output;
 }
 
-TEST(TextCodec, WritesAndReadsDigitPairs) {
+TEST(TextCodec, ScramblesAndUnscrambles) {
   const struct {
     std::string input;
     std::int16_t mode, direction;
@@ -38,12 +38,12 @@ TEST(TextCodec, WritesAndReadsDigitPairs) {
   }
   EXPECT_EQ(Coded("A", 1, kScramble, ""), "error");
   EXPECT_EQ(Coded("A", 1, kScramble, "Donor"), ">05");
-  // Longer than the key of six and the one of sixteen.
+  // Longer than the keys of 6 and 16 characters.
   EXPECT_EQ(Coded(std::string(14, 'A'), 3, kScramble), ">2A2A37202F242A2A37202F242A2A");
   EXPECT_EQ(Coded(std::string(17, 'A'), 2, kScramble), ">09203337243235610D202F3524332F3209");
 }
 
-TEST(TextCodec, ReadsBackWhateverItWrote) {
+TEST(TextCodec, UnscramblesWhatItScrambled) {
   std::mt19937 random(7);
   for (int i = 0; i < 3000; ++i) {
     std::string text(random() % 60, '\0');
@@ -53,7 +53,7 @@ TEST(TextCodec, ReadsBackWhateverItWrote) {
     EXPECT_EQ(digits.size(), 2 * text.size());
     EXPECT_EQ(digits.find_first_not_of("0123456789ABCDEF"), std::string::npos);
     EXPECT_EQ(Coded(digits, mode, kUnscramble), ">" + text);
-    Coded(text, mode, kUnscramble);  // any bytes: an error at most
+    Coded(text, mode, kUnscramble);  // arbitrary bytes raise at most an error
   }
 }
 

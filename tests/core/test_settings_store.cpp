@@ -22,7 +22,7 @@ TEST_F(SettingsStoreTest, ReadsBackWhatItWrote) {
     store_.SaveUserString("Name", text);
     EXPECT_EQ(store_.GetUserString("Name"), text);
   }
-  store_.SaveString(Root::LocalMachine, kSettingsPath, "Proxy", "refused in silence");
+  store_.SaveString(Root::LocalMachine, kSettingsPath, "Proxy", "refused");
   EXPECT_EQ(store_.GetString(Root::LocalMachine, kSettingsPath, "Proxy"), "");
 }
 

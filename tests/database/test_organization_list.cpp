@@ -31,8 +31,8 @@ std::string Loaded(const std::string& bytes) {
          (list.Damage().empty() ? "" : " damaged");
 }
 
-// The same line by line, as plainly as it can be said.
-std::string ReadPlainly(const std::string& bytes) {
+// The same from a reference reader, which is simple and slow.
+std::string ReadSimply(const std::string& bytes) {
   std::string rows, version = "-";
   for (std::size_t at = 0; at < bytes.size();) {
     const std::size_t end = std::min(bytes.find('\n', at), bytes.size());
@@ -87,7 +87,7 @@ TEST(OrganizationList, ReadsEveryKindOfLine) {
   }
 }
 
-TEST(OrganizationList, ReadsRandomBytesAsALineByLineReaderDoes) {
+TEST(OrganizationList, ReadsRandomBytesLikeTheReferenceReader) {
   const std::string letters = "\n\n\n\r,,;[] 0123456789eE&H.-abcQUORL\0\xE9\xFF"s;
   const std::string starts[] = {";QUORL", "[", "00000001 A, ", "0000000", "        ", ""};
   std::mt19937 random(5);
@@ -99,19 +99,19 @@ TEST(OrganizationList, ReadsRandomBytesAsALineByLineReaderDoes) {
       for (auto n = random() % 30; n > 0; --n) bytes += letters[random() % letters.size()];
       bytes += random() % 3 == 0 ? "\n" : "\r\n";
     }
-    const std::string expected = ReadPlainly(bytes);
+    const std::string expected = ReadSimply(bytes);
     ASSERT_EQ(Loaded(bytes), expected) << bytes;
     damaged += expected.ends_with("damaged") ? 1 : 0;
   }
   EXPECT_GT(damaged, 50);
   EXPECT_LT(damaged, 450);
-  // Longer than the pieces in which a file is read, with lines across their borders.
+  // Larger than one read, with lines across the borders of reads.
   std::string bytes = "[" + std::string(3'000'000, 'x') + "]\n";
   while (bytes.size() < 4'000'000) {
     bytes += "0" + std::to_string(1'000'000 + random() % 9'000'000) + " " +
              std::string(random() % 3000, 'n') + ", " + std::string(random() % 9, 't') + "\r\n";
   }
-  EXPECT_TRUE(Loaded(bytes) == ReadPlainly(bytes));
+  EXPECT_TRUE(Loaded(bytes) == ReadSimply(bytes));
 }
 
 }  // namespace

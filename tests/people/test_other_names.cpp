@@ -7,7 +7,7 @@
 namespace benevix {
 namespace {
 
-TEST(OtherNames, AreLinesInTheOrderOfTyping) {
+TEST(OtherNames, AreStoredInTheOrderOfTyping) {
   const TempFolder folder;
   LinuxFiles files;
   OtherNames names(files, folder / "names");
@@ -20,7 +20,7 @@ TEST(OtherNames, AreLinesInTheOrderOfTyping) {
   names.LoadOtherNames(combo);
   OtherNames unreadable(files, folder / ".");
   unreadable.LoadOtherNames(combo);
-  unreadable.AppendOtherName("lost without a word");
+  unreadable.AppendOtherName("not written");
   EXPECT_EQ(combo.list, (std::vector<std::string>{"own", "Smith, J\xF6rg", "", "no end"}));
 }
 

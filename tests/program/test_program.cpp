@@ -6,7 +6,7 @@
 namespace benevix {
 namespace {
 
-// A run of the program whose please-wait window is looked at.
+// Records the progress that the please-wait window shows.
 class ProgramTest : public testing::Test, public ProgramFixture {
  protected:
   ProgramTest() {
@@ -16,7 +16,7 @@ class ProgramTest : public testing::Test, public ProgramFixture {
         values.push_back(bar.value);
     };
   }
-  // A server with a newer list, and the link under which an installation finds it.
+  // A newer list on the server, and the link through which an installation finds the list.
   void OfferList(const std::string& version, const std::string& list) {
     world.site.Put("53rv3r/dbcurrver.dat", {.text = version});
     world.site.Put("downloads/db" + version, {.text = list});
@@ -35,7 +35,7 @@ class ProgramTest : public testing::Test, public ProgramFixture {
   std::vector<int> values;
 };
 
-TEST_F(ProgramTest, WithTheLinkANewListIsLoadedAndFoundAgain) {
+TEST_F(ProgramTest, ANewListIsInstalledAndFoundThroughTheLink) {
   const std::string link = world.info.Resource("shareddb.dat");
   OfferList("2.0013", ";QUORL2.0013\r\n[Peru]\r\n00000002 Newer, B\r\n");
   Enter();
@@ -50,7 +50,7 @@ TEST_F(ProgramTest, WithTheLinkANewListIsLoadedAndFoundAgain) {
   EXPECT_TRUE(boxes.shown.empty());
 }
 
-TEST_F(ProgramTest, TheBarMovesWithTheBytesOfAListAndOfAnInformationPage) {
+TEST_F(ProgramTest, ProgressIsShownForListsAndInformationPages) {
   OfferList("2", ";QUORL2\r\n[Peru]\r\n00000002 " + std::string(30'000'000, 'N') + ", B\r\n");
   Enter();
   ExpectBarMovedToItsEnd();
@@ -64,7 +64,7 @@ TEST_F(ProgramTest, TheBarMovesWithTheBytesOfAListAndOfAnInformationPage) {
   EXPECT_EQ(forms.Get<frmInfo>().Label1.caption.size(), 30'000'000U);
 }
 
-TEST_F(ProgramTest, AnUpdaterThatIsNoneIsNeitherKeptNorStarted) {
+TEST_F(ProgramTest, AnInvalidUpdaterIsNeitherSavedNorStarted) {
   using Reply = LoopbackServer::Reply;
   world.site.Put("53rv3r/news.txt", {.text = "2,Update now?=1.0.1"});
   Enter();

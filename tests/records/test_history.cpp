@@ -32,7 +32,7 @@ class HistoryTest : public testing::Test, public ProgramFixture {
   History history_{surroundings_, program.TheMessages(), viewer_};
 };
 
-TEST_F(HistoryTest, WhatCannotBeWrittenIsToldKeptAndTriedAgain) {
+TEST_F(HistoryTest, FailedWritesAreReportedKeptAndRetried) {
   EXPECT_EQ(HeadingLine(Write("A").time), "-- 03-05-2003 @ 12:34");
   std::filesystem::rename(path_, path_ + ".kept");
   std::filesystem::create_directory(path_);  // in the file's place

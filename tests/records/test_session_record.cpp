@@ -9,7 +9,7 @@ namespace {
 
 const std::string kIndent(13, ' ');
 
-TEST(SessionRecord, MarksWhatWasAskedForInTheRow) {
+TEST(SessionRecord, MarksTheOptionsOfEachRow) {
   ListView list = SampleList();
   SetDonation(list, 5, "5,5.00,Pool,John Doe,1,1");
   SetDonation(list, 2, "2,5.00,Pool,John Doe,0,0");
@@ -27,7 +27,7 @@ TEST(SessionRecord, MarksWhatWasAskedForInTheRow) {
   EXPECT_EQ(OrganizationLines(list), lines);
 }
 
-TEST(SessionRecord, TellsMoneyInItsThreeForms) {
+TEST(SessionRecord, FormatsBudgetAndFees) {
   const struct {
     const char *budget, *charged, *amount, *payment;
   } cases[] = {{"100", "105", "108.35", "108.35 - BVX Fee: $ 5. - CC Fee: $3.35"},

@@ -6,15 +6,15 @@
 namespace benevix {
 namespace {
 
-TEST(Translation, AnAnswerIsJudgedByWhatIsBehindItsFirstBracket) {
+TEST(Translation, ShowsWhatFollowsTheFirstBracketOrTheProblem) {
   for (const auto& [answer, shown] : Cases(
            {" => Request timed out", "<html>Une page => Une page", "Nur Text => Nur Text",
             "Eine Seite > hier =>  hier", "<error 404>Seite => Seite",
-            // An error comes before what is left of a page.
+            // An error takes precedence over other HTML.
             "<p>An ERROR <b> => Language not supported", "plain 404 text => Language not supported",
             "<p>Eine <b>Seite</b> => The service could not be contacted",
             "nothing> => The service could not be contacted"})) {
-    EXPECT_EQ(JudgeTranslation(answer), shown);
+    EXPECT_EQ(TranslatedPage(answer), shown);
   }
 }
 

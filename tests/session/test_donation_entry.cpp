@@ -3,7 +3,7 @@
 #include <random>
 
 #include "base/format.h"
-#include "session_of_a_test.h"
+#include "session_fixture.h"
 
 namespace benevix {
 namespace {
@@ -12,8 +12,8 @@ std::string Cents(std::int64_t cents) {
   return Currency::FromUnits(cents * 100).ToText();
 }
 
-TEST(DonationEntry, WhatIsNoEntryOrOverflowsChangesNothing) {
-  SessionOfATest session;
+TEST(DonationEntry, InvalidEntriesAndOverflowsChangeNothing) {
+  SessionFixture session;
   session.TypeBudget("200");
   for (const char* text : {"", ".", "99999999999", "1e999"}) session.Give(2, text);
   session.Give(1, "5");  // a country
@@ -25,14 +25,14 @@ TEST(DonationEntry, WhatIsNoEntryOrOverflowsChangesNothing) {
   session.Give(2, "150");
   session.contact.Text1[contact_field::kCountry].text.clear();
   session.Give(2, "5");
-  EXPECT_EQ(session.asked, 2);  // for the payment and for the country
+  EXPECT_EQ(session.asked, 2);  // for the payment method and for the country
   EXPECT_TRUE(session.main.ListView1.cells.empty() && session.main.Option3[0].enabled);
   EXPECT_EQ(session.values.Balance.ToText(), "200");
 }
 
-// The row's amount is the donation less one fee when the Balance would go below zero.
+// A donation that would overdraw the Balance is reduced by one fee.
 TEST(DonationEntry, TheBalanceStopsAtZero) {
-  SessionOfATest session(payment::kCreditCard, false);
+  SessionFixture session(payment::kCreditCard, false);
   session.TypeBudget("50");
   session.Give(2, "50");
   session.Give(2, "51");
@@ -41,18 +41,18 @@ TEST(DonationEntry, TheBalanceStopsAtZero) {
   EXPECT_TRUE(session.boxes.shown.empty());
 }
 
-std::string Maximum(const SessionOfATest& session) {
+std::string Maximum(const SessionFixture& session) {
   const std::string& question = session.boxes.shown.back().text;
   return question.substr(question.find('$') + 1, question.find(".  ") - question.find('$') - 1);
 }
 
 TEST(DonationEntry, NamesTheMaximumToTheCent) {
-  SessionOfATest added(payment::kCreditCard, false);
+  SessionFixture added(payment::kCreditCard, false);
   added.TypeBudget("100");
   for (const char* text : {"50", "200"}) added.Give(2, text);
   EXPECT_EQ(Maximum(added), "100");
 
-  SessionOfATest funds(payment::kFundsTransfer);
+  SessionFixture funds(payment::kFundsTransfer);
   funds.TypeBudget("100");
   Choose(funds.main.Option2, 1);
   funds.Give(2, "97");
@@ -60,8 +60,8 @@ TEST(DonationEntry, NamesTheMaximumToTheCent) {
   funds.Give(2, "99");
   EXPECT_EQ(Maximum(funds), "98");
 
-  // The charge of 5 comes back with a refusal, and is taken once.
-  SessionOfATest eCheck(payment::kECheck);
+  // The e-check fee of 5 is refunded with a refusal, and deducted once.
+  SessionFixture eCheck(payment::kECheck);
   eCheck.boxes.answer = BoxAnswer::Yes;
   eCheck.TypeBudget("20");
   eCheck.Give(2, "13.5");
@@ -69,35 +69,35 @@ TEST(DonationEntry, NamesTheMaximumToTheCent) {
   for (const char* text : {"13.5", "0", "10"}) eCheck.Give(2, text);
   EXPECT_EQ(eCheck.values.Balance.ToText(), "4");
 
-  // From abroad each computation raises the rate by a point, a refused one too. After 3.9, at 4.9:
+  // For a foreign donor each computation raises the rate by a point, a refused one too. At 4.9:
   // 45.37 + 2 + 2.62113 = 49.99113; 45.38 + 2 + 2.62162 = 50.00162.
-  SessionOfATest card;
+  SessionFixture card;
   card.contact.Text1[contact_field::kCountry].text = "United Kingdom";
   card.TypeBudget("50");
   card.Give(2, "48");
   EXPECT_EQ(Maximum(card), "45.37");
   card.boxes.answer = BoxAnswer::Yes;
-  for (int i = 0; i < 2; ++i) card.Give(2, "48");  // at 5.9: 48 + 2 + 3.25 lacks 3.25, so 4
+  for (int i = 0; i < 2; ++i) card.Give(2, "48");  // at 5.9: 48 + 2 + 3.25 is 3.25 too much, so 4
   EXPECT_EQ(card.rates.CardRate.ToText(), "5.9");
   EXPECT_EQ(card.values.Balance.ToText(), "0.75");
   card.Give(2, "0");
   EXPECT_EQ(card.values.Balance.ToText(), "54");
 }
 
-// Whatever is given, given again, withdrawn and refused: no cent appears or gets lost.
-TEST(DonationEntry, MoneyIsOnlyMoved) {
+// Random donations, changes, withdrawals and refusals.
+TEST(DonationEntry, NoMoneyAppearsOrGetsLost) {
   std::mt19937 random(9);
   std::size_t refused = 0;
   for (int round = 0; round < 300; ++round) {
-    const int option = round % 4 - 1;  // no method is one, too
+    const int option = round % 4 - 1;  // -1: no method
     const bool deducts = random() % 4 != 0;
-    SessionOfATest session(option, deducts);
+    SessionFixture session(option, deducts);
     if (random() % 2 == 0) session.contact.Text1[contact_field::kCountry].text = "Canada";
     session.boxes.answer = random() % 2 == 0 ? BoxAnswer::Yes : BoxAnswer::No;
     session.TypeBudget(std::to_string(20 + random() % 500));
     for (int entry = 0; entry < 20; ++entry) {
       const int row = 2 + static_cast<int>(random() % 5);
-      if (!deducts) session.Give(row, "0");  // given again it may stop at zero
+      if (!deducts) session.Give(row, "0");  // a changed donation might stop at zero
       Choose(session.main.Option2, random() % 2);
       const auto asked = session.boxes.shown.size();
       const SessionValues before = session.values;
@@ -119,15 +119,15 @@ TEST(DonationEntry, MoneyIsOnlyMoved) {
   EXPECT_GT(refused, 500U);
 }
 
-// A session in which 777.77 were just refused.
-std::unique_ptr<SessionOfATest> Refused(unsigned seed, BoxAnswer answer) {
+// A session in which a donation of 777.77 was just refused.
+std::unique_ptr<SessionFixture> Refused(unsigned seed, BoxAnswer answer) {
   std::mt19937 random(seed);
   const bool deducts = random() % 5 != 0;
-  auto session = std::make_unique<SessionOfATest>(static_cast<int>(random() % 3), deducts);
+  auto session = std::make_unique<SessionFixture>(static_cast<int>(random() % 3), deducts);
   session->rates.CardRate = Currency::FromUnits(static_cast<std::int64_t>(1 + random() % 200000));
   if (random() % 2 == 0) session->contact.Text1[contact_field::kCountry].text = "Canada";
   session->TypeBudget(std::to_string(12 + random() % 300));
-  // In add mode a row that is given again takes more than its maximum: the Balance stops at zero.
+  // Not in add mode: there a changed donation may exceed the maximum, as the Balance stops at zero.
   if (deducts && random() % 2 == 0) session->Give(2, "3.21");
   session->boxes.answer = answer;
   session->Give(2, "777.77");

@@ -8,7 +8,7 @@ namespace benevix {
 namespace {
 
 TEST(Fees, ReadsTheRatesFile) {
-  // The last ones hold numbers beyond their type: what was read so far stands.
+  // The last two have numbers beyond their type: the values read so far are kept.
   for (const auto& [file, expected] : Cases(
            {"4,5,3.1,0.4,6,A,B => 4 5 3.1 0.4 6 A B", "2.5,3.5,,x,1e1,A,B,C => 2 4 0 0 10 A B,C",
             "7 => 7 0 0 0 0  ", " => 2 3 2.9 0.3 5 six seven",
@@ -38,7 +38,7 @@ TEST(Fees, ComputesTheCardFee) {
   } cases[] = {{"50", "2", "2.9", "0.3", "1.808"},
                {"0.01", "0", "2.9", "0.3", "0.3003"},
                {"33.33", "3", "3.9", "0.25", "1.6669"},
-               {"100", "0", "0", "0.3", "3.2"},  // a rate of 0: both are the defaults
+               {"100", "0", "0", "0.3", "3.2"},  // a rate or fixed part of 0: both are the defaults
                {"100", "0", "5", "0", "3.2"}};
   SessionValues values;
   FeeRates rates;

@@ -28,7 +28,7 @@ class SmallSite : public testing::Test {
   Site site_{folder_ / "site", kAddress};
 };
 
-TEST_F(SmallSite, FilesKnowTheirAddressAndProgramsStayAsTheyAre) {
+TEST_F(SmallSite, PutsItsAddressIntoTextFilesOnly) {
   const SiteAnswer text = site_.Answer("/a%20b.txt?ignored#too");
   EXPECT_EQ(text.status, 200);
   EXPECT_EQ(text.contentType, "text/plain; charset=windows-1252");
@@ -66,7 +66,7 @@ TEST_F(SmallSite, MailNeedsASenderAndARecipient) {
   }
 }
 
-TEST_F(SmallSite, PaymentPageShowsValuesAndRunsNone) {
+TEST_F(SmallSite, PaymentPageEscapesItsValues) {
   const SiteAnswer page = site_.Answer(
       "/xclick/business=<script>alert(1)</script>&item_name=%22%27&amount=209.70"
       "&return=javascript:alert(1)&cancel_return=" +
@@ -81,12 +81,12 @@ TEST_F(SmallSite, PaymentPageShowsValuesAndRunsNone) {
   }
 }
 
-// What the demonstration serves shows every part of the program at work.
+// The site of the demonstration.
 struct ServedSite : testing::Test {
   Site site_{std::string(PROJECT_FOLDER) + "/site", kAddress};
 };
 
-TEST_F(ServedSite, ANewerListIsThereUnderItsVersion) {
+TEST_F(ServedSite, OffersANewerListUnderItsVersion) {
   const std::string version = site_.Answer("/53rv3r/dbcurrver.dat").body;
   const std::string list = site_.Answer("/downloads/db" + version).body;
   EXPECT_TRUE(list.starts_with(";QUORL" + version + "\r\n"));
@@ -109,9 +109,9 @@ TEST_F(ServedSite, EachRequestGetsTheNextKindOfNews) {
   EXPECT_EQ(kinds, "1,3,2,0,1,");
 }
 
-TEST_F(ServedSite, TranslationsPassTheProgramsJudgement) {
+TEST_F(ServedSite, TranslationsAreAcceptedByTheProgram) {
   const auto translated = [&](const std::string& languages, const std::string& page) {
-    return JudgeTranslation(
+    return TranslatedPage(
         site_.Answer("/parley?sequence=core&language=" + languages + "&url=" + page).body);
   };
   const std::string page = kAddress + "infoDB/101.dat";
@@ -129,7 +129,7 @@ TEST_F(ServedSite, TranslationsPassTheProgramsJudgement) {
   }
 }
 
-TEST_F(ServedSite, TheUpdaterRunsAndLeavesNothing) {
+TEST_F(ServedSite, TheUpdaterDeletesItself) {
   const TempFolder folder;
   const std::string file = folder / "updater.exe";
   LinuxFiles().Replace(file, site_.Answer("/downloads/updater.exe").body);

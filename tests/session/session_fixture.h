@@ -9,9 +9,9 @@
 
 namespace benevix {
 
-// A session as the user's keys reach it.
-struct SessionOfATest {
-  explicit SessionOfATest(int option = payment::kCreditCard, bool deducts = true) {
+// A session that takes what the user types.
+struct SessionFixture {
+  explicit SessionFixture(int option = payment::kCreditCard, bool deducts = true) {
     desk.Add(main);
     main.ListView1 = SampleList();
     main.mnuDeductFees.checked = deducts;
@@ -20,8 +20,8 @@ struct SessionOfATest {
     contact.Text1[contact_field::kCountry].text = "U.S.A.";
     if (option >= 0) payment.Option1[option].value = true;
   }
-  SessionOfATest(const SessionOfATest&) = delete;
-  SessionOfATest& operator=(const SessionOfATest&) = delete;
+  SessionFixture(const SessionFixture&) = delete;
+  SessionFixture& operator=(const SessionFixture&) = delete;
 
   void TypeBudget(const std::string& text) {
     main.Text1[0].text = text;
