@@ -45,6 +45,9 @@ struct ListView : Control {
 
   [[nodiscard]] std::string Text(int row) const { return SubItem(row, 0); }
 
+  // Of the selected row; empty without one.
+  [[nodiscard]] std::string SelectedText(int column) const { return SubItem(selected, column); }
+
   void SetSubItem(int row, int column, std::string text) {
     cells[row][static_cast<std::size_t>(column)] = std::move(text);
     ++changes;

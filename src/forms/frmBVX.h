@@ -49,11 +49,10 @@ struct frmBVX : Window {
     Combo1.enabled = false;
     Check1.enabled = false;
     Command1.enabled = false;
-    for (MenuItem* item : {&mnuDistribFavs, &mnuFavsRemove, &mnuCancelRemove, &mnuPrntSession,
-                           &mnuMoreInfo, &mnuContactThem, &mnuGotheirWeb, &MMTellMe, &MMContactThem,
-                           &MMGoWeb, &mnuFavAddTop, &mnuFavAdd}) {
+    for (MenuItem* item : {&mnuDistribFavs, &mnuFavsRemove, &mnuCancelRemove, &mnuPrntSession}) {
       item->enabled = false;
     }
+    EnableOrganizationCommands(false);
     mnuAddFees.checked = true;
     mnuDirectCurr.checked = true;
     TMMenu.visible = false;
@@ -63,6 +62,14 @@ struct frmBVX : Window {
     Shape2.meaning = kNoAmounts;
     Shape5.meaning = kNoNews;
     SetShortcuts();
+  }
+
+  // The commands for the selected organization.
+  void EnableOrganizationCommands(bool enable) {
+    for (MenuItem* item : {&mnuMoreInfo, &mnuContactThem, &mnuGotheirWeb, &MMTellMe, &MMContactThem,
+                           &MMGoWeb, &mnuFavAddTop, &mnuFavAdd}) {
+      item->enabled = enable;
+    }
   }
 
   // A command with a menu item has its shortcut there.

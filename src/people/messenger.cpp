@@ -33,7 +33,7 @@ void Messenger::Form_Load() {
   const ListView& list = others_.main.ListView1;
   window_.caption = info_.deployment.product + " Mail ";
   window_.Label1[kSender].caption = others_.contact.Text1[contact_field::kEMail].text;
-  window_.Label1[kOrganization].caption = list.SubItem(list.selected, column::kOrganization);
+  window_.Label1[kOrganization].caption = list.SelectedText(column::kOrganization);
 }
 
 void Messenger::Command1_Click(int index) {

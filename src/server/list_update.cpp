@@ -5,13 +5,6 @@
 #include "database/organization_list.h"
 
 namespace benevix {
-namespace {
-
-bool IsUsable(const std::string& answer) {
-  return !answer.empty() && answer.find('<') == std::string::npos;
-}
-
-}  // namespace
 
 std::string ListUpdate::Download(const std::string& path, HttpOptions options) {
   WaitNotice notice(wait_);

@@ -12,12 +12,8 @@ bool IsWebAddress(const std::string& address) {
 
 }  // namespace
 
-std::string OrganizationInformation::Selected(int column) const {
-  return main_.ListView1.SubItem(main_.ListView1.selected, column);
-}
-
 void OrganizationInformation::MoreInfo() {
-  const std::string id = Selected(column::kId);
+  const std::string id = main_.ListView1.SelectedText(column::kId);
   if (!server_.CheckServerStatus()) {
     messages_.ShowMessage(message::kServerBusy, message_kind::kFailedToConnect);
     main_.mousePointer = MousePointer::Default;
@@ -25,7 +21,7 @@ void OrganizationInformation::MoreInfo() {
   }
   viewer_.AwaitText();
   const std::string page = InformationPage(id);
-  viewer_.ShowText(page, "About " + Selected(column::kOrganization));
+  viewer_.ShowText(page, "About " + main_.ListView1.SelectedText(column::kOrganization));
 }
 
 std::string OrganizationInformation::InformationPage(const std::string& id) {
@@ -50,7 +46,7 @@ void OrganizationInformation::Contact() {
   std::string web;
   const auto result = [&] {
     const WaitNotice notice(wait_);
-    return contacts_.LookupContacts(Selected(column::kId), contact, web);
+    return contacts_.LookupContacts(main_.ListView1.SelectedText(column::kId), contact, web);
   }();
   if (result == OrganizationContacts::Result::NotFound) {
     messages_.ShowMessage(message::kServiceUnavailable, message_kind::kFailedToConnect);
@@ -63,7 +59,8 @@ void OrganizationInformation::Contact() {
 void OrganizationInformation::WebSite() {
   std::string contact;
   std::string web;
-  const auto result = contacts_.LookupContacts(Selected(column::kId), contact, web);
+  const auto result =
+      contacts_.LookupContacts(main_.ListView1.SelectedText(column::kId), contact, web);
   if (result == OrganizationContacts::Result::NoList) return;
   if (result == OrganizationContacts::Result::Found && IsWebAddress(web))
     return viewer_.ShowPage(web);

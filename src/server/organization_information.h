@@ -33,7 +33,6 @@ class OrganizationInformation {
   void WebSite();
 
  private:
-  [[nodiscard]] std::string Selected(int column) const;
   [[nodiscard]] std::string InformationPage(const std::string& id);
 
   frmBVX& main_;

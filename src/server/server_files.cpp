@@ -6,6 +6,10 @@
 
 namespace benevix {
 
+bool IsUsable(const std::string& answer) {
+  return !answer.empty() && answer.find('<') == std::string::npos;
+}
+
 std::string ServerFiles::FetchServerText(const std::string& path, HttpOptions options) {
   return OpenURL(surroundings_.http, main_.Inet1, Base() + path, std::move(options));
 }
@@ -13,7 +17,7 @@ std::string ServerFiles::FetchServerText(const std::string& path, HttpOptions op
 std::string ServerFiles::FetchUsable(const std::string& path) {
   try {
     std::string answer = FetchServerText(path);
-    return answer.find('<') == std::string::npos ? answer : std::string();
+    return IsUsable(answer) ? answer : std::string();
   } catch (const RuntimeError&) {
     return {};
   }

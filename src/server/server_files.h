@@ -45,4 +45,7 @@ class ServerFiles {
   RunValues& run_;
 };
 
+// Whether an answer counts: it is not empty and no error page.
+bool IsUsable(const std::string& answer);
+
 }  // namespace benevix

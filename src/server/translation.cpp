@@ -43,7 +43,7 @@ std::string Translation::RequestAddress() const {
       builtIn ? deployment.translationBase + "?sequence=core&language=" : boxes[kService].text;
   return prefix + boxes[kFromLanguage].text + "/" + boxes[kMyLanguage].text +
          (builtIn ? "&url=" : boxes[kAddressKey].text) + deployment.serverBase + "infoDB/" +
-         list.SubItem(list.selected, column::kId) + ".dat";
+         list.SelectedText(column::kId) + ".dat";
 }
 
 std::string Translation::Fetch() const {

@@ -46,7 +46,7 @@ void YearToDate::ShowYtd() {
 
 YearToDate::Lookup YearToDate::FindRecord(std::string_view text, std::string& amounts) const {
   constexpr std::size_t shortest = 13;  // less than this is not searched
-  const std::string id = main_.ListView1.SubItem(main_.ListView1.selected, column::kId);
+  const std::string id = main_.ListView1.SelectedText(column::kId);
   while (text.size() >= shortest) {
     const std::string_view record = CutField(text, '\n');
     const auto comma = record.find(',');

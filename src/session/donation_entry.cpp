@@ -138,9 +138,7 @@ void DonationEntry::method71(Currency amount) {
 
 DonationEntry::Row DonationEntry::SelectedRow() const {
   const ListView& list = main_.ListView1;
-  const auto money = [&](int column) {
-    return Currency::FromText(list.SubItem(list.selected, column));
-  };
+  const auto money = [&](int column) { return Currency::FromText(list.SelectedText(column)); };
   Row row;
   row.number = list.selected;
   row.amount = money(column::kAmount);
@@ -224,11 +222,8 @@ void DonationEntry::MoveMoney(const Row& row) {
     if (donates) balance -= values_.BvxFee;
     if (donates && DeductsCardFee()) balance -= values_.CardFee;
   }
-  if (donates && DeductsFees()) {
-    list.SetSubItem(row.number, column::kFee, values_.BvxFee.ToText());
-    if (DeductsCardFee()) {
-      list.SetSubItem(row.number, column::kCardFee, values_.CardFee.ToText());
-    }
+  if (donates && DeductsCardFee()) {
+    list.SetSubItem(row.number, column::kCardFee, values_.CardFee.ToText());
   }
   if (!donates) {
     list.cells.erase(row.number);

@@ -6,7 +6,7 @@ namespace benevix {
 
 bool EditCommands::SelectedRowHasDonation() const {
   const ListView& list = main_.ListView1;
-  return list.selected != 0 && !list.SubItem(list.selected, column::kRecord).empty();
+  return list.selected != 0 && !list.SelectedText(column::kRecord).empty();
 }
 
 void EditCommands::mnuCls_Click() {
@@ -17,7 +17,7 @@ void EditCommands::mnuCls_Click() {
 void EditCommands::mnuCorrect_Click() {
   if (!SelectedRowHasDonation()) return;
   const ListView& list = main_.ListView1;
-  donation_.Give(Currency::FromText(list.SubItem(list.selected, column::kAmount)));
+  donation_.Give(Currency::FromText(list.SelectedText(column::kAmount)));
 }
 
 }  // namespace benevix

@@ -96,12 +96,12 @@ void Favorites::BuildMenu() {
 
 void Favorites::Add() {
   const ListView& list = main_.ListView1;
-  const std::string id = list.SubItem(list.selected, column::kId);
+  const std::string id = list.SelectedText(column::kId);
   if (list.selected == 0 || !list.Text(list.selected).empty() || id.empty()) return;
   const bool isFavorite = std::any_of(favorites_.begin(), favorites_.end(),
                                       [&](const Favorite& favorite) { return favorite.id == id; });
   if (isFavorite) return;
-  const std::string name = list.SubItem(list.selected, column::kOrganization);
+  const std::string name = list.SelectedText(column::kOrganization);
   favorites_.push_back({id, name, list.selected});
   // The value before the count: after a crash between the two the old favorites are intact.
   Save(std::to_string(favorites_.size()), id + "," + name);

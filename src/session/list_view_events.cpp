@@ -7,7 +7,7 @@ namespace benevix {
 void ListViewEvents::ListView1_ItemClick(const EventArgs& args) {
   const ListView& list = main_.ListView1;
   const bool organization = list.Text(list.selected).empty();
-  EnableOrganizationCommands(organization);
+  main_.EnableOrganizationCommands(organization);
   if (args.button == MouseButton::Left) {
     LeftClick(organization, args.byKeyboard);
   } else {
@@ -20,14 +20,6 @@ void ListViewEvents::ListView1_KeyUp(const EventArgs& args) {
   if (args.key != keys::kEnter || main_.ListView1.selected == 0) return;
   const bool hasBudget = !main_.Text1[money_box::kBudget].text.empty();
   desk_.SetFocus(main_.Text1[hasBudget ? money_box::kDonation : money_box::kBudget]);
-}
-
-void ListViewEvents::EnableOrganizationCommands(bool enabled) {
-  for (MenuItem* item :
-       {&main_.mnuMoreInfo, &main_.mnuContactThem, &main_.mnuGotheirWeb, &main_.MMTellMe,
-        &main_.MMContactThem, &main_.MMGoWeb, &main_.mnuFavAddTop, &main_.mnuFavAdd}) {
-    item->enabled = enabled;
-  }
 }
 
 void ListViewEvents::LeftClick(bool organization, bool byKeyboard) {

@@ -30,7 +30,6 @@ class ListViewEvents {
   void lclist_Click(int index);
 
  private:
-  void EnableOrganizationCommands(bool enabled);
   void LeftClick(bool organization, bool byKeyboard);
 
   frmBVX& main_;

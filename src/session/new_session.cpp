@@ -29,12 +29,10 @@ void ResetSessionControls(frmBVX& main) {
   main.Command1.tag.clear();
   main.Label8.caption = "0";
   main.Label8.visible = true;
-  for (MenuItem* item :
-       {&main.mnuDistribFavs, &main.mnuCancelRemove, &main.mnuPrntSession, &main.mnuMoreInfo,
-        &main.mnuContactThem, &main.mnuGotheirWeb, &main.MMTellMe, &main.MMContactThem,
-        &main.MMGoWeb, &main.mnuFavAddTop, &main.mnuFavAdd}) {
+  for (MenuItem* item : {&main.mnuDistribFavs, &main.mnuCancelRemove, &main.mnuPrntSession}) {
     item->enabled = false;
   }
+  main.EnableOrganizationCommands(false);
   main.mnuChgPayMethod.enabled = true;
 }
 
