@@ -82,7 +82,7 @@ DonationTimes TimeDonationEntries(const std::string& folder, int given) {
   NoWaits waits;
   NoBoxes boxes;
   Machine machine(folder + "/benevix", waits, boxes);
-  Program program(machine.TheSurroundings());
+  Program program(machine.TheEnvironment());
   program.Main();
   Donor donor(program);
   donor.Enter();

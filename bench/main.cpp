@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <exception>
 #include <filesystem>
-#include <functional>
 #include <iostream>
 #include <string>
 

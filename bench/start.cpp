@@ -24,7 +24,7 @@ int Run(const std::string& folder) {
   Mirror mirror(scheme, Mirror::Timers::Run);
   QtMessageBoxes boxes(mirror);
   Machine machine(folder + "/benevix", mirror, boxes);
-  Program program(machine.TheSurroundings());
+  Program program(machine.TheEnvironment());
   mirror.Attach(program.TheDesk(), program.TheInput());
   ReportWhenShown();
   program.Main();

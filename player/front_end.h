@@ -28,7 +28,7 @@ class FrontEnd {
 
   // A run of the program begins: it is built, Main comes next.
   virtual void Start(Program& program) = 0;
-  // The run is over; the program goes.
+  // The run has ended; the program is destroyed next.
   virtual void Stop() = 0;
 
   virtual bool Click(const Target& target) = 0;

@@ -43,9 +43,9 @@ class CountedWaits : public Waits {
   int count = 0;
 };
 
-class AnsweredBoxes : public MessageBoxes {
+class QueuedAnswers : public MessageBoxes {
  public:
-  AnsweredBoxes(BoxAnswers& answers, Waits& waits) : answers_(answers), waits_(waits) {}
+  QueuedAnswers(BoxAnswers& answers, Waits& waits) : answers_(answers), waits_(waits) {}
   BoxAnswer Show(const std::string& title, const std::string& text, BoxIcon icon,
                  BoxButtons buttons) override {
     const WaitScope wait(waits_);
@@ -214,7 +214,7 @@ class LogicFrontEnd : public FrontEnd {
 
   Program* program_ = nullptr;
   CountedWaits waits_;
-  AnsweredBoxes boxes_;
+  QueuedAnswers boxes_;
   std::map<const TextBox*, Seen> seen_;
 };
 

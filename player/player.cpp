@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::chrono::seconds kLongest(60);
 
-// The result of a script, printed line by line as it comes. May be told from another thread.
+// The result of a script, printed line by line as it comes. May be called from another thread.
 class Report {
  public:
   explicit Report(std::string file) : file_(std::move(file)) {}

@@ -35,8 +35,8 @@ void ProgramRunner::Launch() {
   finished_ = false;
   navigated_.reset();
   program_ = std::make_unique<Program>(
-      Surroundings{world_.info, world_.settings, http_, frontEnd_.Boxes(), frontEnd_.TheWaits(),
-                   world_.clock, world_.random, world_.shell, world_.files, world_.printer});
+      Environment{world_.info, world_.settings, http_, frontEnd_.Boxes(), frontEnd_.TheWaits(),
+                  world_.clock, world_.random, world_.shell, world_.files, world_.printer});
   frontEnd_.Start(*program_);
   program_->Main();
 }

@@ -25,7 +25,7 @@ class ProgramRunner {
   // Raises CannotBeDone while the program runs.
   void Start();
   // Ends the program as closing the main window would and starts it again. One that has ended, or
-  // stands at its splash, is only started.
+  // still shows its splash, is only started.
   void Restart();
 
   [[nodiscard]] bool IsRunning() const { return program_ && !program_->TheDesk().Ended(); }

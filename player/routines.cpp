@@ -44,7 +44,7 @@ std::uint8_t Whole8(const std::string& text) {
   return static_cast<std::uint8_t>(value);
 }
 
-// A plain decimal text of at most four decimals, exactly: a double has no room for the largest.
+// A plain decimal text of at most four decimals, exactly: a double cannot hold the largest.
 Currency Money(const std::string& text) {
   const auto point = std::min(text.find('.'), text.size());
   std::string units = text.substr(0, point) + text.substr(std::min(point + 1, text.size()));
@@ -142,7 +142,7 @@ const std::map<std::string, Routine>& Routines() {
        {0,
         [](ProgramRunner& runner, const Texts&) {
           return std::to_string(
-              GetPlatformCode(runner.TheProgram().TheSurroundings().info.platformId));
+              GetPlatformCode(runner.TheProgram().TheEnvironment().info.platformId));
         }}},
       {"GetSpecialFolder",
        {1,

@@ -19,7 +19,7 @@
 namespace benevix {
 namespace {
 
-// A key goes to the window, which hands it to whoever has the focus.
+// A key goes to the window, which passes it to the widget that has the focus.
 void SendKey(QWidget& widget, int key, const QString& text,
              Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
   QWindow* const window = widget.window()->windowHandle();
@@ -63,9 +63,9 @@ QPoint ClickPoint(const QWidget& widget) {
 }
 
 // The box on the screen is answered by its own button.
-class AnsweredBoxes : public MessageBoxes {
+class ClickedBoxes : public MessageBoxes {
  public:
-  AnsweredBoxes(Waits& waits, BoxAnswers& answers) : real_(waits), answers_(answers) {}
+  ClickedBoxes(Waits& waits, BoxAnswers& answers) : real_(waits), answers_(answers) {}
 
   BoxAnswer Show(const std::string& title, const std::string& text, BoxIcon icon,
                  BoxButtons buttons) override {
@@ -270,7 +270,7 @@ class WindowsFrontEnd : public FrontEnd {
 
   const Scheme scheme_ = DesktopScheme();
   Mirror mirror_;
-  AnsweredBoxes boxes_;
+  ClickedBoxes boxes_;
   std::string shots_;
   Program* program_ = nullptr;
 };

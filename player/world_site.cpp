@@ -8,8 +8,8 @@
 namespace benevix {
 namespace {
 
-// Below the ports that systems give to outgoing connections: nobody takes the port while the site
-// is down, and no connection of ours can meet itself there.
+// Below the ports that systems give to outgoing connections: no other program gets the port while
+// the site is down, and no connection of ours can meet itself there.
 constexpr int kFirstPort = 10000;
 constexpr int kLastPort = 32000;
 constexpr int kTries = 1000;

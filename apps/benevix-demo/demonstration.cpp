@@ -45,7 +45,7 @@ Demonstration::Demonstration(const RunFolder& folder, DemonstrationSite& site)
       site_(site),
       frontEnd_(MakeWindowsFrontEnd(answers_, folder.Pictures().toStdString())),
       machine_(folder.Program().toStdString(), frontEnd_->TheWaits(), frontEnd_->Boxes()),
-      program_(machine_.TheSurroundings()) {}
+      program_(machine_.TheEnvironment()) {}
 
 void Demonstration::Play() {
   TellMore("There is no display: the demonstration session is played on windows off the screen.");

@@ -38,7 +38,7 @@ Machine::Machine(const std::string& executable, Waits& waits, MessageBoxes& boxe
       registry_(SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile()),
       http_(waits) {}
 
-Surroundings Machine::TheSurroundings() {
+Environment Machine::TheEnvironment() {
   return {info_, registry_, http_, boxes_, waits_, clock_, random_, shell_, files_, printer_};
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/environment.h"
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_shell.h"
 #include "platform/linux/random_generator.h"
@@ -9,12 +10,11 @@
 #include "platform/qt/qt_http_client.h"
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/settings_file.h"
-#include "platform/surroundings.h"
 
 namespace benevix {
 
-// What surrounds the program on this machine: the real files, settings, network and printer. Needs
-// a QApplication.
+// The environment of the program on this machine: the real files, settings, network and printer.
+// Needs a QApplication.
 class Machine {
  public:
   // The executable's path, UTF-8, decides its name, the installed folder, from which
@@ -22,7 +22,7 @@ class Machine {
   // RuntimeError when that cannot be done.
   Machine(const std::string& executable, Waits& waits, MessageBoxes& boxes);
 
-  [[nodiscard]] Surroundings TheSurroundings();
+  [[nodiscard]] Environment TheEnvironment();
 
  private:
   Waits& waits_;

@@ -18,10 +18,10 @@ namespace {
 using namespace benevix;
 
 int RunOn(Machine& machine, Mirror& mirror) {
-  const Surroundings surroundings = machine.TheSurroundings();
-  SettingsStore settings(surroundings.registry);
+  const Environment environment = machine.TheEnvironment();
+  SettingsStore settings(environment.registry);
   const WindowLayout layout(settings);
-  Program program(surroundings);
+  Program program(environment);
   mirror.Attach(program.TheDesk(), program.TheInput(), &layout);
   mirror.onEnded = [] { QCoreApplication::exit(); };
   program.Main();

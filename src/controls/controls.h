@@ -128,7 +128,7 @@ struct MenuItem : Control {
 
   std::string caption;
   bool checked = false;
-  bool separated = false;  // a separator stands before it
+  bool separated = false;  // a separator comes before it
   int popUps = 0;          // how often it was to open at the mouse
 };
 

@@ -17,7 +17,7 @@ class Input {
 
   // Called after every action: works out what the structs show of the program's other values.
   std::function<void()> derive = [] {};
-  // Called after that; the mirror brings the windows into line.
+  // Called after that; the mirror updates the windows.
   std::function<void()> afterEvent = [] {};
   // Called with an error that no handler caught.
   std::function<void(const RuntimeError&)> onError = [](const RuntimeError&) {};
@@ -67,8 +67,8 @@ class Input {
   // The user closes the window by its frame.
   bool Close(Window& window);
 
-  // Runs a part of the program as an action: catches its end and its errors, and afterwards brings
-  // the windows into line.
+  // Runs a part of the program as an action: catches its end and its errors, and afterwards updates
+  // the windows.
   void Enter(const std::function<void()>& what);
 
  private:

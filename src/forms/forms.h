@@ -19,7 +19,7 @@
 namespace benevix {
 
 // All windows of the program. The desk, the mirror and the tests iterate over this list; the build
-// file takes the drawings from the includes above.
+// file reads the names of their drawings from the tuple.
 class Forms {
  public:
   template <class Form>

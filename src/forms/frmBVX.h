@@ -57,7 +57,7 @@ struct frmBVX : Window {
     mnuDirectCurr.checked = true;
     TMMenu.visible = false;
     mnuWhatis.visible = false;
-    lclist.items[0];
+    lclist.items[0];  // element 0 of both is always there, without a caption until it is filled
     qhelp1.items[0];
     Shape2.meaning = kNoAmounts;
     Shape5.meaning = kNoNews;
@@ -110,8 +110,8 @@ struct frmBVX : Window {
   Label Label9{"Estimated Bal", "Estimated Balance"};
   Label Label8;  // the estimated balance, hidden once a Budget is entered
   Label Label6{"Type a Dollar amount in the Budget box and press <Enter>"};  // the hint line
-  Label Label12{"System Message", "Click to receive"};                       // the news
-  Label Label10{"Fees"};  // heading of the fee options
+  Label Label12{"System Message", "Click to receive"};  // the news, kept in its tag
+  Label Label10{"Fees"};                                // heading of the fee options
   Label Label11[2] = {Label("Update List"), Label("&Help")};
   Label Label4{"Benevix helps you give."};  // the scrolling credit line, later the payment method
   Label iLbl{"YTD Status", {}, "Frame9"};   // opens and closes the year-to-date window
@@ -139,10 +139,11 @@ struct frmBVX : Window {
   Frame Frame9{"YTD Status"};
 
   ListView ListView1;
-  Button Command1{"&Continue", "Send the donation(s)"};  // index 1, the only element of its array
+  // Tag "1" while Continue waits for the payment method.
+  Button Command1{"&Continue", "Send the donation(s)"};  // the array's only element, 1
 
   HttpControl Inet1, Inet2;  // for the server and for the translation service
-  Timer Timer1{20, false};   // scrolls the credit line in
+  Timer Timer1{20, false};   // scrolls the credit line in; its tag counts the ticks after that
   Timer Timer2{500, false};  // makes the news indicator blink
   Shape Shape2;              // the year-to-date indicator
   Shape Shape5;              // the news indicator

@@ -26,8 +26,8 @@ struct frmInfo : Window {
   Label Label1;         // its text
   ScrollBar VScroll1;
   Label Label2{"Retrieving Information. Please wait..."};
-  Label Label3{"TRANSLATE"};
-  PageViewer wb1;  // the page
+  Label Label3{"TRANSLATE"};  // tag "Yes" once it was clicked
+  PageViewer wb1;             // the page
 };
 
 template <class F>

@@ -24,7 +24,7 @@ struct frmMail : Window {
   Button Command1[3] = {Button("&Send", "Deliver the message"),
                         Button("&Close", "Close this screen"),
                         Button("&Print", "Print a copy of this message")};
-  PictureBox Image1;
+  PictureBox Image1;  // decoration
 };
 
 template <class F>

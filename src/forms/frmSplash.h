@@ -14,7 +14,7 @@ struct frmSplash : Window {
     Image2[1].shortcut = kEscapeShortcut;
   }
 
-  PictureBox Image1;
+  PictureBox Image1;  // the logo
   PictureBox Image2[2] = {PictureBox("Enter"), PictureBox("Exit")};
   Shape Shape2;  // the frame, highlighted while the mouse is over a button
 };

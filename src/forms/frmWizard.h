@@ -13,9 +13,9 @@ struct frmWizard : Window {
     Command2.shortcut = "F1";
   }
 
-  PictureBox Image1;
-  Label Label1;  // the page text
-  OptionButton Option1[2];
+  PictureBox Image1;        // decoration
+  Label Label1;             // the page text
+  OptionButton Option1[2];  // the answers of a page
   Button Command1{"&Continue"};
   Button Command2{"&Help"};
 };

@@ -39,19 +39,11 @@ void InformationViewer::ShowText(const std::string& text, const std::string& tit
 
 void InformationViewer::Form_Load() {
   UpdateScrollRange();
-  window_.topmost = true;
 }
 
 void InformationViewer::VScroll1_Scroll() {
   UpdateScrollRange();  // the window may have been resized
   window_.Label1.top = -window_.VScroll1.value;
-}
-
-void InformationViewer::Form_Unload() {
-  window_.wb1.visible = false;
-  // Makes the main window repaint.
-  main_.Line2.visible = false;
-  main_.Line2.visible = true;
 }
 
 }  // namespace benevix

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "controls/desk.h"
-#include "forms/frmBVX.h"
 #include "forms/frmInfo.h"
 #include "platform/waits.h"
 
@@ -12,8 +11,8 @@ namespace benevix {
 // The information viewer: shows a page, or an organization's text.
 class InformationViewer {
  public:
-  InformationViewer(frmInfo& window, frmBVX& main, Desk& desk, Waits& waits)
-      : window_(window), main_(main), desk_(desk), waits_(waits) {}
+  InformationViewer(frmInfo& window, Desk& desk, Waits& waits)
+      : window_(window), desk_(desk), waits_(waits) {}
 
   // Opens the viewer at a page, in place of what it showed. `address` is a web address or a file
   // path, which may end in "#" and an anchor.
@@ -27,14 +26,12 @@ class InformationViewer {
 
   void Form_Load();
   void VScroll1_Scroll();
-  void Form_Unload();
 
  private:
   // The scroll bar covers the whole text.
   void UpdateScrollRange() { window_.VScroll1.max = window_.Label1.height; }
 
   frmInfo& window_;
-  frmBVX& main_;
   Desk& desk_;
   Waits& waits_;
 };

@@ -46,7 +46,7 @@ void ContactInformation::Form_Load() {
 void ContactInformation::LoadCountryList() {
   try {
     window_.Combo1.list =
-        ReadCountryList(surroundings_.files, surroundings_.info.Resource("wlist.res"), codec_);
+        ReadCountryList(environment_.files, environment_.info.Resource("wlist.res"), codec_);
   } catch (const RuntimeError&) {
     messages_.Show("Unrecoverable Error. You must reinstall the program. Quiting",
                    BoxIcon::Critical);

@@ -9,7 +9,7 @@
 #include "core/settings_store.h"
 #include "forms/frmDonRankg.h"
 #include "forms/frmPersInfo.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 
 namespace benevix {
 
@@ -27,7 +27,7 @@ class ContactInformation {
   };
 
   ContactInformation(frmPersInfo& window, frmDonRankg& ranking, Desk& desk, SettingsStore& settings,
-                     const TextCodec& codec, Messages& messages, Surroundings& surroundings,
+                     const TextCodec& codec, Messages& messages, Environment& environment,
                      Callbacks callbacks)
       : window_(window),
         ranking_(ranking),
@@ -35,7 +35,7 @@ class ContactInformation {
         settings_(settings),
         codec_(codec),
         messages_(messages),
-        surroundings_(surroundings),
+        environment_(environment),
         callbacks_(std::move(callbacks)) {}
 
   void Open(ContactCaller caller);
@@ -64,7 +64,7 @@ class ContactInformation {
   SettingsStore& settings_;
   const TextCodec& codec_;
   Messages& messages_;
-  Surroundings& surroundings_;
+  Environment& environment_;
   Callbacks callbacks_;
   ContactCaller caller_ = ContactCaller::None;
 };

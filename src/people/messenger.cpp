@@ -37,7 +37,6 @@ void Messenger::Form_Load() {
 }
 
 void Messenger::Command1_Click(int index) {
-  window_.topmost = false;
   switch (index) {
     case kSend:
       return Send();

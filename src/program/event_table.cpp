@@ -157,7 +157,6 @@ void Program::ConnectPayment() {
 void Program::ConnectViewer() {
   frmInfo& info = forms_.Get<frmInfo>();
   events_.On(info, Event::Load, Plain([this] { viewer_.Form_Load(); }));
-  events_.On(info, Event::Unload, Plain([this] { viewer_.Form_Unload(); }));
   events_.On(info.VScroll1, Event::Scroll, Plain([this] { viewer_.VScroll1_Scroll(); }));
   events_.On(info.Label3, Event::Click, Plain([this] { translation_.Label3_Click(); }));
 

@@ -18,18 +18,18 @@ bool IsFirstRun(SettingsStore& settings) {
 
 }  // namespace
 
-void UpdateOwnSettings(SettingsStore& settings, Surroundings& surroundings) {
-  if (IsFirstRun(settings)) InitSettings(settings, surroundings);
+void UpdateOwnSettings(SettingsStore& settings, Environment& environment) {
+  if (IsFirstRun(settings)) InitSettings(settings, environment);
   const auto keepCurrent = [&](const std::string& name, const std::string& value) {
     if (settings.GetUserString(name) != value) settings.SaveUserString(name, value);
   };
-  keepCurrent("ExeName", surroundings.info.exeName);
-  keepCurrent("Version", surroundings.info.Version());
-  if (settings.GetUserString("updater") == "1") CleanUpdater(settings, surroundings);
+  keepCurrent("ExeName", environment.info.exeName);
+  keepCurrent("Version", environment.info.Version());
+  if (settings.GetUserString("updater") == "1") CleanUpdater(settings, environment);
 }
 
-void InitSettings(SettingsStore& settings, Surroundings& surroundings) {
-  const ProgramInfo& info = surroundings.info;
+void InitSettings(SettingsStore& settings, Environment& environment) {
+  const ProgramInfo& info = environment.info;
   settings.SaveString(Root::LocalMachine, kSettingsPath, "Proxy", "");
   settings.SaveString(Root::LocalMachine, kSettingsPath, "TimeOut", "5");
   settings.SaveUserString("BVXDB", "1.0000");
@@ -37,12 +37,12 @@ void InitSettings(SettingsStore& settings, Surroundings& surroundings) {
   settings.SaveUserString("Version", info.Version());
   settings.SaveUserString("StartIn", FromUtf8(info.folder));
   settings.SaveUserString("ExeName", info.exeName);
-  CreateDesktopShortcut(surroundings.shell, info);
+  CreateDesktopShortcut(environment.shell, info);
 }
 
-void CleanUpdater(SettingsStore& settings, Surroundings& surroundings) {
+void CleanUpdater(SettingsStore& settings, Environment& environment) {
   try {
-    surroundings.files.Remove(surroundings.info.folder + "/updater.exe");
+    environment.files.Remove(environment.info.folder + "/updater.exe");
   } catch (const RuntimeError&) {
     // The setting is cleared all the same.
   }

@@ -17,7 +17,7 @@
 #include "people/messenger.h"
 #include "people/other_names.h"
 #include "people/tell_a_friend.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "records/finalization.h"
 #include "records/history.h"
 #include "records/last_session.h"
@@ -47,7 +47,7 @@ namespace benevix {
 // One run of the program: builds every module once and hands each exactly what it uses.
 class Program {
  public:
-  explicit Program(Surroundings surroundings);
+  explicit Program(Environment environment);
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
   ~Program() = default;
@@ -70,7 +70,7 @@ class Program {
   [[nodiscard]] const TextCodec& Codec() const { return codec_; }
   [[nodiscard]] Messages& TheMessages() { return messages_; }
   [[nodiscard]] OrganizationContacts& Contacts() { return contacts_; }
-  [[nodiscard]] const Surroundings& TheSurroundings() const { return surroundings_; }
+  [[nodiscard]] const Environment& TheEnvironment() const { return environment_; }
 
  private:
   // Start-up and end of the program (start_up.cpp).
@@ -94,7 +94,7 @@ class Program {
   void ConnectContact();
   void ConnectSmallWindows();
 
-  Surroundings surroundings_;
+  Environment environment_;
   EventTable events_;
   Forms forms_;
   frmBVX& main_ = forms_.Get<frmBVX>();

@@ -13,15 +13,15 @@ namespace benevix {
 
 void Program::Main() {
   input_.Enter([this] {
-    UpdateOwnSettings(settings_, surroundings_);
+    UpdateOwnSettings(settings_, environment_);
     desk_.Show(forms_.Get<frmSplash>());
   });
 }
 
 void Program::frmSplash_Load() {
   frmSplash& splash = forms_.Get<frmSplash>();
-  splash.top = static_cast<int>(std::lround(surroundings_.info.screenHeight / 3.5));
-  splash.left = static_cast<int>(std::lround(surroundings_.info.screenWidth / 3.5));
+  splash.top = static_cast<int>(std::lround(environment_.info.screenHeight / 3.5));
+  splash.left = static_cast<int>(std::lround(environment_.info.screenWidth / 3.5));
 }
 
 void Program::Image2_Click(int index) {
@@ -61,9 +61,9 @@ void Program::LoadMainWindow() {
   desk_.Load(contact);
   SetOwnName(main_, contact.Text1[contact_field::kFullName].text);
   otherNames_.LoadOtherNames(main_.Combo1);
-  run_.PlatformCode = GetPlatformCode(surroundings_.info.platformId);
+  run_.PlatformCode = GetPlatformCode(environment_.info.platformId);
   main_.Label4.left = frmBVX::kWidth;  // the credit line comes in from the right
-  BuildQuickHelpMenu(surroundings_.files, surroundings_.info.Resource("qhelp.html"), main_.qhelp1);
+  BuildQuickHelpMenu(environment_.files, environment_.info.Resource("qhelp.html"), main_.qhelp1);
   wizard_.ReadShowAtStart();
   favorites_.LoadFavoritesMenu();
   database_.BuildCountriesMenu();

@@ -31,7 +31,7 @@ void Finalization::Finalize() {
         return Fail(message::kServiceUnavailable);  // the busy pointer stays on purpose
       case Result::EmptyField:
         RestorePointer();
-        desk_.End();
+        desk_.End();  // at once and without a word: such a session must not be paid
       case Result::Sent:
         RestorePointer();
         return Commit(outcome);

@@ -5,13 +5,14 @@
 namespace benevix {
 
 SessionRecord History::WriteHistory(SessionRecord record, const ListView& list) {
-  record.time = surroundings_.clock.Now();
+  record.time = environment_.clock.Now();
   const std::string end = "\r\n";
-  // Intended: the clock is read again, as the heading shows when the record is written.
-  pending_ += HeadingLine(surroundings_.clock.Now()) + end;
-  pending_ += TransactionLine(record) + end;
-  for (const std::string& line : OrganizationLines(list)) pending_ += line + end;
-  pending_ += PaymentLine(record) + end + end;
+  // Intended: two readings of the clock. The printout shows the first, the history this one.
+  std::string text = HeadingLine(environment_.clock.Now()) + end;
+  text += TransactionLine(record) + end;
+  for (const std::string& line : OrganizationLines(list)) text += line + end;
+  text += PaymentLine(record) + end + end;
+  pending_ += text;  // only a whole record
   WritePending();
   return record;
 }
@@ -19,7 +20,7 @@ SessionRecord History::WriteHistory(SessionRecord record, const ListView& list) 
 void History::WritePending() {
   if (pending_.empty()) return;
   try {
-    surroundings_.files.Append(File(), pending_);
+    environment_.files.Append(File(), pending_);
     pending_.clear();
   } catch (const RuntimeError& error) {
     messages_.Show(
@@ -31,7 +32,7 @@ void History::WritePending() {
 }
 
 void History::ShowHistory() {
-  if (!surroundings_.files.Exists(File())) return;
+  if (!environment_.files.Exists(File())) return;
   viewer_.ShowPage(File(), "Donation History");
 }
 

@@ -4,7 +4,7 @@
 
 #include "core/messages.h"
 #include "help/information_viewer.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "records/session_record.h"
 
 namespace benevix {
@@ -12,8 +12,8 @@ namespace benevix {
 // The donation history: a text file that is only appended to.
 class History {
  public:
-  History(Surroundings& surroundings, Messages& messages, InformationViewer& viewer)
-      : surroundings_(surroundings), messages_(messages), viewer_(viewer) {}
+  History(Environment& environment, Messages& messages, InformationViewer& viewer)
+      : environment_(environment), messages_(messages), viewer_(viewer) {}
 
   // Appends the session's record in one write and returns it with its time. A failed write is
   // reported to the user, and the record is written with the next one.
@@ -26,9 +26,9 @@ class History {
   void ShowHistory();
 
  private:
-  [[nodiscard]] std::string File() const { return surroundings_.info.Resource("history.dat"); }
+  [[nodiscard]] std::string File() const { return environment_.info.Resource("history.dat"); }
 
-  Surroundings& surroundings_;
+  Environment& environment_;
   Messages& messages_;
   InformationViewer& viewer_;
   std::string pending_;

@@ -13,7 +13,7 @@
 namespace benevix {
 
 void LastSession::Remember(const std::string& records) {
-  settings_.SaveUserString("LastSession", DateText(surroundings_.clock.Now()) + records);
+  settings_.SaveUserString("LastSession", DateText(environment_.clock.Now()) + records);
 }
 
 void LastSession::mnuRecallSession_Click() {
@@ -21,8 +21,8 @@ void LastSession::mnuRecallSession_Click() {
   if (stored.empty()) return;
   const std::string value = stored + ",";
   std::string_view rest = value;
-  main_.caption = surroundings_.info.deployment.product +
-                  " - Last Session: " + std::string(CutField(rest, ','));
+  main_.caption =
+      environment_.info.deployment.product + " - Last Session: " + std::string(CutField(rest, ','));
   std::vector<OptionsRecord> records;
   while (rest.size() >= 2) records.push_back(OptionsRecord::CutFrom(rest));
   try {
@@ -74,7 +74,7 @@ std::map<std::string, std::string> LastSession::NamesInFile(
   std::map<std::string, std::string> names;
   std::set<std::string_view> wanted(ids.begin(), ids.end());
   if (wanted.empty()) return names;
-  LineReader lines(surroundings_.files.Open(surroundings_.info.Resource("sharedb.dat")));
+  LineReader lines(environment_.files.Open(environment_.info.Resource("sharedb.dat")));
   while (!wanted.empty()) {
     const auto line = lines.Next();
     if (!line) break;

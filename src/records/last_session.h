@@ -9,7 +9,7 @@
 #include "core/settings_store.h"
 #include "database/organization_database.h"
 #include "forms/frmBVX.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "session/options_record.h"
 #include "session/session_values.h"
 
@@ -20,13 +20,13 @@ namespace benevix {
 class LastSession {
  public:
   LastSession(frmBVX& main, SessionValues& values, Desk& desk, SettingsStore& settings,
-              const OrganizationDatabase& database, Surroundings& surroundings)
+              const OrganizationDatabase& database, Environment& environment)
       : main_(main),
         values_(values),
         desk_(desk),
         settings_(settings),
         database_(database),
-        surroundings_(surroundings) {}
+        environment_(environment) {}
 
   // Stores today's date and `records`, which is "," and the options record of each organization.
   void Remember(const std::string& records);
@@ -47,7 +47,7 @@ class LastSession {
   Desk& desk_;
   SettingsStore& settings_;
   const OrganizationDatabase& database_;
-  Surroundings& surroundings_;
+  Environment& environment_;
 };
 
 }  // namespace benevix

@@ -44,25 +44,25 @@ void Printing::PrintDocument(const std::function<void()>& body) {
   } catch (const RuntimeError&) {
     // What was printed so far is sent, so that the next document does not continue it.
   }
-  surroundings_.printer.EndDoc();
+  environment_.printer.EndDoc();
 }
 
 void Printing::PrintLine(const std::string& line, int column) {
-  surroundings_.printer.PrintLine(column, line);
+  environment_.printer.PrintLine(column, line);
 }
 
 void Printing::PrintWaitNotice() {
   desk_.Load(wait_);
-  wait_.caption = surroundings_.info.deployment.product + " - Printing...";
+  wait_.caption = environment_.info.deployment.product + " - Printing...";
   wait_.Label2.caption = "Sending data to the default Printer. Please wait...";
   wait_.Timer1.enabled = true;
   desk_.Show(wait_);
-  surroundings_.waits.DoEvents();
+  environment_.waits.DoEvents();
 }
 
 void Printing::PrintPageHeading() {
   constexpr int column = 40;
-  const Deployment& deployment = surroundings_.info.deployment;
+  const Deployment& deployment = environment_.info.deployment;
   PrintLine(" -- " + deployment.product + "  " + deployment.copyright + " -- ", column);
   PrintLine("");
   PrintLine("");
@@ -70,18 +70,18 @@ void Printing::PrintPageHeading() {
 
 void Printing::PrintTitle(const std::string& title) {
   constexpr int column = 50;
-  PrintLine(surroundings_.info.deployment.product + title, column);
+  PrintLine(environment_.info.deployment.product + title, column);
   PrintLine("");
   PrintLine("");
 }
 
 void Printing::PrintDocumentEnd() {
-  const DateTime now = surroundings_.clock.Now();
+  const DateTime now = environment_.clock.Now();
   char seconds[8];
   std::snprintf(seconds, sizeof seconds, ":%02d", static_cast<int>(now.second));
   PrintLine("");
   PrintLine(" ------------------------- End Doc ------ " + DateText(now) + " @ " + TimeText(now) +
-            seconds + " ------------- " + surroundings_.info.deployment.serverBase +
+            seconds + " ------------- " + environment_.info.deployment.serverBase +
             " ------------- ");
 }
 
@@ -98,8 +98,7 @@ void Printing::PrintSession(const SessionRecord& record) {
 void Printing::PrintHistory() {
   constexpr int column = 7;
   PrintTitle(" - Sessions History");
-  const std::string history =
-      surroundings_.files.ReadAll(surroundings_.info.Resource("history.dat"));
+  const std::string history = environment_.files.ReadAll(environment_.info.Resource("history.dat"));
   for (const std::string_view line : Lines(history)) PrintLine(std::string(line), column);
 }
 

@@ -6,7 +6,7 @@
 #include "controls/desk.h"
 #include "forms/frmBVX.h"
 #include "forms/frmWait.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "records/finalization.h"
 
 namespace benevix {
@@ -15,9 +15,9 @@ namespace benevix {
 // missing history or a printer error ends the printout.
 class Printing {
  public:
-  Printing(Surroundings& surroundings, frmWait& wait, Desk& desk, const frmBVX& main,
+  Printing(Environment& environment, frmWait& wait, Desk& desk, const frmBVX& main,
            const Finalization& finalization)
-      : surroundings_(surroundings),
+      : environment_(environment),
         wait_(wait),
         desk_(desk),
         main_(main),
@@ -41,7 +41,7 @@ class Printing {
   void PrintTitle(const std::string& title);
   void PrintLine(const std::string& line, int column = 1);
 
-  Surroundings& surroundings_;
+  Environment& environment_;
   frmWait& wait_;
   Desk& desk_;
   const frmBVX& main_;

@@ -11,7 +11,7 @@ SessionNotice::Outcome SessionNotice::Send() {
   // First, so that details that cannot be encoded stop everything before the server is asked.
   const std::string contact = contact_.ForNotice();
   session.transactionId =
-      TransactionId(surroundings_.clock, surroundings_.random, charges_.ChosenMethod());
+      TransactionId(environment_.clock, environment_.random, charges_.ChosenMethod());
   if (!server_.CheckServerStatus()) return outcome;
   server_.LoadFeeRates();
   const std::string records = OrganizationRecords(main_.ListView1);
@@ -24,7 +24,7 @@ SessionNotice::Outcome SessionNotice::Send() {
 
   const std::string& id = session.transactionId;
   const MailOutcome mail =
-      SendMailNotice(server_, {.sender = surroundings_.info.deployment.mail,
+      SendMailNotice(server_, {.sender = environment_.info.deployment.mail,
                                .recipient = std::nullopt,
                                .subject = id,
                                .body = id + "/" + contact + records + ranking});

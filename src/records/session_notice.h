@@ -2,7 +2,7 @@
 
 #include "people/contact_information.h"
 #include "people/donors_ranking.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "records/last_session.h"
 #include "records/session_record.h"
 #include "server/server_files.h"
@@ -15,14 +15,14 @@ class SessionNotice {
  public:
   SessionNotice(const frmBVX& main, const Charges& charges, ServerFiles& server,
                 const ContactInformation& contact, DonorsRanking& ranking, LastSession& lastSession,
-                Surroundings& surroundings)
+                Environment& environment)
       : main_(main),
         charges_(charges),
         server_(server),
         contact_(contact),
         ranking_(ranking),
         lastSession_(lastSession),
-        surroundings_(surroundings) {}
+        environment_(environment) {}
 
   enum class Result {
     Sent,
@@ -48,7 +48,7 @@ class SessionNotice {
   const ContactInformation& contact_;
   DonorsRanking& ranking_;
   LastSession& lastSession_;
-  Surroundings& surroundings_;
+  Environment& environment_;
 };
 
 }  // namespace benevix

@@ -29,11 +29,11 @@ void ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
     }
     if (version <= run_.DBVersion || !download) return;
 
-    const std::string temporary = surroundings_.info.Resource("$shrdb.dat");
-    surroundings_.files.Replace(temporary, "");
+    const std::string temporary = environment_.info.Resource("$shrdb.dat");
+    environment_.files.Replace(temporary, "");
     const std::string list = Download("downloads/db" + reply);
     if (!IsUsable(list)) return noServer();
-    surroundings_.files.Replace(temporary, list);
+    environment_.files.Replace(temporary, list);
     if (silent) {
       ready = true;
     } else {
@@ -45,8 +45,8 @@ void ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
 }
 
 bool ListUpdate::InstallList() {
-  Files& files = surroundings_.files;
-  const ProgramInfo& info = surroundings_.info;
+  Files& files = environment_.files;
+  const ProgramInfo& info = environment_.info;
   const std::string temporary = info.Resource("$shrdb.dat");
   const bool isList = files.ReadAll(temporary).starts_with(kListHeader);
   if (isList) {
@@ -72,9 +72,9 @@ bool ListUpdate::DownloadUpdater() {
     messages_.ShowMessage(message::kServerBusy, message_kind::kFailedToConnect);
     return false;
   }
-  const std::string file = surroundings_.info.folder + "/updater.exe";
-  surroundings_.files.Replace(file, program);
-  surroundings_.shell.StartProgram(file);
+  const std::string file = environment_.info.folder + "/updater.exe";
+  environment_.files.Replace(file, program);
+  environment_.shell.StartProgram(file);
   return true;
 }
 

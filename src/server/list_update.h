@@ -5,7 +5,7 @@
 #include "core/messages.h"
 #include "core/run_values.h"
 #include "core/wait_notice.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "server/server_files.h"
 
 namespace benevix {
@@ -13,13 +13,13 @@ namespace benevix {
 // Replaces the organization list with a newer one from the server.
 class ListUpdate {
  public:
-  ListUpdate(Surroundings& surroundings, ServerFiles& server, Messages& messages,
+  ListUpdate(Environment& environment, ServerFiles& server, Messages& messages,
              const RunValues& run, WaitWindow wait)
-      : surroundings_(surroundings), server_(server), messages_(messages), run_(run), wait_(wait) {}
+      : environment_(environment), server_(server), messages_(messages), run_(run), wait_(wait) {}
 
-  // Compares the server's version with DBVersion; with `download`, which every caller sets,
-  // downloads a newer list into the temporary file. `ready` becomes true when it can be installed
-  // now, which only a silent check reports; otherwise the next start installs it.
+  // Compares the server's version with DBVersion; with `download`, a fixed parameter that every
+  // caller sets, downloads a newer list into the temporary file. `ready` becomes true when it can
+  // be installed now, which only a silent check reports; otherwise the next start installs it.
   void CheckListUpdate(bool silent, bool download, bool& ready);
 
   // Installs the temporary file and deletes it; false if it is no list file. Raises RuntimeError.
@@ -34,7 +34,7 @@ class ListUpdate {
   // Fetches a large file while the please-wait window shows the progress.
   [[nodiscard]] std::string Download(const std::string& path, HttpOptions options = {});
 
-  Surroundings& surroundings_;
+  Environment& environment_;
   ServerFiles& server_;
   Messages& messages_;
   const RunValues& run_;

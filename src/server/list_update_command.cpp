@@ -9,14 +9,8 @@ void ListUpdateCommand::Label11_MouseUp() {
                      BoxIcon::Question, BoxButtons::YesNo) != BoxAnswer::Yes) {
     return;
   }
-  bool ready = false;
+  bool ready = false;  // stays so: the next start installs what this check downloads
   update_.CheckListUpdate(false, true, ready);
-  if (!ready) return;  // as after every check that is not silent
-  if (update_.InstallList()) {
-    newSession_();
-  } else {
-    messages_.Show("Failed to retrieve data from server. Try again later");
-  }
 }
 
 }  // namespace benevix

@@ -25,7 +25,7 @@ class News {
         downloadUpdater_(std::move(downloadUpdater)) {}
 
   void LoadNews();
-  void Label12_Click();
+  void Label12_Click();  // a click on the news
 
  private:
   void Show(const std::string& news);

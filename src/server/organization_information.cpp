@@ -6,7 +6,7 @@
 namespace benevix {
 namespace {
 
-bool IsWebAddress(const std::string& address) {
+bool BeginsWithHttp(const std::string& address) {
   return address.compare(0, 4, "http") == 0;
 }
 
@@ -52,7 +52,7 @@ void OrganizationInformation::Contact() {
     messages_.ShowMessage(message::kServiceUnavailable, message_kind::kFailedToConnect);
   }
   if (result != OrganizationContacts::Result::Found) return;
-  if (IsWebAddress(contact)) return viewer_.ShowPage(contact);
+  if (BeginsWithHttp(contact)) return viewer_.ShowPage(contact);
   writeTo_(contact);
 }
 
@@ -62,7 +62,7 @@ void OrganizationInformation::WebSite() {
   const auto result =
       contacts_.LookupContacts(main_.ListView1.SelectedText(column::kId), contact, web);
   if (result == OrganizationContacts::Result::NoList) return;
-  if (result == OrganizationContacts::Result::Found && IsWebAddress(web))
+  if (result == OrganizationContacts::Result::Found && BeginsWithHttp(web))
     return viewer_.ShowPage(web);
   messages_.ShowMessage(message::kNoWebService, message_kind::kNone);
 }

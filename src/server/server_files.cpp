@@ -11,7 +11,7 @@ bool IsUsable(const std::string& answer) {
 }
 
 std::string ServerFiles::FetchServerText(const std::string& path, HttpOptions options) {
-  return OpenURL(surroundings_.http, main_.Inet1, Base() + path, std::move(options));
+  return OpenURL(environment_.http, main_.Inet1, Base() + path, std::move(options));
 }
 
 std::string ServerFiles::FetchUsable(const std::string& path) {

@@ -5,7 +5,7 @@
 
 #include "core/run_values.h"
 #include "forms/frmBVX.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "session/session_values.h"
 
 namespace benevix {
@@ -13,11 +13,11 @@ namespace benevix {
 // Fetches files from the server, and reads the small ones that several modules use.
 class ServerFiles {
  public:
-  ServerFiles(Surroundings& surroundings, frmBVX& main, FeeRates& rates, RunValues& run)
-      : surroundings_(surroundings), main_(main), rates_(rates), run_(run) {}
+  ServerFiles(Environment& environment, frmBVX& main, FeeRates& rates, RunValues& run)
+      : environment_(environment), main_(main), rates_(rates), run_(run) {}
 
   // The server base address, which ends in "/".
-  [[nodiscard]] const std::string& Base() const { return surroundings_.info.deployment.serverBase; }
+  [[nodiscard]] const std::string& Base() const { return environment_.info.deployment.serverBase; }
 
   // Fetches the base address followed by `path`. Raises RuntimeError when no answer comes.
   std::string FetchServerText(const std::string& path, HttpOptions options = {});
@@ -39,7 +39,7 @@ class ServerFiles {
   void LoadFeeRates();
 
  private:
-  Surroundings& surroundings_;
+  Environment& environment_;
   frmBVX& main_;
   FeeRates& rates_;
   RunValues& run_;

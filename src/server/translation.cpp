@@ -21,7 +21,7 @@ void Translation::Form_Load() {
   auto& boxes = windows_.preferences.Text1;
   const std::string service = settings_.GetUserString("LangService");
   boxes[kMyLanguage].Write(settings_.GetUserString("Language"));
-  boxes[kService].Write(service.empty() ? surroundings_.info.deployment.translationName : service);
+  boxes[kService].Write(service.empty() ? environment_.info.deployment.translationName : service);
   boxes[kAddressKey].Write(settings_.GetUserString("comdService"));
 }
 
@@ -34,7 +34,7 @@ void Translation::Close() {
 }
 
 std::string Translation::RequestAddress() const {
-  const Deployment& deployment = surroundings_.info.deployment;
+  const Deployment& deployment = environment_.info.deployment;
   const auto& boxes = windows_.preferences.Text1;
   const bool builtIn = LowerCase(boxes[kService].text) == LowerCase(deployment.translationName);
   const ListView& list = windows_.main.ListView1;
@@ -48,7 +48,7 @@ std::string Translation::RequestAddress() const {
 
 std::string Translation::Fetch() const {
   try {
-    return OpenURL(surroundings_.http, windows_.main.Inet2, RequestAddress());
+    return OpenURL(environment_.http, windows_.main.Inet2, RequestAddress());
   } catch (const RuntimeError&) {
     return {};
   }
@@ -60,8 +60,8 @@ void Translation::Translate() {
   windows_.preferences.mousePointer = MousePointer::Hourglass;
   const std::string page = TranslatedPage(Fetch());
   windows_.preferences.mousePointer = MousePointer::Default;
-  const std::string file = surroundings_.info.Resource("tmp.html");
-  surroundings_.files.Replace(file, page + "\r\n");
+  const std::string file = environment_.info.Resource("tmp.html");
+  environment_.files.Replace(file, page + "\r\n");
   viewer_.ShowPage(FromUtf8(file), std::string(info.caption));
   info.Label3.tag.clear();
   info.Label3.visible = false;

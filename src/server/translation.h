@@ -8,7 +8,7 @@
 #include "forms/frmInfo.h"
 #include "forms/frmPrefsTranslate.h"
 #include "help/information_viewer.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 
 namespace benevix {
 
@@ -22,12 +22,12 @@ class Translation {
   };
 
   Translation(Windows windows, InformationViewer& viewer, Desk& desk, SettingsStore& settings,
-              Surroundings& surroundings)
+              Environment& environment)
       : windows_(windows),
         viewer_(viewer),
         desk_(desk),
         settings_(settings),
-        surroundings_(surroundings) {}
+        environment_(environment) {}
 
   // TRANSLATE in the viewer: opens the preferences.
   void Label3_Click();
@@ -45,7 +45,7 @@ class Translation {
   InformationViewer& viewer_;
   Desk& desk_;
   SettingsStore& settings_;
-  Surroundings& surroundings_;
+  Environment& environment_;
 };
 
 // The page to show for a service's answer: the text after its first ">", or a sentence that says

@@ -11,7 +11,7 @@ void YearToDate::DownloadYtd() {
   try {
     const std::string table = server_.FetchServerText("53rv3r/ytdt.dat");
     if (table.empty() || table[0] == '<') return;
-    surroundings_.files.Replace(File(), table + "\r\n");
+    environment_.files.Replace(File(), table + "\r\n");
     run_.YtdState = 1;
   } catch (const RuntimeError&) {
     // The program also works without the table.
@@ -21,7 +21,7 @@ void YearToDate::DownloadYtd() {
 void YearToDate::ShowYtd() {
   std::string table;
   try {
-    table = surroundings_.files.ReadAll(File());
+    table = environment_.files.ReadAll(File());
   } catch (const RuntimeError&) {
     return;
   }
@@ -81,7 +81,7 @@ void YearToDate::iLbl_Click() {
 void YearToDate::RemoveYtd() {
   if (run_.YtdState == 0) return;
   try {
-    surroundings_.files.Remove(File());
+    environment_.files.Remove(File());
   } catch (const RuntimeError&) {
     // The next download replaces it.
   }

@@ -7,7 +7,7 @@
 #include "core/run_values.h"
 #include "forms/frmBVX.h"
 #include "forms/frmYtdTag.h"
-#include "platform/surroundings.h"
+#include "platform/environment.h"
 #include "server/server_files.h"
 
 namespace benevix {
@@ -16,9 +16,9 @@ namespace benevix {
 // runs. A record is "ID,today,month,year,total" and LF.
 class YearToDate {
  public:
-  YearToDate(Surroundings& surroundings, ServerFiles& server, RunValues& run, frmBVX& main,
+  YearToDate(Environment& environment, ServerFiles& server, RunValues& run, frmBVX& main,
              frmYtdTag& window, Desk& desk)
-      : surroundings_(surroundings),
+      : environment_(environment),
         server_(server),
         run_(run),
         main_(main),
@@ -44,9 +44,9 @@ class YearToDate {
   // Searches one line of the copy for the selected row; `amounts` receives what follows its ID.
   [[nodiscard]] Lookup FindRecord(std::string_view text, std::string& amounts) const;
   void ShowAmounts(std::string_view amounts);
-  [[nodiscard]] std::string File() const { return surroundings_.info.Resource("ytd.dat"); }
+  [[nodiscard]] std::string File() const { return environment_.info.Resource("ytd.dat"); }
 
-  Surroundings& surroundings_;
+  Environment& environment_;
   ServerFiles& server_;
   RunValues& run_;
   frmBVX& main_;

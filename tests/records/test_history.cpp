@@ -3,6 +3,7 @@
 #include "../platform/temp_files.h"
 #include "../program_fixture.h"
 #include "../sample_list.h"
+#include "base/runtime_error.h"
 #include "records/history.h"
 
 namespace benevix {
@@ -26,13 +27,15 @@ class HistoryTest : public testing::Test, public ProgramFixture {
   }
 
   std::string path_ = world.info.Resource("history.dat");
-  Surroundings surroundings_ = program.TheSurroundings();
-  InformationViewer viewer_{program.TheForms().Get<frmInfo>(), program.TheForms().Get<frmBVX>(),
-                            program.TheDesk(), waits};
-  History history_{surroundings_, program.TheMessages(), viewer_};
+  Environment environment_ = program.TheEnvironment();
+  InformationViewer viewer_{program.TheForms().Get<frmInfo>(), program.TheDesk(), waits};
+  History history_{environment_, program.TheMessages(), viewer_};
 };
 
 TEST_F(HistoryTest, FailedWritesAreReportedKeptAndRetried) {
+  // A record that cannot be told leaves nothing of itself behind.
+  EXPECT_THROW(history_.WriteHistory({"X", "1e300", Currency(), Currency(), {}}, ListView()),
+               RuntimeError);
   EXPECT_EQ(HeadingLine(Write("A").time), "-- 03-05-2003 @ 12:34");
   std::filesystem::rename(path_, path_ + ".kept");
   std::filesystem::create_directory(path_);  // in the file's place

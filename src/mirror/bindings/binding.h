@@ -18,7 +18,7 @@ struct BindingContext {
   QPoint popUpPlace = {};  // where the next pop-up menu opens; null: at the mouse
 };
 
-// Binds one control to its widget: hands the user's events on, and brings the widget into line with
+// Binds one control to its widget: hands the user's events on, and updates the widget from
 // the struct.
 class Binding {
  public:

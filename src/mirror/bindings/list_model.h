@@ -15,7 +15,7 @@ class ListModel : public QAbstractTableModel {
 
   ListModel(const ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
 
-  // Brings the view into line where texts or rows have changed since the last time.
+  // Updates the view where texts or rows have changed since the last time.
   void Refresh();
 
   int rowCount(const QModelIndex& parent = {}) const override;

@@ -61,13 +61,13 @@ void Mirror::Sync() {
   if (desk_->Ended()) {
     for (const auto& [window, binding] : bindings_) binding->Widget().hide();
   } else {
-    BringIntoLine();
+    UpdateWindows();
   }
   context_->applying = false;
   if (desk_->Ended()) onEnded();
 }
 
-void Mirror::BringIntoLine() {
+void Mirror::UpdateWindows() {
   for (const Desk::Entry& entry : desk_->Entries()) {
     WindowBinding* binding = BindingOf(*entry.window);
     if (binding != nullptr && !binding->IsOf(entry)) {

@@ -13,7 +13,7 @@
 namespace benevix {
 
 // The mirror: shows the structs of the windows as real widgets. Nothing is decided here: the user's
-// events go to the structs' handlers, and afterwards the widgets are brought into line with the
+// events go to the structs' handlers, and afterwards the widgets are updated from the
 // structs. While the program waits, the user's input is thrown away.
 class Mirror : public QObject, public Waits {
  public:
@@ -22,8 +22,8 @@ class Mirror : public QObject, public Waits {
   Mirror(Scheme scheme, Timers timers) : scheme_(scheme), timers_(timers) {}
   ~Mirror() override { Detach(); }
 
-  // Shows the windows of this desk, and of no other any more. With a layout the main window is
-  // arranged as the user left it.
+  // Shows the windows of this desk instead of those of an earlier one. With a layout the main
+  // window is arranged as the user left it.
   void Attach(Desk& desk, Input& input, const WindowLayout* layout = nullptr);
   void Detach();
 
@@ -41,7 +41,7 @@ class Mirror : public QObject, public Waits {
 
  private:
   void Sync();
-  void BringIntoLine();
+  void UpdateWindows();
   void ApplyFocus();
   [[nodiscard]] QWidget* TransientParent(const Window& window) const;
 

@@ -28,7 +28,7 @@ QMessageBox::Icon Icon(BoxIcon icon) {
 BoxAnswer QtMessageBoxes::Show(const std::string& title, const std::string& text, BoxIcon icon,
                                BoxButtons buttons) {
   const bool asks = buttons == BoxButtons::YesNo;
-  // This brings the windows into line: one that closes now must not close the box with it.
+  // This updates the windows: one that closes now must not close the box with it.
   const WaitScope wait(waits_);
   QWidget* const active = QApplication::activeWindow();
   QMessageBox box(Icon(icon), Drawn(title), Drawn(text),

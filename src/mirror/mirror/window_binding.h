@@ -14,7 +14,7 @@ namespace benevix {
 
 class WindowLayout;
 
-// One life of a window on the screen: its widget and the bindings of its controls.
+// A window on the screen, from its load to its unload: its widget and the bindings of its controls.
 class WindowBinding : public QObject {
  public:
   // With a layout a main window is arranged as the user left it.
@@ -22,7 +22,7 @@ class WindowBinding : public QObject {
                 const WindowLayout* layout);
   ~WindowBinding() override;
 
-  // Brings all widgets into line and shows or hides the window. `transientParent` is the window it
+  // Updates all widgets and shows or hides the window. `transientParent` is the window it
   // stays above; null for none.
   void Apply(QWidget* transientParent);
   // Gives the widget focus to the control that has the desk's.

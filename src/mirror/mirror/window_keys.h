@@ -9,7 +9,7 @@ class QKeyEvent;
 
 namespace benevix {
 
-// Tells the keys of a window's widgets to the logic: Tab when it is pressed, before the focus
+// Reports the keys of a window's widgets to the logic: Tab when it is pressed, before the focus
 // moves; any other key when it is released, if the same widget has seen its press and the program
 // has not waited since.
 class WindowKeys {

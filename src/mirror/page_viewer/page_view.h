@@ -19,7 +19,7 @@ struct PageViewEvents {
 class PageView {
  public:
   virtual ~PageView() = default;
-  [[nodiscard]] virtual QWidget* Widget() = 0;  // the view's own
+  [[nodiscard]] virtual QWidget* Widget() = 0;  // owned by the view
 };
 
 // The root object of the plug-in.

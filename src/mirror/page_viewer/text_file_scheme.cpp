@@ -13,7 +13,7 @@ void TextFileScheme::Register() {
   QWebEngineUrlScheme::registerScheme(scheme);
 }
 
-QUrl TextFileScheme::PageAddress(const QUrl& address) {
+QUrl TextFileScheme::EngineAddress(const QUrl& address) {
   const QString name = address.fileName().toLower();
   QUrl page = address;
   if (address.isLocalFile() && !name.endsWith(".html") && !name.endsWith(".htm")) {

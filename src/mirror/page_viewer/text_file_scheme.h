@@ -16,12 +16,12 @@ class TextFileScheme : public QWebEngineUrlSchemeHandler {
 
   // The address under which the engine loads a page: an address of this scheme for any local file
   // that is no HTML page, otherwise the address itself.
-  static QUrl PageAddress(const QUrl& address);
+  static QUrl EngineAddress(const QUrl& address);
   // The reverse: the file's own address.
   static QUrl FileAddress(const QUrl& address);
 
   // Only `file` can be loaded.
-  explicit TextFileScheme(const QUrl& file) : page_(PageAddress(file)) {}
+  explicit TextFileScheme(const QUrl& file) : page_(EngineAddress(file)) {}
 
   void requestStarted(QWebEngineUrlRequestJob* job) override;
 

@@ -46,7 +46,7 @@ WebEnginePageView::WebEnginePageView(const QUrl& address, QWidget* parent,
   // Queued, because the receiver destroys the view.
   connect(page, &QWebEnginePage::renderProcessTerminated, this, events.stopped,
           Qt::QueuedConnection);
-  page->setUrl(TextFileScheme::PageAddress(address));
+  page->setUrl(TextFileScheme::EngineAddress(address));
 }
 
 WebEnginePageView::~WebEnginePageView() {

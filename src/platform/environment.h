@@ -14,7 +14,7 @@
 namespace benevix {
 
 // The interfaces to everything outside the program.
-struct Surroundings {
+struct Environment {
   ProgramInfo info;
   Registry& registry;
   HttpClient& http;
