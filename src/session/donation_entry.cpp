@@ -179,8 +179,9 @@ void DonationEntry::OfferLargerBudget(const Row& row) {
   const Currency newBalance = values_.Balance + increase;
   values_.Budget += increase;  // if either sum overflows, neither changes
   values_.Balance = newBalance;
-  ShowAmounts(values_, main_);
-  // Red although money is left: the donation must be entered again.
+  main_.Text1[money_box::kBudget].Write(Format(values_.Budget, kMoneyPattern));
+  // Red although money is left, and .00 if not: the donation must be entered again.
+  main_.Text1[money_box::kBalance].Write(Format(values_.Balance, kMoneyPattern));
   main_.Text1[money_box::kBalance].foreColor = colors::kRed;
   main_.Text1[money_box::kDonation].Write("");
 }

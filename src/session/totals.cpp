@@ -14,17 +14,13 @@ void RecalcTotalDonated(SessionValues& values, const ListView& list) {
   values.TotalDonated = total;
 }
 
-void ShowAmounts(const SessionValues& values, frmBVX& main) {
+void method73(const SessionValues& values, frmBVX& main, Desk& desk) {
   const bool hasBalance = values.Balance > Currency();
   TextBox& balance = main.Text1[money_box::kBalance];
   main.Text1[money_box::kBudget].Write(Format(values.Budget, kMoneyPattern));
   balance.Write(hasBalance ? Format(values.Balance, kMoneyPattern) : "0.00");
   balance.foreColor = hasBalance ? colors::kBlack : colors::kRed;
-}
-
-void method73(const SessionValues& values, frmBVX& main, Desk& desk) {
-  ShowAmounts(values, main);
-  ShowHint(main, values.Balance > Currency() ? hint::kSelectAnother : hint::kContinue);
+  ShowHint(main, hasBalance ? hint::kSelectAnother : hint::kContinue);
   main.Command1.enabled = values.Balance <= values.BvxFee;
   desk.SetFocus(main.ListView1);
 }

@@ -9,9 +9,6 @@ namespace benevix {
 // Sets TotalDonated to the sum of the Amount column. Raises RuntimeError on overflow.
 void RecalcTotalDonated(SessionValues& values, const ListView& list);
 
-// Budget and Balance in their boxes, the Balance in red once it is used up.
-void ShowAmounts(const SessionValues& values, frmBVX& main);
-
 // Refreshes the totals (fixed name): shows Budget, Balance (red once used up) and the next hint,
 // enables Continue if the Balance does not exceed the last service fee, and focuses the list.
 void method73(const SessionValues& values, frmBVX& main, Desk& desk);
