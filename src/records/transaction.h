@@ -13,7 +13,8 @@ namespace benevix {
 float SecondsSinceMidnight(const DateTime& time);
 
 // Seconds since midnight, "-", a random whole number from 0 to 1000000, "-", year, month and day
-// without padding, and the letter of the payment option: C, A or E. Seeds `random` with the time.
+// without padding, and the letter of the payment option: C, A or E. Initializes `random` with the
+// time.
 std::string TransactionId(const Clock& clock, RandomNumbers& random, int option);
 
 // "," and the options record of each organization row that carries a donation, in list order.
