@@ -63,12 +63,12 @@ std::map<std::string, int> FindFirst(const OrganizationList* list, Keys wanted, 
 
 std::map<std::string, int> OrganizationDatabase::FindRowsById(
     const std::set<std::string>& ids) const {
-  std::unordered_map<std::int32_t, std::string> wanted;
+  std::unordered_map<std::optional<std::int32_t>, std::string> wanted;
   for (const std::string& id : ids) {
     std::int32_t number = 0;
     const auto read = std::from_chars(id.data(), id.data() + id.size(), number);
-    // Only the form in which the list shows an ID; 0 stands for headings.
-    if (read.ec == std::errc() && std::to_string(number) == id && number != 0) wanted[number] = id;
+    // Only the form in which the list shows an ID.
+    if (read.ec == std::errc() && std::to_string(number) == id) wanted[number] = id;
   }
   return FindFirst(list_.get(), wanted, [this](int row) { return list_->Id(row); });
 }

@@ -132,12 +132,14 @@ std::string_view OrganizationList::Line(int row) const {
 std::string OrganizationList::Text(int row, int column) const {
   if (row < 1 || row > Count()) return {};
   if (column != column::kId) return std::string(View(row, column));
-  return Line(row)[0] == '[' ? std::string() : std::to_string(Id(row));
+  const std::optional<std::int32_t> id = Id(row);
+  return id ? std::to_string(*id) : std::string();
 }
 
-std::int32_t OrganizationList::Id(int row) const {
+std::optional<std::int32_t> OrganizationList::Id(int row) const {
   const std::string_view line = Line(row);
-  return line[0] == '[' ? 0 : OrganizationId(line);
+  if (line[0] == '[') return std::nullopt;
+  return OrganizationId(line);
 }
 
 int OrganizationList::FindName(std::string_view word, int from) const {

@@ -40,8 +40,8 @@ class OrganizationList : public RowSource {
 
   // As Text, without a copy, for a row in range; empty for ID and the written columns.
   [[nodiscard]] std::string_view View(int row, int column) const;
-  // The ID of an organization, 0 for a heading; the row must be in range.
-  [[nodiscard]] std::int32_t Id(int row) const;
+  // The ID of an organization, nothing for a heading; the row must be in range.
+  [[nodiscard]] std::optional<std::int32_t> Id(int row) const;
 
   // The first organization row from `from` on, then from row 1, whose name begins with the word,
   // ignoring case; 0 without one.

@@ -102,7 +102,7 @@ void Program::ConnectSessionMenus() {
   events_.On(main_.mnuFavs, Event::Click,
              [this](EventArgs& args) { favorites_.mnuFavs_Click(args.index); });
 
-  on(main_.mnuChgPayMethod, [this] { paymentOptions_.Ask(); });
+  on(main_.mnuChgPayMethod, [this] { paymentOptions_.mnuChgPayMethod_Click(); });
   on(main_.mnuRound, [this] { main_.mnuRound.checked = !main_.mnuRound.checked; });
   on(main_.mnuDirectCurr, [this] { SetDonationMode(main_, DonationMode::Currency); });
   on(main_.mnuPercentBal, [this] { SetDonationMode(main_, DonationMode::Percentage); });

@@ -20,7 +20,7 @@ Program::Program(Environment environment)
                      {forms_.Get<frmPersInfo>(), forms_.Get<frmPayOpt>(),
                       [this] { contact_.Open(ContactCaller::DonationEntry); }}),
       mainWindow_(main_, budgetEntry_, donationEntry_),
-      listView_(main_, desk_, run_, [this] { yearToDate_.ShowYtd(); }),
+      listView_(main_, values_, desk_, run_, [this] { yearToDate_.ShowYtd(); }),
       listTyping_(main_, database_, environment_.clock, listView_),
       search_(forms_.Get<frmSrch>(), main_, database_,
               [this](int row) { listView_.Select(row, true); }),
@@ -61,10 +61,11 @@ Program::Program(Environment environment)
                     printing_.PrintMessage(from, to, subject, message);
                   }}),
       tellAFriend_(forms_.Get<frmTellAFriend>(), desk_, settings_, codec_, server_, messages_),
-      lastSession_(main_, values_, desk_, settings_, database_, environment_),
+      lastSession_(main_, values_, rates_, desk_, settings_, database_, messages_, environment_,
+                   [this] { NewSession(); }),
       notice_(main_, charges_, server_, contact_, ranking_, lastSession_, environment_),
       history_(environment_, messages_, viewer_),
-      finalization_(main_, desk_, paymentOptions_, notice_, viewer_, history_, messages_,
+      finalization_(main_, values_, desk_, paymentOptions_, notice_, viewer_, history_, messages_,
                     environment_.info.deployment),
       printing_(environment_, forms_.Get<frmWait>(), desk_, main_, finalization_) {
   forms_.ForEach([this](auto& form) { desk_.Add(form); });

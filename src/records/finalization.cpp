@@ -7,9 +7,29 @@
 namespace benevix {
 
 void Finalization::Command1_Click() {
+  if (!MayContinue()) return;
   main_.Command1.tag = "1";
   main_.mousePointer = MousePointer::Hourglass;
   Finalize();
+}
+
+bool Finalization::MayContinue() {
+  const auto ask = [&](const std::string& question) {
+    return messages_.Show(question, BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
+  };
+  if (OrganizationRecords(main_.ListView1).empty() &&
+      !ask("No donation has been entered. Continue anyway?")) {
+    return false;
+  }
+  // The session can be printed from the time it is sent until the next one begins.
+  const bool sent = main_.mnuPrntSession.enabled && Contents() == lastContents_;
+  return !sent || ask("This session was sent at " + TimeText(lastRecord_.time) + " as " +
+                      lastRecord_.transactionId + ". Send and pay it again?");
+}
+
+std::string Finalization::Contents() const {
+  return OrganizationRecords(main_.ListView1) + "\n" + values_.Budget.ToText() +
+         (main_.mnuRound.checked ? "\nrounded" : "");
 }
 
 void Finalization::Finalize() {
@@ -47,6 +67,7 @@ void Finalization::Commit(const SessionNotice::Outcome& sent) {
                                   sent.session.transactionId, sent.session.amountText),
                    " Secure Funds Transfer");
   lastRecord_ = history_.WriteHistory(sent.session, main_.ListView1);
+  lastContents_ = Contents();
   main_.mnuPrntSession.enabled = true;
   ShowHint(main_, hint::kFinalized);
   desk_.SetFocus(main_.ListView1);  // another Enter must not pay again

@@ -1,5 +1,7 @@
 #include "records/last_session.h"
 
+#include <algorithm>
+#include <limits>
 #include <set>
 #include <string_view>
 
@@ -7,6 +9,7 @@
 #include "base/runtime_error.h"
 #include "platform/line_reader.h"
 #include "records/session_record.h"
+#include "session/fees.h"
 #include "session/modes.h"
 #include "session/totals.h"
 
@@ -19,6 +22,12 @@ void LastSession::Remember(const std::string& records) {
 void LastSession::mnuRecallSession_Click() {
   const std::string stored = settings_.GetUserString("LastSession");
   if (stored.empty()) return;
+  if (values_.TotalDonated != Currency()) {
+    const BoxAnswer answer = messages_.Show("Replace the session that is going on?",
+                                            BoxIcon::Question, BoxButtons::YesNo);
+    if (answer != BoxAnswer::Yes) return;
+    newSession_();
+  }
   const std::string value = stored + ",";
   std::string_view rest = value;
   main_.caption =
@@ -54,6 +63,9 @@ Currency LastSession::RefillRows(const std::vector<OptionsRecord>& records) {
 
   Currency total;
   ListView& list = main_.ListView1;
+  const std::string pool = DeliveryText(main_, true);
+  constexpr int none = std::numeric_limits<int>::max();
+  int first = none;
   for (OptionsRecord record : records) {
     const auto numbered = byId.find(record.organization);
     record.organization = nameOf(record.organization);
@@ -61,11 +73,14 @@ Currency LastSession::RefillRows(const std::vector<OptionsRecord>& records) {
     if (named == byName.end() && numbered == byId.end()) continue;
     const int row = named != byName.end() ? named->second : numbered->second;
     total += Currency::FromText(record.amount);  // first: an overflow leaves the row empty
+    first = std::min(first, row);
     list.SetSubItem(row, column::kAmount, record.amount);
     list.SetSubItem(row, column::kPool, record.delivery);
     list.SetSubItem(row, column::kFrom, record.from);
+    list.SetSubItem(row, column::kFee, ServiceFeeOf(rates_, record.delivery == pool).ToText());
     list.SetSubItem(row, column::kRecord, record.ToText());
   }
+  if (first != none) list.EnsureVisible(first);
   return total;
 }
 

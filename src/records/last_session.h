@@ -1,11 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "controls/desk.h"
+#include "core/messages.h"
 #include "core/settings_store.h"
 #include "database/organization_database.h"
 #include "forms/frmBVX.h"
@@ -19,19 +21,25 @@ namespace benevix {
 // the options record of each organization.
 class LastSession {
  public:
-  LastSession(frmBVX& main, SessionValues& values, Desk& desk, SettingsStore& settings,
-              const OrganizationDatabase& database, Environment& environment)
+  // `newSession` puts the session that is going on away.
+  LastSession(frmBVX& main, SessionValues& values, const FeeRates& rates, Desk& desk,
+              SettingsStore& settings, const OrganizationDatabase& database, Messages& messages,
+              Environment& environment, std::function<void()> newSession)
       : main_(main),
         values_(values),
+        rates_(rates),
         desk_(desk),
         settings_(settings),
         database_(database),
-        environment_(environment) {}
+        messages_(messages),
+        environment_(environment),
+        newSession_(std::move(newSession)) {}
 
   // Stores today's date and `records`, which is "," and the options record of each organization.
   void Remember(const std::string& records);
 
-  // Puts its donations back into the list.
+  // Puts its donations back into the list, each with the service fee of its delivery, and scrolls
+  // to the first. Asks before it replaces a session in which something has been given.
   void mnuRecallSession_Click();
 
  private:
@@ -44,10 +52,13 @@ class LastSession {
 
   frmBVX& main_;
   SessionValues& values_;
+  const FeeRates& rates_;
   Desk& desk_;
   SettingsStore& settings_;
   const OrganizationDatabase& database_;
+  Messages& messages_;
   Environment& environment_;
+  std::function<void()> newSession_;
 };
 
 }  // namespace benevix

@@ -6,8 +6,10 @@
 #include "base/format.h"
 #include "base/number_text.h"
 #include "base/runtime_error.h"
+#include "base/text.h"
 #include "database/organization_list.h"
 #include "session/fees.h"
+#include "session/hints.h"
 #include "session/modes.h"
 #include "session/options_record.h"
 #include "session/totals.h"
@@ -16,6 +18,7 @@ namespace benevix {
 namespace {
 
 constexpr std::int64_t kCent = Currency::kScale / 100;
+constexpr Currency kProofFrom = Currency::FromWhole(1000);
 
 Currency RoundUpToDollars(Currency amount) {
   const std::int64_t rest = amount.Units() % Currency::kScale;
@@ -34,12 +37,8 @@ std::optional<Currency> ParseAmount(const std::string& text) {
   }
 }
 
-// "Pool" of "Donors Pool", or the whole caption "Stand-alone".
-std::string DeliveryText(const frmBVX& main) {
-  if (!main.Option2[delivery_option::kPool].value)
-    return main.Option2[delivery_option::kStandAlone].caption;
-  const std::string& caption = main.Option2[delivery_option::kPool].caption;
-  return caption.substr(caption.find(' ') + 1);
+Currency Percent(Currency balance, Currency percentage) {
+  return Currency::FromDouble(Product(balance, percentage).ToDouble() / 100);
 }
 
 std::string FromText(const frmBVX& main) {
@@ -58,8 +57,7 @@ void DonationEntry::Text1_Change() {
   } catch (const RuntimeError&) {
     return;  // beyond 32 bits
   }
-  main_.Check1.enabled =
-      values_.Donation >= Currency::FromWhole(1000) && values_.Balance >= values_.Donation;
+  main_.Check1.enabled = values_.Donation >= kProofFrom && values_.Balance >= values_.Donation;
 }
 
 void DonationEntry::Enter() {
@@ -69,9 +67,30 @@ void DonationEntry::Enter() {
   Give(*amount, main_.mnuPercentBal.checked ? Unit::Percent : Unit::Dollars);
 }
 
+void DonationEntry::GiveUntyped(Currency amount, bool proof) {
+  if (!RequireDonor()) return;
+  main_.Check1.enabled = amount >= kProofFrom;
+  main_.Check1.value = proof ? 1 : 0;  // a disabled box is cleared when the donation starts
+  Give(amount);
+}
+
+bool DonationEntry::RequireDonor() {
+  return RequireDonorCountry() && RequireDonorName();
+}
+
 bool DonationEntry::RequireDonorCountry() {
   const bool known = !others_.contact.Text1[contact_field::kCountry].text.empty();
   if (!known) others_.askForContact();
+  return known;
+}
+
+bool DonationEntry::RequireDonorName() {
+  const bool known =
+      main_.Option1[donor_option::kAnonymous].value || !Trim(main_.Combo1.text).empty();
+  if (!known) {
+    desk_.SetFocus(main_.Combo1);
+    ShowHint(main_, hint::kOtherName);
+  }
   return known;
 }
 
@@ -80,17 +99,18 @@ bool DonationEntry::IsForeignDonor() const {
 }
 
 Currency DonationEntry::ServiceFee() const {
-  return Currency::FromWhole(main_.Option2[delivery_option::kPool].value ? rates_.PoolFee
-                                                                         : rates_.StandAloneFee);
+  return ServiceFeeOf(rates_, main_.Option2[delivery_option::kPool].value);
 }
 
-bool DonationEntry::IsSessionFeeDue() const {
-  return DeductsFees() && values_.TotalDonated == Currency() && !values_.SessionFeeTaken &&
-         others_.payment.Option1[payment::kECheck].value;
+Currency DonationEntry::SessionFeeDue() const {
+  const bool due = DeductsFees() && values_.TotalDonated == Currency() &&
+                   !values_.SessionFeeTaken && others_.payment.Option1[payment::kECheck].value;
+  return due ? rates_.SessionFee : Currency();
 }
 
 void DonationEntry::Give(Currency amount, Unit unit) {
-  if (!RequireDonorCountry()) return;
+  const bool withdraws = amount == Currency();
+  if (!RequireDonorCountry() || (!withdraws && !RequireDonorName())) return;
   const ListView& list = main_.ListView1;
   if (list.selected == 0 || !list.Text(list.selected).empty()) return;
 
@@ -105,20 +125,17 @@ void DonationEntry::Give(Currency amount, Unit unit) {
   };
   Row row;
   try {
-    if (IsSessionFeeDue()) {
-      values_.Balance -= rates_.SessionFee;
+    if (const Currency fee = SessionFeeDue(); fee != Currency()) {
+      values_.Balance -= fee;
       values_.SessionFeeTaken = true;
     }
     method71(amount);
-    if (unit == Unit::Percent) {
-      values_.Donation =
-          Currency::FromDouble(Product(values_.Balance, values_.Donation).ToDouble() / 100);
-    }
+    if (unit == Unit::Percent) values_.Donation = Percent(values_.Balance, amount);
     values_.CardFee = ComputeCardFee(values_, rates_, IsForeignDonor());
     row = SelectedRow();
-    if (IsOverLimit(row)) {
+    if (IsOverLimit(row, values_.Donation, values_.CardFee)) {
       restore();
-      return OfferLargerBudget(row);
+      return OfferLargerBudget(row, amount, unit);
     }
     MoveMoney(row);
   } catch (const RuntimeError&) {
@@ -148,14 +165,14 @@ DonationEntry::Row DonationEntry::SelectedRow() const {
   return row;
 }
 
-bool DonationEntry::IsOverLimit(const Row& row) const {
-  Currency needed = values_.Donation;
+bool DonationEntry::IsOverLimit(const Row& row, Currency donation, Currency cardFee) const {
+  Currency needed = donation;
   if (DeductsFees()) needed += values_.BvxFee;
-  if (DeductsCardFee()) needed += values_.CardFee;
-  return needed > row.available || values_.Donation > row.available;
+  if (DeductsCardFee()) needed += cardFee;
+  return needed > row.available || donation > row.available;
 }
 
-void DonationEntry::OfferLargerBudget(const Row& row) {
+Currency DonationEntry::MissingDollars(const Row& row) const {
   const FeeRates next = NextCardRates(rates_, IsForeignDonor());
   const Currency oldTotal = row.amount + row.fee + row.cardFee;
   const Currency balance = row.available - oldTotal;
@@ -166,7 +183,38 @@ void DonationEntry::OfferLargerBudget(const Row& row) {
   // The server may publish negative fees; they must not raise the limit.
   const Currency missing = values_.Donation + std::max(fees, Currency()) -
                            (DeductsFees() ? row.available : balance + row.amount);
+  return RoundUpToDollars(missing);
+}
 
+std::optional<Currency> DonationEntry::MissingForPercentage(const Row& row,
+                                                            Currency percentage) const {
+  const FeeRates next = NextCardRates(rates_, IsForeignDonor());
+  const auto fits = [&](std::int32_t dollars) {
+    const Currency balance = BalanceForDonation() + Currency::FromWhole(dollars);
+    Row raised = row;
+    raised.available = row.amount + row.fee + row.cardFee + balance;
+    const Currency donation = Percent(balance, percentage);
+    return !IsOverLimit(raised, donation, CardFeeOf(donation, values_.BvxFee, next));
+  };
+  constexpr std::int32_t most = 1 << 30;
+  std::int32_t enough = 1;
+  while (enough < most && !fits(enough)) enough *= 2;
+  if (enough == most) return std::nullopt;
+  std::int32_t tooLittle = enough / 2;  // 0 does not fit either, or nobody would have asked
+  while (enough - tooLittle > 1) {
+    const std::int32_t middle = tooLittle + (enough - tooLittle) / 2;
+    (fits(middle) ? enough : tooLittle) = middle;
+  }
+  return Currency::FromWhole(enough);
+}
+
+void DonationEntry::OfferLargerBudget(const Row& row, Currency amount, Unit unit) {
+  const std::optional<Currency> increase =
+      unit == Unit::Percent ? MissingForPercentage(row, amount) : MissingDollars(row);
+  if (!increase) {
+    ++main_.Text1[money_box::kDonation].selections;
+    return ShowHint(main_, hint::kTypeAmount);
+  }
   const BoxAnswer answer = messages_.Show(messages_.Title(message_kind::kInputError),
                                           kMaximumDonationText + MaximumDonation(row).ToText() +
                                               ".   Would you like to adjust the Budget instead?   ",
@@ -175,15 +223,15 @@ void DonationEntry::OfferLargerBudget(const Row& row) {
     ++main_.Text1[money_box::kDonation].selections;  // the next amount typed replaces this one
     return;
   }
-  const Currency increase = RoundUpToDollars(missing);
-  const Currency newBalance = values_.Balance + increase;
-  values_.Budget += increase;  // if either sum overflows, neither changes
+  const Currency newBalance = values_.Balance + *increase;
+  values_.Budget += *increase;  // if either sum overflows, neither changes
   values_.Balance = newBalance;
   main_.Text1[money_box::kBudget].Write(Format(values_.Budget, kMoneyPattern));
   // Red although money is left, and .00 if not: the donation must be entered again.
   main_.Text1[money_box::kBalance].Write(Format(values_.Balance, kMoneyPattern));
   main_.Text1[money_box::kBalance].foreColor = colors::kRed;
   main_.Text1[money_box::kDonation].Write("");
+  OpenContinue(values_, main_);
 }
 
 Currency DonationEntry::MaximumDonation(const Row& row) const {
@@ -193,7 +241,6 @@ Currency DonationEntry::MaximumDonation(const Row& row) const {
 }
 
 Currency DonationEntry::LargestWithin(Currency limit) const {
-  if (IsSessionFeeDue()) limit -= rates_.SessionFee;
   if (DeductsFees()) limit -= ServiceFee();
   if (DeductsCardFee()) return LargestWithCardFee(limit, ServiceFee());
   return Currency::FromUnits(std::max<std::int64_t>(limit.Units() / kCent, 0) * kCent);
@@ -241,7 +288,8 @@ void DonationEntry::MoveMoney(const Row& row) {
 
 void DonationEntry::method72(int row) {
   ListView& list = main_.ListView1;
-  list.SetSubItem(row, column::kPool, DeliveryText(main_));
+  list.SetSubItem(row, column::kPool,
+                  DeliveryText(main_, main_.Option2[delivery_option::kPool].value));
   list.SetSubItem(row, column::kFrom, FromText(main_));
   list.SetSubItem(row, column::kFee, values_.BvxFee.ToText());
   list.SetSubItem(row, column::kAmount, Format(values_.Donation, kAmountPattern));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "controls/desk.h"
 #include "core/messages.h"
@@ -42,12 +43,18 @@ class DonationEntry {
   // when no organization is selected, or when the contact details must be asked for first.
   void Give(Currency amount, Unit unit = Unit::Dollars);
 
-  // Whether the donor's country is known, which every donation needs; asks for it if not.
-  [[nodiscard]] bool RequireDonorCountry();
+  // Donates an amount that was not typed to the selected row. Proof of mailing follows the amount,
+  // as it does while one is typed: below 1000 dollars it is cleared, otherwise it is `proof`.
+  void GiveUntyped(Currency amount, bool proof);
 
-  // The largest donation in whole cents that with its fees, under the current options, does not
+  // Whether the donor's country and name are known, which every donation needs; asks if not.
+  [[nodiscard]] bool RequireDonor();
+
+  // The largest donation in whole cents that with its own fees, under the current options, does not
   // exceed `limit`. Raises RuntimeError on overflow.
   [[nodiscard]] Currency LargestWithin(Currency limit) const;
+  // What the next donation deducts for the whole session: the e-check fee with the first one.
+  [[nodiscard]] Currency SessionFeeDue() const;
 
  private:
   // The selected row before the new donation.
@@ -61,17 +68,27 @@ class DonationEntry {
   [[nodiscard]] bool DeductsCardFee() const {
     return DeductsFees() && others_.payment.Option1[payment::kCreditCard].value;
   }
+  // The Balance as the next donation finds it. Raises RuntimeError on overflow.
+  [[nodiscard]] Currency BalanceForDonation() const { return values_.Balance - SessionFeeDue(); }
   // Starts a donation (fixed name): stores the amount, locks the fee mode, sets the service fee.
   void method71(Currency amount);
   [[nodiscard]] Currency ServiceFee() const;
-  // The e-check fee is deducted with the first donation of a session.
-  [[nodiscard]] bool IsSessionFeeDue() const;
+  [[nodiscard]] bool RequireDonorCountry();
+  // A blank name would end the program once the session is sent.
+  [[nodiscard]] bool RequireDonorName();
   [[nodiscard]] bool IsForeignDonor() const;
   // Writes delivery, donor, fee and amount into the row (fixed name).
   void method72(int row);
   [[nodiscard]] Row SelectedRow() const;
-  [[nodiscard]] bool IsOverLimit(const Row& row) const;
-  void OfferLargerBudget(const Row& row);
+  // Whether a donation with these fees is more than the row can use.
+  [[nodiscard]] bool IsOverLimit(const Row& row, Currency donation, Currency cardFee) const;
+  // Offers to raise the Budget so that the amount or percentage fits when it is entered again.
+  void OfferLargerBudget(const Row& row, Currency amount, Unit unit);
+  // By how many whole dollars the Budget must rise; nothing for a percentage that never fits, since
+  // it takes, with its fees, all that is added.
+  [[nodiscard]] Currency MissingDollars(const Row& row) const;
+  [[nodiscard]] std::optional<Currency> MissingForPercentage(const Row& row,
+                                                             Currency percentage) const;
   [[nodiscard]] Currency MaximumDonation(const Row& row) const;
   // The largest donation that with its card fee, at the next rate, does not exceed `limit`.
   [[nodiscard]] Currency LargestWithCardFee(Currency limit, Currency serviceFee) const;

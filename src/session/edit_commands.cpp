@@ -1,6 +1,7 @@
 #include "session/edit_commands.h"
 
 #include "database/organization_list.h"
+#include "session/options_record.h"
 
 namespace benevix {
 
@@ -17,7 +18,8 @@ void EditCommands::mnuCls_Click() {
 void EditCommands::mnuCorrect_Click() {
   if (!SelectedRowHasDonation()) return;
   const ListView& list = main_.ListView1;
-  donation_.Give(Currency::FromText(list.SelectedText(column::kAmount)));
+  donation_.GiveUntyped(Currency::FromText(list.SelectedText(column::kAmount)),
+                        AsksForProof(list.SelectedText(column::kRecord)));
 }
 
 }  // namespace benevix

@@ -30,6 +30,10 @@ FeeRates NextCardRates(FeeRates rates, bool foreign) {
   return rates;
 }
 
+Currency ServiceFeeOf(const FeeRates& rates, bool pool) {
+  return Currency::FromWhole(pool ? rates.PoolFee : rates.StandAloneFee);
+}
+
 Currency CardFeeOf(Currency donation, Currency serviceFee, const FeeRates& rates) {
   const Currency product = Product(donation + serviceFee, rates.CardRate);
   return Currency::FromDouble(product.ToDouble() / 100 + rates.CardFixed.ToDouble());

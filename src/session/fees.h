@@ -14,6 +14,9 @@ bool IsForeign(const std::string& country);
 // and one percentage point more for a foreign donor.
 FeeRates NextCardRates(FeeRates rates, bool foreign);
 
+// The service fee of a donation, by its delivery.
+Currency ServiceFeeOf(const FeeRates& rates, bool pool);
+
 // ((donation + service fee) x CardRate) / 100 + CardFixed; the product in currency, the rest in
 // double precision, rounded to four decimals. Raises RuntimeError on overflow.
 Currency CardFeeOf(Currency donation, Currency serviceFee, const FeeRates& rates);

@@ -36,6 +36,11 @@ void ShowHint(frmBVX& main, int step) {
     case hint::kTypeBudget:
       line = "Type a Dollar amount for your Budget (US$) on the Budget box + <Enter>";
       break;
+    case hint::kTypeAmount:
+      line =
+          "So high a percentage never fits with its fees: choose Preferences, Donation field is, "
+          "Currency and type an amount";
+      break;
     default:
       break;
   }

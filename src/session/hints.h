@@ -14,6 +14,7 @@ inline constexpr int kContinue = 6;
 inline constexpr int kSelectAnother = 7;
 inline constexpr int kFinalized = 8;
 inline constexpr int kTypeBudget = 9;
+inline constexpr int kTypeAmount = 10;
 }  // namespace hint
 
 // Shows the hint of a step in the hint line (Label6); an unknown step changes nothing.

@@ -1,6 +1,7 @@
 #include "session/list_view_events.h"
 
 #include "session/hints.h"
+#include "session/totals.h"
 
 namespace benevix {
 
@@ -18,12 +19,12 @@ void ListViewEvents::ListView1_ItemClick(const EventArgs& args) {
 
 void ListViewEvents::ListView1_KeyUp(const EventArgs& args) {
   if (args.key != keys::kEnter || main_.ListView1.selected == 0) return;
-  const bool hasBudget = !main_.Text1[money_box::kBudget].text.empty();
-  desk_.SetFocus(main_.Text1[hasBudget ? money_box::kDonation : money_box::kBudget]);
+  const int box = HasBudget(values_, main_) ? money_box::kDonation : money_box::kBudget;
+  desk_.SetFocus(main_.Text1[box]);
 }
 
 void ListViewEvents::LeftClick(bool organization, bool byKeyboard) {
-  if (main_.Text1[money_box::kBudget].text.empty()) {
+  if (!HasBudget(values_, main_)) {
     if (!byKeyboard) desk_.SetFocus(main_.Text1[money_box::kBudget]);
     return;
   }

@@ -6,6 +6,7 @@
 #include "controls/events.h"
 #include "core/run_values.h"
 #include "forms/frmBVX.h"
+#include "session/session_values.h"
 
 namespace benevix {
 
@@ -13,11 +14,12 @@ namespace benevix {
 class ListViewEvents {
  public:
   // `showYtd` shows the year-to-date figures of the selected row.
-  ListViewEvents(frmBVX& main, Desk& desk, const RunValues& run, std::function<void()> showYtd)
-      : main_(main), desk_(desk), run_(run), showYtd_(std::move(showYtd)) {}
+  ListViewEvents(frmBVX& main, const SessionValues& values, Desk& desk, const RunValues& run,
+                 std::function<void()> showYtd)
+      : main_(main), values_(values), desk_(desk), run_(run), showYtd_(std::move(showYtd)) {}
 
   void ListView1_ItemClick(const EventArgs& args);
-  // Enter moves the focus to the Donation box, or to the Budget box while that is empty.
+  // Enter moves the focus to the Donation box, or without a Budget to the Budget box.
   void ListView1_KeyUp(const EventArgs& args);
 
   // Selects a row as the arrow keys do.
@@ -33,6 +35,7 @@ class ListViewEvents {
   void LeftClick(bool organization, bool byKeyboard);
 
   frmBVX& main_;
+  const SessionValues& values_;
   Desk& desk_;
   const RunValues& run_;
   std::function<void()> showYtd_;

@@ -15,6 +15,12 @@ void EnableFeeMode(frmBVX& main, bool enabled) {
   for (OptionButton& option : main.Option3) option.enabled = enabled;
 }
 
+std::string DeliveryText(const frmBVX& main, bool pool) {
+  if (!pool) return main.Option2[delivery_option::kStandAlone].caption;
+  const std::string& caption = main.Option2[delivery_option::kPool].caption;
+  return caption.substr(caption.find(' ') + 1);
+}
+
 void SetDonationMode(frmBVX& main, DonationMode mode) {
   const bool percentage = mode == DonationMode::Percentage;
   main.mnuDirectCurr.checked = !percentage;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "forms/frmBVX.h"
 
 namespace benevix {
@@ -10,6 +12,9 @@ void SetFeeMode(frmBVX& main, FeeMode mode);
 
 // The fee mode is locked after the first donation of a session.
 void EnableFeeMode(frmBVX& main, bool enabled);
+
+// A delivery as the rows name it: "Pool" of "Donors Pool", or the whole caption "Stand-alone".
+std::string DeliveryText(const frmBVX& main, bool pool);
 
 // Whether donations are typed as amounts or as percentages of the Balance.
 enum class DonationMode { Currency, Percentage };

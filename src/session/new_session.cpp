@@ -7,6 +7,7 @@ namespace benevix {
 void ResetSessionControls(frmBVX& main) {
   const frmBVX design;
   main.caption = design.caption;
+  main.mousePointer = design.mousePointer;
   for (std::size_t i = 0; i < 3; ++i) {
     main.Text1[i].Write("");
     main.Text1[i].enabled = design.Text1[i].enabled;

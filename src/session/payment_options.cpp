@@ -13,6 +13,11 @@ void PaymentOptions::Ask() {
   desk_.Show(window_);
 }
 
+void PaymentOptions::mnuChgPayMethod_Click() {
+  main_.Command1.tag.clear();
+  Ask();
+}
+
 void PaymentOptions::Option1_Click() {
   window_.Command1[0].enabled = true;
 }

@@ -22,8 +22,10 @@ class PaymentOptions {
   [[nodiscard]] bool IsChosen() const { return Chosen(window_.Option1) >= 0; }
   // At the first Budget entry: asks unless a method is chosen; disables the main window.
   void AskOnce();
-  // The menu's Change Payment Method.
+  // Asks, also when a method is chosen.
   void Ask();
+  // Change Payment Method: asks, and a Continue that still waits is not carried out any more.
+  void mnuChgPayMethod_Click();
 
   void Option1_Click();
   void Command1_Click(int index);

@@ -21,8 +21,17 @@ void method73(const SessionValues& values, frmBVX& main, Desk& desk) {
   balance.Write(hasBalance ? Format(values.Balance, kMoneyPattern) : "0.00");
   balance.foreColor = hasBalance ? colors::kBlack : colors::kRed;
   ShowHint(main, hasBalance ? hint::kSelectAnother : hint::kContinue);
-  main.Command1.enabled = values.Balance <= values.BvxFee;
+  OpenContinue(values, main);
   desk.SetFocus(main.ListView1);
+}
+
+void OpenContinue(const SessionValues& values, frmBVX& main) {
+  main.Command1.enabled = values.Balance <= values.BvxFee;
+}
+
+bool HasBudget(const SessionValues& values, const frmBVX& main) {
+  const TextBox& box = main.Text1[money_box::kBudget];
+  return !box.text.empty() && (!box.typed || values.Budget != Currency());
 }
 
 void MarkBudgetAccepted(frmBVX& main) {
