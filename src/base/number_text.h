@@ -9,8 +9,8 @@ namespace benevix {
 
 // The number at the beginning of a text, up to the first character that cannot belong to it; 0
 // without digits. Blanks, tabs and line feeds are skipped, even between digits; `&H` begins a
-// hexadecimal number, `&O` or "&" alone an octal one. Raises RuntimeError: "Overflow" when it is too
-// large, "Type mismatch" when a "%" or "&", the mark of a whole number, follows decimals.
+// hexadecimal number, `&O` or "&" alone an octal one. Raises RuntimeError: "Overflow" when it is
+// too large, "Type mismatch" when a "%" or "&", the mark of a whole number, follows decimals.
 double Val(std::string_view text);
 
 // The number that is the whole text; nothing for any other text. Allowed are, with blanks and tabs
