@@ -10,8 +10,8 @@ FilePath GetSpecialFolder(const Shell& shell, int folderId) {
 
 void CreateDesktopShortcut(Shell& shell, const ProgramInfo& info) {
   const std::string name = ToUtf8(info.exeName);
-  const FilePath folder = GetSpecialFolder(shell, kProgramsFolder) / name;
-  shell.CopyIntoFolder(folder / (name + shell.ShortcutExtension()),
+  const FilePath folder = GetSpecialFolder(shell, kProgramsFolder) / FilePath(name);
+  shell.CopyIntoFolder(folder / FilePath(name + shell.ShortcutExtension()),
                        GetSpecialFolder(shell, kDesktopFolder));
 }
 

@@ -14,7 +14,8 @@ const std::string kTitle = "Benevix Help";
 void Help::ShowPage(const std::string& page, const std::string& title) {
   std::string_view anchor = page;
   const std::string_view file = CutField(anchor, '#');
-  viewer_.ShowPage(Page::File(info_.Resource(std::string(file)), std::string(anchor)), title);
+  viewer_.ShowPage(Page::File(info_.Resource(FilePath(std::string(file))), std::string(anchor)),
+                   title);
 }
 
 void Help::qhelp1_Click(int index) {

@@ -30,7 +30,7 @@ struct ProgramInfo {
     return std::to_string(major) + "." + std::to_string(minor) + "." + std::to_string(revision);
   }
   // A file of the Resources folder.
-  [[nodiscard]] FilePath Resource(const std::string& name) const {
+  [[nodiscard]] FilePath Resource(const FilePath& name) const {
     return folder / "Resources" / name;
   }
 };
