@@ -124,7 +124,7 @@ void ContactInformation::ShowWhatFollows() {
     if (text.empty()) {
       missing += ", " + name;
     } else if (i == contact_field::kEMail && !IsEMail(text)) {
-      missing += ", \"@\" and \".\" in " + name;
+      missing += R"(, "@" and "." in )" + name;
     }
   }
   window_.Missing.visible = !missing.empty();
