@@ -33,7 +33,7 @@ constexpr double kMegabyte = 1e6;
 int Load(const std::string& file) {
   const double before = MemoryOf("self").resident;
   const Stopwatch watch;
-  const OrganizationList list(*LinuxFiles().Open(file));
+  const OrganizationList list(*LinuxFiles().Open(FilePath(file)));
   const double elapsed = watch.Milliseconds();
   if (list.Count() < kOrganizations) return 1;
   std::cout << elapsed << ' ' << MemoryOf("self").resident - before << std::endl;

@@ -1,6 +1,7 @@
 #include "player/program_runner.h"
 
 #include "player/script.h"
+#include "player/words.h"
 
 namespace benevix {
 
@@ -49,7 +50,7 @@ Program& ProgramRunner::TheProgram() {
 void ProgramRunner::AfterLine() {
   if (!program_) return;
   const PageViewer& viewer = program_->TheForms().Get<frmInfo>().wb1;
-  if (viewer.navigations > 0) navigated_ = viewer.address;
+  if (viewer.navigations > 0) navigated_ = ScriptText(viewer.page.Utf8());
   if (HasEnded() && !finished_) {
     finished_ = true;
     program_->Finish();

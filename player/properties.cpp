@@ -102,7 +102,7 @@ struct Further {
   }
   Text operator()(const PageViewer* viewer) const {
     if (property != "Address") return std::nullopt;
-    return viewer->address;
+    return ScriptText(viewer->page.Utf8());
   }
   Text operator()(const Control* /*nothing further*/) const { return std::nullopt; }
 

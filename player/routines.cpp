@@ -147,7 +147,7 @@ const std::map<std::string, Routine>& Routines() {
       {"GetSpecialFolder",
        {1,
         [](ProgramRunner& runner, const Texts& a) {
-          return FromUtf8(GetSpecialFolder(runner.TheWorld().shell, Whole(a[0])));
+          return ScriptText(GetSpecialFolder(runner.TheWorld().shell, Whole(a[0])).Utf8());
         }}},
       {"LookupContacts", {1, CallLookupContacts}},
       {"ShowHint", {1, CallShowHint}},

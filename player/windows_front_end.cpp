@@ -190,6 +190,7 @@ class WindowsFrontEnd : public FrontEnd {
   }
 
   bool Tick(const Target& target, int times) override {
+    ClosePopUps();
     Timer* const timer = target.control->As<Timer>();
     if (timer == nullptr || !target.window->loaded || program_->TheDesk().Ended()) return false;
     for (int i = 0; i < times && program_->TheInput().Tick(*timer); ++i) Settle();
@@ -197,6 +198,7 @@ class WindowsFrontEnd : public FrontEnd {
   }
 
   bool Close(Desk::Entry& window) override {
+    ClosePopUps();
     WindowBinding* const binding = mirror_.BindingOf(*window.window);
     if (binding == nullptr || !program_->TheDesk().IsUsable(*window.window)) return false;
     binding->Widget().close();
@@ -230,6 +232,12 @@ class WindowsFrontEnd : public FrontEnd {
     QCoreApplication::processEvents();
   }
 
+  // As a user's next action does. An open one would take the clicks that answer a message box.
+  void ClosePopUps() {
+    while (QWidget* const popUp = QApplication::activePopupWidget()) popUp->close();
+    Settle();
+  }
+
   QWidget* WidgetOf(const Target& target) const {
     const WindowBinding* const binding = mirror_.BindingOf(*target.window->window);
     if (binding == nullptr || target.control == nullptr) return nullptr;
@@ -238,8 +246,7 @@ class WindowsFrontEnd : public FrontEnd {
 
   // The widget of a control that the user can reach, made the front one; null when he cannot.
   QWidget* Reach(const Target& target) {
-    while (QWidget* const popUp = QApplication::activePopupWidget()) popUp->close();
-    Settle();
+    ClosePopUps();
     QWidget* const widget = WidgetOf(target);
     if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) return nullptr;
     if (!program_->TheDesk().IsUsable(*target.window, target.control->Base())) return nullptr;
@@ -258,6 +265,7 @@ class WindowsFrontEnd : public FrontEnd {
   }
 
   bool ClickMenu(const Target& target) {
+    ClosePopUps();
     const WindowBinding* const binding = mirror_.BindingOf(*target.window->window);
     QAction* const action =
         binding == nullptr ? nullptr : binding->ActionOf(*target.control, target.element);

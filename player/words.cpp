@@ -90,6 +90,12 @@ std::string CodePageText(std::string_view utf8) {
   return text;
 }
 
+std::string ScriptText(const std::string& utf8) {
+  bool lost = false;
+  const std::string text = FromUtf8(utf8, &lost);
+  return lost ? utf8 : text;
+}
+
 std::string Quoted(std::string_view text) {
   std::string quoted = "\"";
   for (const char c : text) {

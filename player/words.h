@@ -22,6 +22,10 @@ std::vector<std::string> Words(std::string_view line);
 // UTF-8 in, code page out. Raises UnreadableLine for a character that the code page lacks.
 std::string CodePageText(std::string_view utf8);
 
+// A UTF-8 text as scripts hold it: in the code page, or as it stands where the code page lacks a
+// character, so that no two texts become the same.
+std::string ScriptText(const std::string& utf8);
+
 // The text in double quotes as a script would write it, UTF-8.
 std::string Quoted(std::string_view text);
 

@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "core/codec.h"
+#include "player/words.h"
 
 namespace benevix {
 namespace {
@@ -16,11 +17,13 @@ std::string WithSlashes(std::string text) {
 
 }  // namespace
 
-World::World() : settings(Inside("settings")), shell(Inside("programs"), Inside("desktop")) {
+World::World()
+    : settings(Inside("settings")),
+      shell(FilePath(Inside("programs")), FilePath(Inside("desktop"))) {
   for (const char* folder : {"program/Resources", "programs", "desktop"}) {
     std::filesystem::create_directories(PathOf(Inside(folder)));
   }
-  info.folder = Inside("program");
+  info.folder = FilePath(Inside("program"));
   info.exeName = "Benevix";
   info.major = 1;
   info.deployment = DeploymentOn(site.Address());
@@ -39,12 +42,12 @@ std::string World::Fill(std::string text) const {
   };
   replace("{site}", info.deployment.serverBase);
   replace("{pay}", info.deployment.paymentBase);
-  replace("{folder}", FromUtf8(info.folder));
+  replace("{folder}", ScriptText(info.folder.Utf8()));
   return text;
 }
 
 std::string World::ProgramFile(const std::string& path) const {
-  return (PathOf(info.folder) / PathOf(WithSlashes(ToUtf8(path)))).string();
+  return (PathOf(info.folder.Utf8()) / PathOf(WithSlashes(ToUtf8(path)))).string();
 }
 
 std::string World::ShellFile(const std::string& folder, const std::string& path) const {

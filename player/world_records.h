@@ -96,21 +96,21 @@ class RecordingPrinter : public Printer {
 // The real shell on folders of its own; programs are recorded in place of being started.
 class RecordingShell : public LinuxShell {
  public:
-  RecordingShell(std::string programs, std::string desktop)
+  RecordingShell(FilePath programs, FilePath desktop)
       : programs_(std::move(programs)), desktop_(std::move(desktop)) {}
 
-  [[nodiscard]] std::string SpecialFolder(int folderId) const override {
+  [[nodiscard]] FilePath SpecialFolder(int folderId) const override {
     if (folderId == kProgramsFolder) return programs_;
-    return folderId == kDesktopFolder ? desktop_ : "";
+    return folderId == kDesktopFolder ? desktop_ : FilePath();
   }
   [[nodiscard]] std::string ShortcutExtension() const override { return ".lnk"; }
-  void StartProgram(const std::string& file) override { started.Add(file); }
+  void StartProgram(const FilePath& file) override { started.Add(file.Utf8()); }
 
   Recorded<std::string> started;
 
  private:
-  std::string programs_;
-  std::string desktop_;
+  FilePath programs_;
+  FilePath desktop_;
 };
 
 }  // namespace benevix

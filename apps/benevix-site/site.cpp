@@ -74,7 +74,7 @@ SiteAnswer AnswerMail(std::string_view query) {
 }  // namespace
 
 Site::Site(const fs::path& folder, std::string address)
-    : folder_(fs::canonical(folder)), address_(std::move(address)) {}
+    : folder_(fs::canonical(folder)), address_(std::move(address)), organizations_(folder_) {}
 
 SiteAnswer Site::Answer(std::string_view target) {
   if (target.starts_with(mailScript)) return AnswerMail(target.substr(mailScript.size()));
@@ -88,8 +88,14 @@ SiteAnswer Site::Answer(std::string_view target) {
   std::string relative = PercentDecode(path.substr(std::min<size_t>(1, path.size())));
   if (path == "/") relative = homePage;
   if (relative == newsFile) return AnswerNews();
-  const auto file = FindFile(relative);
-  return file ? AnswerFile(*file) : ErrorAnswer(404);
+  return AnswerPath(relative);
+}
+
+SiteAnswer Site::AnswerPath(const std::string& relative) const {
+  if (const auto file = FindFile(relative)) return AnswerFile(*file);
+  std::string page = organizations_.PageFor(relative);
+  if (page.empty()) return ErrorAnswer(404);
+  return {200, contentTypes.at(".dat"), std::move(page)};
 }
 
 SiteAnswer Site::AnswerNews() {
@@ -107,9 +113,8 @@ SiteAnswer Site::AnswerTranslation(std::string_view query) const {
   const std::vector<RequestField> fields = SplitFields(query);
   const std::string page = FieldValue(fields, "url");
   if (!page.starts_with(address_)) return ErrorAnswer(404);
-  const auto file = FindFile(page.substr(address_.size()));
-  if (!file) return ErrorAnswer(404);
-  const SiteAnswer original = AnswerFile(*file);
+  const SiteAnswer original = AnswerPath(page.substr(address_.size()));
+  if (original.status != 200) return original;
   return {200, madePageType, Interpret(FieldValue(fields, "language"), original.body)};
 }
 

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "listed_organizations.h"
+
 namespace benevix {
 
 struct SiteAnswer {
@@ -14,8 +16,8 @@ struct SiteAnswer {
   std::string body;
 };
 
-// What the demonstration site answers: the files of a folder, the mail script, the payment page and
-// the translation service.
+// What the demonstration site answers: the files of a folder, a page about each listed organization
+// that has no file, the mail script, the payment page and the translation service.
 class Site {
  public:
   // Takes the folder to serve and the site's own address, ending in "/". In text files "{site}"
@@ -32,10 +34,12 @@ class Site {
   SiteAnswer AnswerNews();
   SiteAnswer AnswerTranslation(std::string_view query) const;
   std::optional<std::filesystem::path> FindFile(const std::string& relative) const;
+  SiteAnswer AnswerPath(const std::string& relative) const;
   SiteAnswer AnswerFile(const std::filesystem::path& file) const;
 
   std::filesystem::path folder_;
   std::string address_;
+  ListedOrganizations organizations_;
   std::atomic<unsigned> newsAsked_ = 0;
 };
 

@@ -17,8 +17,9 @@ ProgramInfo InfoOf(const QFileInfo& executable) {
   const std::string installed = InstalledFolder(path);
   ProgramInfo info;
   info.deployment = ReadDeployment(installed + "/deployment.ini");
-  info.folder = ProgramFolder(path);
-  if (info.folder != installed) FillUsersFolder(installed, info.folder);
+  const std::string folder = ProgramFolder(path);
+  info.folder = FilePath(folder);
+  if (folder != installed) FillUsersFolder(installed, folder);
   info.exeName = FromQString(executable.completeBaseName());
   info.major = BENEVIX_VERSION_MAJOR;
   info.minor = BENEVIX_VERSION_MINOR;

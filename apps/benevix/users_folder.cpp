@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 // A list that cannot be read or carries no version is older than any that does.
 float VersionOf(const fs::path& list) {
   try {
-    return ListFileVersion(LinuxFiles(), list.string()).value_or(0);
+    return ListFileVersion(LinuxFiles(), FilePath(list.string())).value_or(0);
   } catch (const RuntimeError&) {
     return 0;
   }

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "base/decimal.h"
 #include "base/runtime_error.h"
@@ -94,21 +95,26 @@ std::optional<double> ReadHexOrOctal(Cursor& in, int base) {
   return static_cast<std::int16_t>(static_cast<std::uint16_t>(value));
 }
 
-// 16 for the H of `&H`, 8 for the O of `&O`, otherwise 0.
-int BaseOf(char c) {
-  if (c == 'H' || c == 'h') return 16;
-  return c == 'O' || c == 'o' ? 8 : 0;
+// Takes the "&" and the letter of `&H` or `&O` and gives the base. Octal needs no letter.
+int TakeBase(Cursor& in) {
+  in.Advance();
+  const auto letter = static_cast<char>(LowerCaseOf(static_cast<unsigned char>(in.Peek())));
+  if (letter == 'h' || letter == 'o') in.Advance();
+  return letter == 'h' ? 16 : 8;
 }
 
 bool IsExponentMark(char c) {
   return c == 'E' || c == 'e' || c == 'D' || c == 'd';
 }
 
-void ReadDecimalsAndExponent(Cursor& in, Digits& digits) {
-  if (in.Peek() == '.') {
-    in.Advance();
-    for (; IsDigit(in.Peek()); in.Advance()) digits.decimals += in.Peek();
-  }
+void ReadDecimals(Cursor& in, Digits& digits) {
+  if (in.Peek() != '.') return;
+  in.Advance();
+  for (; IsDigit(in.Peek()); in.Advance()) digits.decimals += in.Peek();
+}
+
+// Only with a digit behind its mark is it one.
+void ReadExponent(Cursor& in, Digits& digits) {
   if (!IsExponentMark(in.Peek())) return;
   Cursor ahead = in;
   ahead.Advance();
@@ -126,11 +132,7 @@ double Val(std::string_view text) {
   Cursor in(text, " \t\n");
   std::optional<double> value;
   if (in.Peek() == '&') {
-    in.Advance();
-    const int base = BaseOf(in.Peek());
-    if (base == 0) return 0;
-    in.Advance();
-    value = ReadHexOrOctal(in, base);
+    value = ReadHexOrOctal(in, TakeBase(in));
     if (!value) throw RuntimeError("Overflow");
     return *value;
   }
@@ -138,64 +140,107 @@ double Val(std::string_view text) {
   if (negative || in.Peek() == '+') in.Advance();
   Digits digits;
   for (; IsDigit(in.Peek()); in.Advance()) digits.whole += in.Peek();
-  ReadDecimalsAndExponent(in, digits);
+  ReadDecimals(in, digits);
+  ReadExponent(in, digits);
   if (!digits.any()) return 0;
+  // Behind a number these mark a whole one, which one with decimals is not.
+  const bool saysWhole = in.Peek() == '%' || in.Peek() == '&';
+  if (saysWhole && !digits.decimals.empty()) throw RuntimeError("Type mismatch");
   value = ToDouble(digits);
   if (!value) throw RuntimeError("Overflow");
   return negative ? -*value : *value;
 }
 
+namespace {
+
+// What stands around a number's digits: blanks, a "$" on either side, and one sign, or parentheses
+// that stand for the minus.
+struct Around {
+  bool sign = false;
+  bool parenthesis = false;  // is open
+  bool negative = false;
+
+  void TakeBefore(Cursor& in) {
+    for (bool dollar = false;; in.Advance()) {
+      const char c = in.Peek();
+      if (!sign && (c == '-' || c == '+' || c == '(')) {
+        sign = true;
+        parenthesis = c == '(';
+        negative = c != '+';
+      } else if (!TakeOther(c, dollar)) {
+        return;
+      }
+    }
+  }
+
+  void TakeBehind(Cursor& in) {
+    for (bool dollar = false;; in.Advance()) {
+      const char c = in.Peek();
+      if (parenthesis && c == ')') {
+        parenthesis = false;
+      } else if (!sign && (c == '-' || c == '+')) {
+        sign = true;
+        negative = c == '-';
+      } else if (!TakeOther(c, dollar)) {
+        return;
+      }
+    }
+  }
+
+ private:
+  static bool TakeOther(char c, bool& dollar) {
+    if (c == '$') return !std::exchange(dollar, true);
+    return c == ' ' || c == '\t';
+  }
+};
+
+// The digits of a number that is a whole text. Commas stand between the digits of its whole part
+// and anywhere among its decimals; the point may be doubled when no decimals follow.
+Digits ReadGroupedDigits(Cursor& in) {
+  Digits digits;
+  while (IsDigit(in.Peek())) {
+    digits.whole += in.Peek();
+    in.Advance();
+    Cursor ahead = in;
+    while (ahead.Peek() == ',') ahead.Advance();
+    if (IsDigit(ahead.Peek())) in = ahead;
+  }
+  if (in.Peek() == '.') {
+    in.Advance();
+    for (; IsDigit(in.Peek()) || in.Peek() == ','; in.Advance()) {
+      if (in.Peek() != ',') digits.decimals += in.Peek();
+    }
+    if (digits.decimals.empty() && in.Peek() == '.') in.Advance();
+  }
+  ReadExponent(in, digits);
+  return digits;
+}
+
+// `&H` or `&O` and their digits, the whole text.
+std::optional<double> ParseHexOrOctal(std::string_view text) {
+  Cursor in(text, "");
+  const int base = TakeBase(in);
+  if (DigitValue(in.Peek(), base) < 0) return std::nullopt;
+  const auto value = ReadHexOrOctal(in, base);
+  return in.AtEnd() ? value : std::nullopt;
+}
+
+}  // namespace
+
 std::optional<double> ParseNumber(std::string_view text) {
   const auto blank = [](char c) { return c == ' ' || c == '\t'; };
   while (!text.empty() && blank(text.front())) text.remove_prefix(1);
   while (!text.empty() && blank(text.back())) text.remove_suffix(1);
+  if (text.starts_with('&')) return ParseHexOrOctal(text);
 
-  bool negative = false;
-  bool signSeen = false;
-  bool parenthesis = false;
-  bool dollar = false;
-  for (; !text.empty(); text.remove_prefix(1)) {
-    const char c = text.front();
-    if (!signSeen && (c == '-' || c == '+' || c == '(')) {
-      signSeen = true;
-      parenthesis = c == '(';
-      negative = c != '+';
-    } else if (!dollar && c == '$') {
-      dollar = true;
-    } else {
-      break;
-    }
-  }
   Cursor in(text, "");
-  std::optional<double> value;
-  if (in.Peek() == '&' && !signSeen && !dollar) {
-    in.Advance();
-    const int base = BaseOf(in.Peek());
-    if (base == 0) return std::nullopt;
-    in.Advance();
-    if (DigitValue(in.Peek(), base) < 0) return std::nullopt;
-    value = ReadHexOrOctal(in, base);
-    return in.AtEnd() ? value : std::nullopt;
-  }
-  Digits digits;
-  for (bool comma = false; IsDigit(in.Peek()) || in.Peek() == ',' || comma; in.Advance()) {
-    if (comma && !IsDigit(in.Peek())) return std::nullopt;
-    comma = in.Peek() == ',';
-    if (comma && digits.whole.empty()) return std::nullopt;
-    if (!comma) digits.whole += in.Peek();
-  }
-  ReadDecimalsAndExponent(in, digits);
-  if (!digits.any()) return std::nullopt;
-  if (parenthesis) {
-    if (in.Peek() != ')') return std::nullopt;
-    in.Advance();
-  } else if (!signSeen && (in.Peek() == '-' || in.Peek() == '+')) {
-    negative = in.Peek() == '-';
-    in.Advance();
-  }
-  if (!in.AtEnd()) return std::nullopt;
-  value = ToDouble(digits);
-  if (value && negative) value = -*value;
+  Around around;
+  around.TakeBefore(in);
+  const Digits digits = ReadGroupedDigits(in);
+  around.TakeBehind(in);
+  if (!digits.any() || around.parenthesis || !in.AtEnd()) return std::nullopt;
+  auto value = ToDouble(digits);
+  if (value && around.negative) value = -*value;
   return value;
 }
 

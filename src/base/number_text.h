@@ -8,13 +8,14 @@
 namespace benevix {
 
 // The number at the beginning of a text, up to the first character that cannot belong to it; 0
-// without digits. Blanks, tabs and line feeds are skipped, even between digits; `&H` and `&O` begin
-// a hexadecimal or octal number. Raises RuntimeError ("Overflow") when it is too large.
+// without digits. Blanks, tabs and line feeds are skipped, even between digits; `&H` begins a
+// hexadecimal number, `&O` or "&" alone an octal one. Raises RuntimeError: "Overflow" when it is
+// too large, "Type mismatch" when a "%" or "&", the mark of a whole number, follows decimals.
 double Val(std::string_view text);
 
-// The number that is the whole text; nothing for any other text. Allowed are blanks and tabs at
-// both ends, a sign before or after, parentheses for negative, one "$", commas between digits, an
-// exponent, `&H` and `&O`.
+// The number that is the whole text; nothing for any other text. Allowed are, with blanks and tabs
+// around them, a sign before or after, parentheses for negative, a "$" before and after, commas
+// between digits, an exponent; also `&H`, `&O` and "&" for octal.
 std::optional<double> ParseNumber(std::string_view text);
 bool IsNumeric(std::string_view text);
 

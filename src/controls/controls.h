@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/currency.h"
+#include "base/page.h"
 #include "controls/control.h"
 #include "controls/list_view.h"
 
@@ -196,12 +197,15 @@ struct MoneyBar : Control {
 };
 
 struct PageViewer : Control {
-  std::string address;  // a web address, or a file's path and perhaps "#" and an anchor
-  int navigations = 0;  // how often a page was asked for
+  Page page;
+  int navigations = 0;     // how often a page was asked for
+  bool canGoBack = false;  // the user came to what is shown by a link
+  int backs = 0;           // how often the page before was asked for
 
-  void Navigate2(std::string to) {
-    address = std::move(to);
+  void Navigate2(Page to) {
+    page = std::move(to);
     ++navigations;
+    canGoBack = false;
   }
 };
 

@@ -237,6 +237,11 @@ bool Input::Tick(Timer& timer) {
   return true;
 }
 
+void Input::MovedOn(PageViewer& viewer, bool canGoBack) {
+  viewer.canGoBack = canGoBack;  // also while a handler waits, at whose end it is seen
+  Enter([] {});
+}
+
 bool Input::Close(Window& window) {
   if (busy_ || !desk_.IsUsable(window)) return false;
   Enter([&] {

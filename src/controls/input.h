@@ -63,6 +63,8 @@ class Input {
   bool SelectRow(ListView& list, int row, MouseButton button, bool byKeyboard = false);
   bool Scroll(ScrollBar& bar, int value);
   bool Tick(Timer& timer);
+  // The user has moved on in the pages of the viewer.
+  void MovedOn(PageViewer& viewer, bool canGoBack);
 
   // The user closes the window by its frame.
   bool Close(Window& window);

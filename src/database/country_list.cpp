@@ -24,7 +24,7 @@ std::string FirstField(std::string_view text) {
 
 }  // namespace
 
-std::vector<std::string> ReadCountryList(const Files& files, const std::string& file,
+std::vector<std::string> ReadCountryList(const Files& files, const FilePath& file,
                                          const TextCodec& codec) {
   std::string names;
   codec.Codec(FirstField(files.ReadAll(file)), names, codec_mode::kCountries,

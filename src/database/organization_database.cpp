@@ -15,10 +15,10 @@ void OrganizationDatabase::LoadOrganizationList() {
   list_ = std::make_shared<const OrganizationList>(*files_.Open(file_));
   main_.ListView1.SetRows(list_);
   if (list_->Version()) run_.DBVersion = *list_->Version();
-  if (!list_->Damage().empty()) throw RuntimeError(FromUtf8(file_) + ": " + list_->Damage());
+  if (!list_->Damage().empty()) throw RuntimeError(FromUtf8(file_.Utf8()) + ": " + list_->Damage());
 }
 
-std::optional<float> ListFileVersion(const Files& files, const std::string& file) {
+std::optional<float> ListFileVersion(const Files& files, const FilePath& file) {
   LineReader lines(files.Open(file));
   while (const auto line = lines.Next()) {
     if (const auto version = HeaderVersion(*line)) return version;

@@ -15,13 +15,13 @@ namespace benevix {
 
 // The version in the first header line of a list file; nothing without one. Raises RuntimeError
 // when the file cannot be read or the number is beyond a float.
-std::optional<float> ListFileVersion(const Files& files, const std::string& file);
+std::optional<float> ListFileVersion(const Files& files, const FilePath& file);
 
 // The installed organization list, its version and the countries menu.
 class OrganizationDatabase {
  public:
   OrganizationDatabase(frmBVX& main, RunValues& run, SettingsStore& settings, const Files& files,
-                       std::string file)
+                       FilePath file)
       : main_(main), run_(run), settings_(settings), files_(files), file_(std::move(file)) {}
 
   // Loads the file into ListView1 and DBVersion from the last header line. Raises RuntimeError when
@@ -48,7 +48,7 @@ class OrganizationDatabase {
   RunValues& run_;
   SettingsStore& settings_;
   const Files& files_;
-  std::string file_;
+  FilePath file_;
   std::shared_ptr<const OrganizationList> list_;
 };
 

@@ -17,13 +17,16 @@ struct frmInfo : Window {
     Label1.height = kPanelHeight;
     VScroll1.holder = "Picture1";
     Label3.shortcut = "Ctrl+T";
+    Back.visible = false;
+    Back.shortcut = "Alt+Left";
   }
 
   static constexpr const char* kTitle = "Information";
   static constexpr int kPanelHeight = 7200;  // twips
 
+  Button Back{"&Back", "To what was shown before"};
   PictureBox Picture1;  // the text panel
-  Label Label1;         // its text
+  Label Label1;         // its text; its tag is the window's caption with it
   ScrollBar VScroll1;
   Label Label2{"Retrieving Information. Please wait..."};
   Label Label3{"TRANSLATE"};  // tag "Yes" once it was clicked
@@ -32,6 +35,7 @@ struct frmInfo : Window {
 
 template <class F>
 void visit(frmInfo& window, F&& f) {
+  f("Back", window.Back);
   f("Picture1", window.Picture1);
   f("Label1", window.Label1);
   f("VScroll1", window.VScroll1);

@@ -12,6 +12,7 @@ struct frmSrch : Window {
     caption = " Find";
     Option1[0].value = true;
     Command1.shortcut = kEnterShortcut;
+    NotFound.visible = false;
   }
 
   Label Label1{"Word"};
@@ -19,6 +20,7 @@ struct frmSrch : Window {
   Frame Frame1{"Search in"};
   OptionButton Option1[2] = {OptionButton("Country", {}, "Frame1"),
                              OptionButton("Organization Name", {}, "Frame1")};
+  Label NotFound{"Nothing found"};
   Button Command1{"&Find"};
 };
 
@@ -28,6 +30,7 @@ void visit(frmSrch& window, F&& f) {
   f("Text1", window.Text1);
   f("Frame1", window.Frame1);
   f("Option1", window.Option1);
+  f("NotFound", window.NotFound);
   f("Command1", window.Command1);
 }
 

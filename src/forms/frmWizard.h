@@ -11,11 +11,13 @@ struct frmWizard : Window {
   frmWizard() {
     Command1.shortcut = kEnterShortcut;
     Command2.shortcut = "F1";
+    Closed.visible = false;
   }
 
   PictureBox Image1;        // decoration
   Label Label1;             // the page text
   OptionButton Option1[2];  // the answers of a page
+  Label Closed{"The fees of this session are settled. New Session opens the choice again."};
   Button Command1{"&Continue"};
   Button Command2{"&Help"};
 };
@@ -25,6 +27,7 @@ void visit(frmWizard& window, F&& f) {
   f("Image1", window.Image1);
   f("Label1", window.Label1);
   f("Option1", window.Option1);
+  f("Closed", window.Closed);
   f("Command1", window.Command1);
   f("Command2", window.Command2);
 }

@@ -1,6 +1,8 @@
 #include "help/help.h"
 
-#include "base/text.h"
+#include <string_view>
+
+#include "base/lines.h"
 
 namespace benevix {
 namespace {
@@ -10,7 +12,10 @@ const std::string kTitle = "Benevix Help";
 }  // namespace
 
 void Help::ShowPage(const std::string& page, const std::string& title) {
-  viewer_.ShowPage(FromUtf8(info_.Resource(page)), title);
+  std::string_view anchor = page;
+  const std::string_view file = CutField(anchor, '#');
+  viewer_.ShowPage(Page::File(info_.Resource(FilePath(std::string(file))), std::string(anchor)),
+                   title);
 }
 
 void Help::qhelp1_Click(int index) {
@@ -35,7 +40,7 @@ void Help::mnuAbout_Click() {
 }
 
 void Help::gotoBVXweb_Click() {
-  viewer_.ShowPage(info_.deployment.serverBase);
+  viewer_.ShowPage(Page::Web(info_.deployment.serverBase));
 }
 
 }  // namespace benevix

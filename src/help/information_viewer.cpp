@@ -4,13 +4,12 @@
 
 namespace benevix {
 
-void InformationViewer::ShowPage(const std::string& address, const std::string& title,
-                                 Attention attention) {
+void InformationViewer::ShowPage(const Page& page, const std::string& title, Attention attention) {
   desk_.Load(window_);
   window_.caption = title;
   window_.Picture1.visible = false;
   window_.wb1.visible = true;
-  window_.wb1.Navigate2(address);
+  window_.wb1.Navigate2(page);
   desk_.Show(window_, Modality::Modeless, attention);
 }
 
@@ -27,7 +26,7 @@ void InformationViewer::ShowText(const std::string& text, const std::string& tit
   constexpr int lineHeight = 195;  // twips
   constexpr std::ptrdiff_t maxLines = 1'000'000;
   const auto lines = std::min(1 + std::count(text.begin(), text.end(), '\n'), maxLines);
-  window_.caption = title;
+  window_.caption = window_.Label1.tag = title;
   window_.Label1.caption = text;
   window_.Label1.height = std::max(frmInfo::kPanelHeight, static_cast<int>(lines) * lineHeight);
   window_.Label1.top = window_.VScroll1.value = 0;
@@ -44,6 +43,23 @@ void InformationViewer::Form_Load() {
 void InformationViewer::VScroll1_Scroll() {
   UpdateScrollRange();  // the window may have been resized
   window_.Label1.top = -window_.VScroll1.value;
+}
+
+void InformationViewer::Back_Click() {
+  if (window_.wb1.canGoBack) {
+    ++window_.wb1.backs;
+    return;
+  }
+  window_.wb1.Navigate2({});
+  window_.wb1.visible = false;
+  window_.Picture1.visible = true;
+  window_.Label3.visible = true;
+  window_.caption = window_.Label1.tag;
+  desk_.SetFocus(window_.VScroll1);
+}
+
+void InformationViewer::ShowBack() {
+  window_.Back.visible = window_.wb1.visible && (window_.wb1.canGoBack || HasText());
 }
 
 }  // namespace benevix

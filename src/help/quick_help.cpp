@@ -21,7 +21,7 @@ std::string WithoutEscapes(std::string_view name) {
 
 }  // namespace
 
-void BuildQuickHelpMenu(const Files& files, const std::string& page, MenuArray& qhelp1) {
+void BuildQuickHelpMenu(const Files& files, const FilePath& page, MenuArray& qhelp1) {
   std::string text;
   try {
     text = files.ReadAll(page);

@@ -36,6 +36,8 @@ void Wizard::Form_Load() {
 void Wizard::ShowQuestion(Page page, const std::string& question, const std::string& first,
                           const std::string& second) {
   page_ = page;
+  // As in the menu, the fee mode is fixed after the first donation.
+  window_.Closed.visible = page == Page::Fees && !main_.mnuAddFees.enabled;
   window_.Label1.caption = question;
   window_.Option1[0].caption = first;
   window_.Option1[1].caption = second;
@@ -59,7 +61,6 @@ void Wizard::Command1_Click() {
                           "Add to my Budget", "Deduct from my Budget");
     case Page::Fees:
       window_.Command1.enabled = false;
-      // As in the menu, the fee mode is fixed after the first donation.
       if (main_.mnuAddFees.enabled) SetFeeMode(main_, first ? FeeMode::Add : FeeMode::Deduct);
       return ShowQuestion(Page::DonationMode, "The amounts you type as Donation are:", "Currency",
                           "% of Balance");

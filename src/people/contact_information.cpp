@@ -1,9 +1,20 @@
 #include "people/contact_information.h"
 
+#include <algorithm>
+#include <string_view>
+
 #include "base/runtime_error.h"
+#include "base/text.h"
 #include "database/country_list.h"
 
 namespace benevix {
+namespace {
+
+bool IsEMail(std::string_view text) {
+  return text.find('@') != std::string_view::npos && text.find('.') != std::string_view::npos;
+}
+
+}  // namespace
 
 std::string JoinContact(const frmPersInfo& window) {
   std::string text;
@@ -96,6 +107,28 @@ void ContactInformation::Reload() {
 
 void ContactInformation::Combo1_Click() {
   window_.Text1[contact_field::kCountry].Write(window_.Combo1.text);
+}
+
+void ContactInformation::ShowWhatFollows() {
+  const auto& list = window_.Combo1.list;
+  const std::string country = LowerCase(window_.Text1[contact_field::kCountry].text);
+  const auto entry = std::find_if(list.begin(), list.end(), [&](const std::string& name) {
+    return LowerCase(name) == country;
+  });
+  window_.Combo1.text = entry == list.end() ? "" : *entry;
+
+  std::string missing;
+  for (int i = 0; i < contact_field::kCount; ++i) {
+    const std::string_view text = Trim(window_.Text1[i].text);
+    const std::string& name = window_.Label1[i].caption;
+    if (text.empty()) {
+      missing += ", " + name;
+    } else if (i == contact_field::kEMail && !IsEMail(text)) {
+      missing += R"(, "@" and "." in )" + name;
+    }
+  }
+  window_.Missing.visible = !missing.empty();
+  window_.Missing.caption = missing.empty() ? "" : "Missing: " + missing.substr(2);
 }
 
 void ContactInformation::Check1_MouseUp() {

@@ -47,6 +47,8 @@ class ContactInformation {
   void Check1_MouseUp();
   // Also when the user closes the window.
   void Cancel();
+  // Shows what follows from the fields: the country in the picker, and what is missing.
+  void ShowWhatFollows();
 
   // The details for the session notice: joined by "," and scrambled.
   [[nodiscard]] std::string ForNotice() const;

@@ -18,16 +18,22 @@ constexpr int kBoth = 2;
 void DonorsRanking::Form_Load() {
   Choose(window_.Option1, kMyName);
   window_.Text1.enabled = false;
+  const std::string stored = Stored();
+  if (stored.empty()) return;
+  std::string_view rest = stored;
+  Choose(window_.Option1, static_cast<std::size_t>(Val(CutField(rest, ','))));
+  window_.Text1.Write(std::string(rest));
+  window_.Text1.enabled = !window_.Option1[kMyName].value;
+}
+
+std::string DonorsRanking::Stored() const {
   try {
-    const std::string stored = codec_.Unscramble(settings_.GetUserString("RankOpt"));
+    std::string stored = codec_.Unscramble(settings_.GetUserString("RankOpt"));
     std::string_view rest = stored;
     const double option = Val(CutField(rest, ','));
-    if (stored.empty() || option < kMyName || option > kBoth) return;
-    Choose(window_.Option1, static_cast<std::size_t>(option));
-    window_.Text1.Write(std::string(rest));
-    window_.Text1.enabled = !window_.Option1[kMyName].value;
+    return option >= kMyName && option <= kBoth ? stored : "";
   } catch (const RuntimeError&) {
-    // An unreadable choice must be made again.
+    return {};  // the choice must be made again
   }
 }
 
@@ -38,7 +44,7 @@ void DonorsRanking::Option1_Click(int index) {
 
 std::string DonorsRanking::ForNotice(bool takesPart) {
   if (!takesPart) return ",0";
-  const std::string choice(Trim(codec_.Unscramble(settings_.GetUserString("RankOpt"))));
+  const std::string choice(Trim(Stored()));
   return choice.empty() ? ",1" : ",1," + codec_.Scramble(choice);
 }
 

@@ -21,10 +21,13 @@ class DonorsRanking {
   void Command1_Click();
 
   // The ranking part of the session notice: ",0" without participation, else ",1" and, once a name
-  // was chosen, "," and the scrambled choice. Raises RuntimeError if `RankOpt` is damaged.
+  // was chosen, "," and the scrambled choice. A damaged `RankOpt` counts as empty.
   [[nodiscard]] std::string ForNotice(bool takesPart);
 
  private:
+  // The stored choice; empty without one that can be read.
+  [[nodiscard]] std::string Stored() const;
+
   frmDonRankg& window_;
   Desk& desk_;
   SettingsStore& settings_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 
 #include "controls/desk.h"
@@ -20,9 +21,9 @@ class Messenger {
     const frmPersInfo& contact;
     const frmBVX& main;
     std::function<void()> askForContact;  // opens the contact window
-    // Takes from, to, subject and message.
-    std::function<void(const std::string&, const std::string&, const std::string&,
-                       const std::string&)>
+    // Takes from, to, subject and message; gives what went wrong, empty when nothing did.
+    std::function<std::string(const std::string&, const std::string&, const std::string&,
+                              const std::string&)>
         print;
   };
 
@@ -45,7 +46,16 @@ class Messenger {
   void Close();
 
  private:
+  // What was written to an organization and could not be sent.
+  struct Draft {
+    std::string subject, message;
+  };
+
   void Send();
+  void Print();
+  // Keeps what is written for the organization, until it is sent or the program ends.
+  void KeepDraft(bool keep);
+  void ShowNote(const std::string& note);
 
   frmMail& window_;
   Desk& desk_;
@@ -53,6 +63,7 @@ class Messenger {
   Messages& messages_;
   const ProgramInfo& info_;
   Others others_;
+  std::map<std::string, Draft> drafts_;  // by the organization's ID
 };
 
 }  // namespace benevix

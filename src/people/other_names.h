@@ -10,7 +10,7 @@ namespace benevix {
 // The other donor names that the user has typed, one per line in the order of typing.
 class OtherNames {
  public:
-  OtherNames(Files& files, std::string file) : files_(files), file_(std::move(file)) {}
+  OtherNames(Files& files, FilePath file) : files_(files), file_(std::move(file)) {}
 
   // Adds every line as an entry; a missing or unreadable file adds none.
   void LoadOtherNames(ComboBox& names) const;
@@ -20,7 +20,7 @@ class OtherNames {
 
  private:
   Files& files_;
-  std::string file_;
+  FilePath file_;
 };
 
 }  // namespace benevix

@@ -5,6 +5,8 @@
 #include <memory>
 #include <string>
 
+#include "base/file_path.h"
+
 namespace benevix {
 
 inline std::filesystem::path PathOf(const std::string& utf8) {
@@ -22,23 +24,23 @@ class FileReader {
   virtual std::size_t Read(char* buffer, std::size_t size) = 0;
 };
 
-// Access to files by their paths (UTF-8). Failures raise RuntimeError with the file's name and the
+// Access to files by their paths. Failures raise RuntimeError with the file's name and the
 // reason.
 class Files {
  public:
   virtual ~Files() = default;
-  [[nodiscard]] virtual bool Exists(const std::string& path) const = 0;
-  [[nodiscard]] virtual std::unique_ptr<FileReader> Open(const std::string& path) const = 0;
-  [[nodiscard]] virtual std::string ReadAll(const std::string& path) const = 0;
+  [[nodiscard]] virtual bool Exists(const FilePath& path) const = 0;
+  [[nodiscard]] virtual std::unique_ptr<FileReader> Open(const FilePath& path) const = 0;
+  [[nodiscard]] virtual std::string ReadAll(const FilePath& path) const = 0;
   // Atomic: writes a temporary file in the same folder and renames it.
-  virtual void Replace(const std::string& path, const std::string& bytes) = 0;
+  virtual void Replace(const FilePath& path, const std::string& bytes) = 0;
   // Appends in one write and flushes to the disk; creates a missing file. On failure the file stays
   // as it was.
-  virtual void Append(const std::string& path, const std::string& bytes) = 0;
+  virtual void Append(const FilePath& path, const std::string& bytes) = 0;
   // Does nothing when the file does not exist.
-  virtual void Remove(const std::string& path) = 0;
+  virtual void Remove(const FilePath& path) = 0;
   // Overwrites `to`.
-  virtual void Copy(const std::string& from, const std::string& to) = 0;
+  virtual void Copy(const FilePath& from, const FilePath& to) = 0;
 };
 
 }  // namespace benevix

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "base/file_path.h"
+
 namespace benevix {
 
 // The values of deployment.ini, in the code page.
@@ -17,7 +19,7 @@ struct Deployment {
 
 // Facts about the program and its machine, set once at start-up.
 struct ProgramInfo {
-  std::string folder;   // the program folder, UTF-8, no slash at the end
+  FilePath folder;      // the program folder
   std::string exeName;  // file name of the executable without folder and extension
   int major = 0, minor = 0, revision = 0;
   int platformId = 2;                             // as the operating system reports it
@@ -28,8 +30,8 @@ struct ProgramInfo {
     return std::to_string(major) + "." + std::to_string(minor) + "." + std::to_string(revision);
   }
   // A file of the Resources folder.
-  [[nodiscard]] std::string Resource(const std::string& name) const {
-    return folder + "/Resources/" + name;
+  [[nodiscard]] FilePath Resource(const FilePath& name) const {
+    return folder / "Resources" / name;
   }
 };
 

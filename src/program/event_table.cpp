@@ -157,6 +157,7 @@ void Program::ConnectPayment() {
 void Program::ConnectViewer() {
   frmInfo& info = forms_.Get<frmInfo>();
   events_.On(info, Event::Load, Plain([this] { viewer_.Form_Load(); }));
+  events_.On(info.Back, Event::Click, Plain([this] { viewer_.Back_Click(); }));
   events_.On(info.VScroll1, Event::Scroll, Plain([this] { viewer_.VScroll1_Scroll(); }));
   events_.On(info.Label3, Event::Click, Plain([this] { translation_.Label3_Click(); }));
 
@@ -210,6 +211,8 @@ void Program::ConnectSmallWindows() {
   frmSrch& search = forms_.Get<frmSrch>();
   events_.On(search, Event::Load, Plain([this] { search_.Restart(); }));
   events_.On(search.Text1, Event::Change, Plain([this] { search_.Restart(); }));
+  events_.On(search.Option1, Event::Click,
+             [&search](int, EventArgs&) { search.NotFound.visible = false; });
   events_.On(search.Command1, Event::Click, Plain([this] { search_.Command1_Click(); }));
 }
 

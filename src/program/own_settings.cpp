@@ -35,14 +35,14 @@ void InitSettings(SettingsStore& settings, Environment& environment) {
   settings.SaveUserString("BVXDB", "1.0000");
   settings.SaveUserString("LangVer", "english");
   settings.SaveUserString("Version", info.Version());
-  settings.SaveUserString("StartIn", FromUtf8(info.folder));
+  settings.SaveUserString("StartIn", FromUtf8(info.folder.Utf8()));
   settings.SaveUserString("ExeName", info.exeName);
   CreateDesktopShortcut(environment.shell, info);
 }
 
 void CleanUpdater(SettingsStore& settings, Environment& environment) {
   try {
-    environment.files.Remove(environment.info.folder + "/updater.exe");
+    environment.files.Remove(environment.info.folder / "updater.exe");
   } catch (const RuntimeError&) {
     // The setting is cleared all the same.
   }

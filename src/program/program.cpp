@@ -58,19 +58,23 @@ Program::Program(Environment environment)
                   [this] { contact_.Open(ContactCaller::ContactOrganization); },
                   [this](const std::string& from, const std::string& to, const std::string& subject,
                          const std::string& message) {
-                    printing_.PrintMessage(from, to, subject, message);
+                    return printing_.PrintMessage(from, to, subject, message);
                   }}),
       tellAFriend_(forms_.Get<frmTellAFriend>(), desk_, settings_, codec_, server_, messages_),
       lastSession_(main_, values_, rates_, desk_, settings_, database_, messages_, environment_,
                    [this] { NewSession(); }),
       notice_(main_, charges_, server_, contact_, ranking_, lastSession_, environment_),
-      history_(environment_, messages_, viewer_),
+      history_(environment_, messages_, viewer_, main_),
       finalization_(main_, values_, desk_, paymentOptions_, notice_, viewer_, history_, messages_,
                     environment_.info.deployment),
       printing_(environment_, forms_.Get<frmWait>(), desk_, main_, finalization_) {
   forms_.ForEach([this](auto& form) { desk_.Add(form); });
   ConnectEvents();
-  input_.derive = [this] { charges_.Show(); };
+  input_.derive = [this] {
+    charges_.Show();
+    viewer_.ShowBack();
+    contact_.ShowWhatFollows();
+  };
   input_.onError = [this](const RuntimeError& error) {
     messages_.Show(error.what(), BoxIcon::Critical);
   };

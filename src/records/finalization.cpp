@@ -63,9 +63,10 @@ void Finalization::Finalize() {
 }
 
 void Finalization::Commit(const SessionNotice::Outcome& sent) {
-  viewer_.ShowPage(PaymentRequest(deployment_.paymentBase, deployment_.serverBase, sent.due.payee,
-                                  sent.session.transactionId, sent.session.amountText),
-                   " Secure Funds Transfer");
+  viewer_.ShowPage(
+      Page::Web(PaymentRequest(deployment_.paymentBase, deployment_.serverBase, sent.due.payee,
+                               sent.session.transactionId, sent.session.amountText)),
+      " Secure Funds Transfer");
   lastRecord_ = history_.WriteHistory(sent.session, main_.ListView1);
   lastContents_ = Contents();
   main_.mnuPrntSession.enabled = true;

@@ -13,27 +13,32 @@ SessionRecord History::WriteHistory(SessionRecord record, const ListView& list) 
   for (const std::string& line : OrganizationLines(list)) text += line + end;
   text += PaymentLine(record) + end + end;
   pending_ += text;  // only a whole record
-  WritePending();
+  TryToWrite("It is kept and written with the next one.");
   return record;
 }
 
 void History::WritePending() {
+  TryToWrite("The program ends, so that it will be missing there.");
+}
+
+void History::TryToWrite(const std::string& ifNot) {
   if (pending_.empty()) return;
   try {
     environment_.files.Append(File(), pending_);
     pending_.clear();
   } catch (const RuntimeError& error) {
-    messages_.Show(
-        "The session could not be written to the history. It is kept and written "
-        "with the next one.\r\n" +
-            std::string(error.what()),
-        BoxIcon::Critical);
+    messages_.Show("The session could not be written to the history. " + ifNot + "\r\n" +
+                       std::string(error.what()),
+                   BoxIcon::Critical);
   }
 }
 
 void History::ShowHistory() {
-  if (!environment_.files.Exists(File())) return;
-  viewer_.ShowPage(File(), "Donation History");
+  if (!environment_.files.Exists(File())) {
+    main_.Label6.caption = kNoHistory;
+    return;
+  }
+  viewer_.ShowPage(Page::File(File()), "Donation History");
 }
 
 }  // namespace benevix

@@ -3,34 +3,41 @@
 #include <string>
 
 #include "core/messages.h"
+#include "forms/frmBVX.h"
 #include "help/information_viewer.h"
 #include "platform/environment.h"
 #include "records/session_record.h"
 
 namespace benevix {
 
+// What a command says that needs the history while there is none.
+inline constexpr const char* kNoHistory = "There is no donation history yet";
+
 // The donation history: a text file that is only appended to.
 class History {
  public:
-  History(Environment& environment, Messages& messages, InformationViewer& viewer)
-      : environment_(environment), messages_(messages), viewer_(viewer) {}
+  History(Environment& environment, Messages& messages, InformationViewer& viewer, frmBVX& main)
+      : environment_(environment), messages_(messages), viewer_(viewer), main_(main) {}
 
   // Appends the session's record in one write and returns it with its time. A failed write is
   // reported to the user, and the record is written with the next one.
   SessionRecord WriteHistory(SessionRecord record, const ListView& list);
 
-  // Retries records that could not be written; called at the end of the program.
+  // Retries records that could not be written, a last time; called at the end of the program.
   void WritePending();
 
-  // Shows the file if there is one.
+  // Shows the file; without one the guidance line says so.
   void ShowHistory();
 
  private:
-  [[nodiscard]] std::string File() const { return environment_.info.Resource("history.dat"); }
+  // `ifNot` tells the user what happens with records that cannot be written.
+  void TryToWrite(const std::string& ifNot);
+  [[nodiscard]] FilePath File() const { return environment_.info.Resource("history.dat"); }
 
   Environment& environment_;
   Messages& messages_;
   InformationViewer& viewer_;
+  frmBVX& main_;
   std::string pending_;
 };
 

@@ -5,29 +5,26 @@
 
 #include "base/lines.h"
 #include "base/runtime_error.h"
+#include "records/history.h"
 #include "records/session_record.h"
 
 namespace benevix {
 
 void Printing::mnuPrntSession_Click() {
-  PrintDocument([this] {
-    PrintWaitNotice();
-    PrintSession(finalization_.LastRecord());
-  });
+  PrintReport([this] { PrintSession(finalization_.LastRecord()); });
 }
 
 void Printing::mnuPrtHistory_Click() {
-  PrintDocument([this] {
-    PrintWaitNotice();
+  PrintReport([this] {
     PrintPageHeading();
     PrintHistory();
     PrintDocumentEnd();
   });
 }
 
-void Printing::PrintMessage(const std::string& from, const std::string& to,
-                            const std::string& subject, const std::string& message) {
-  PrintDocument([&] {
+std::string Printing::PrintMessage(const std::string& from, const std::string& to,
+                                   const std::string& subject, const std::string& message) {
+  return PrintDocument([&] {
     PrintPageHeading();
     PrintLine("From: " + from);
     PrintLine("To: " + to);
@@ -38,13 +35,24 @@ void Printing::PrintMessage(const std::string& from, const std::string& to,
   });
 }
 
-void Printing::PrintDocument(const std::function<void()>& body) {
+std::string Printing::PrintDocument(const std::function<void()>& body) {
+  std::string error;
   try {
     body();
-  } catch (const RuntimeError&) {
-    // What was printed so far is sent, so that the next document does not continue it.
+  } catch (const RuntimeError& failure) {
+    error = failure.what();
   }
+  // After an error, too, so that the next document does not continue this one.
   environment_.printer.EndDoc();
+  return error;
+}
+
+void Printing::PrintReport(const std::function<void()>& body) {
+  PrintWaitNotice();
+  const std::string error = PrintDocument(body);
+  if (error.empty()) return;
+  desk_.Unload(wait_);
+  main_.Label6.caption = error;
 }
 
 void Printing::PrintLine(const std::string& line, int column) {
@@ -98,7 +106,9 @@ void Printing::PrintSession(const SessionRecord& record) {
 void Printing::PrintHistory() {
   constexpr int column = 7;
   PrintTitle(" - Sessions History");
-  const std::string history = environment_.files.ReadAll(environment_.info.Resource("history.dat"));
+  const FilePath file = environment_.info.Resource("history.dat");
+  if (!environment_.files.Exists(file)) throw RuntimeError(kNoHistory);
+  const std::string history = environment_.files.ReadAll(file);
   for (const std::string_view line : Lines(history)) PrintLine(std::string(line), column);
 }
 

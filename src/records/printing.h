@@ -12,10 +12,10 @@
 namespace benevix {
 
 // Prints the session just finalized, the whole history, or a message, on the default printer. A
-// missing history or a printer error ends the printout.
+// missing history or a printer error ends the printout, and the guidance line says so.
 class Printing {
  public:
-  Printing(Environment& environment, frmWait& wait, Desk& desk, const frmBVX& main,
+  Printing(Environment& environment, frmWait& wait, Desk& desk, frmBVX& main,
            const Finalization& finalization)
       : environment_(environment),
         wait_(wait),
@@ -25,13 +25,17 @@ class Printing {
 
   void mnuPrntSession_Click();
   void mnuPrtHistory_Click();
-  // From, To, Subject, an empty line and the message's lines.
-  void PrintMessage(const std::string& from, const std::string& to, const std::string& subject,
-                    const std::string& message);
+  // From, To, Subject, an empty line and the message's lines. Gives what went wrong, empty when
+  // nothing did.
+  std::string PrintMessage(const std::string& from, const std::string& to,
+                           const std::string& subject, const std::string& message);
 
  private:
-  // Runs `body` and ends the document, also after a missing file or a printer error.
-  void PrintDocument(const std::function<void()>& body);
+  // Runs `body` and ends the document, also after a missing file or a printer error, which it
+  // gives.
+  std::string PrintDocument(const std::function<void()>& body);
+  // The same with a please-wait notice and the error in the guidance line.
+  void PrintReport(const std::function<void()>& body);
   void PrintWaitNotice();
   void PrintPageHeading();
   void PrintDocumentEnd();
@@ -44,7 +48,7 @@ class Printing {
   Environment& environment_;
   frmWait& wait_;
   Desk& desk_;
-  const frmBVX& main_;
+  frmBVX& main_;
   const Finalization& finalization_;
 };
 

@@ -29,7 +29,7 @@ void ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
     }
     if (version <= run_.DBVersion || !download) return;
 
-    const std::string temporary = environment_.info.Resource("$shrdb.dat");
+    const FilePath temporary = environment_.info.Resource("$shrdb.dat");
     environment_.files.Replace(temporary, "");
     const std::string list = Download("downloads/db" + reply);
     if (!IsUsable(list)) return noServer();
@@ -47,7 +47,7 @@ void ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
 bool ListUpdate::InstallList() {
   Files& files = environment_.files;
   const ProgramInfo& info = environment_.info;
-  const std::string temporary = info.Resource("$shrdb.dat");
+  const FilePath temporary = info.Resource("$shrdb.dat");
   const bool isList = files.ReadAll(temporary).starts_with(kListHeader);
   if (isList) {
     // The doubled "d" is intended: in an installation that name is a link to sharedb.dat, from
@@ -72,7 +72,7 @@ bool ListUpdate::DownloadUpdater() {
     messages_.ShowMessage(message::kServerBusy, message_kind::kFailedToConnect);
     return false;
   }
-  const std::string file = environment_.info.folder + "/updater.exe";
+  const FilePath file = environment_.info.folder / "updater.exe";
   environment_.files.Replace(file, program);
   environment_.shell.StartProgram(file);
   return true;

@@ -56,7 +56,7 @@ void News::Label12_Click() {
       if (kind == 2) {
         downloadUpdater_();
       } else {
-        viewer_.ShowPage(server_.Base() + "53rv3r/bvxnews.html", frmInfo::kTitle,
+        viewer_.ShowPage(Page::Web(server_.Base() + "53rv3r/bvxnews.html"), frmInfo::kTitle,
                          Attention::KeepsMainDisabled);
       }
     }

@@ -52,7 +52,7 @@ void OrganizationInformation::Contact() {
     messages_.ShowMessage(message::kServiceUnavailable, message_kind::kFailedToConnect);
   }
   if (result != OrganizationContacts::Result::Found) return;
-  if (BeginsWithHttp(contact)) return viewer_.ShowPage(contact);
+  if (BeginsWithHttp(contact)) return viewer_.ShowPage(Page::Web(contact));
   writeTo_(contact);
 }
 
@@ -63,7 +63,7 @@ void OrganizationInformation::WebSite() {
       contacts_.LookupContacts(main_.ListView1.SelectedText(column::kId), contact, web);
   if (result == OrganizationContacts::Result::NoList) return;
   if (result == OrganizationContacts::Result::Found && BeginsWithHttp(web))
-    return viewer_.ShowPage(web);
+    return viewer_.ShowPage(Page::Web(web));
   messages_.ShowMessage(message::kNoWebService, message_kind::kNone);
 }
 

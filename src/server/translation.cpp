@@ -25,11 +25,15 @@ void Translation::Form_Load() {
   boxes[kAddressKey].Write(settings_.GetUserString("comdService"));
 }
 
-void Translation::Close() {
+void Translation::StorePreferences() {
   const auto& boxes = windows_.preferences.Text1;
   settings_.SaveUserString("Language", boxes[kMyLanguage].text);
   settings_.SaveUserString("LangService", boxes[kService].text);
   settings_.SaveUserString("comdService", boxes[kAddressKey].text);
+}
+
+void Translation::Close() {
+  StorePreferences();
   desk_.Unload(windows_.preferences);
 }
 
@@ -57,12 +61,13 @@ std::string Translation::Fetch() const {
 void Translation::Translate() {
   frmInfo& info = windows_.info;
   if (info.Label3.tag != "Yes") return;
+  StorePreferences();
   windows_.preferences.mousePointer = MousePointer::Hourglass;
   const std::string page = TranslatedPage(Fetch());
   windows_.preferences.mousePointer = MousePointer::Default;
-  const std::string file = environment_.info.Resource("tmp.html");
+  const FilePath file = environment_.info.Resource("tmp.html");
   environment_.files.Replace(file, page + "\r\n");
-  viewer_.ShowPage(FromUtf8(file), std::string(info.caption));
+  viewer_.ShowPage(Page::File(file), std::string(info.caption));
   info.Label3.tag.clear();
   info.Label3.visible = false;
   desk_.Unload(windows_.preferences);

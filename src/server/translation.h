@@ -33,10 +33,12 @@ class Translation {
   void Label3_Click();
   void Form_Load();
   void Translate();
-  // Stores the preferences and closes the window; only this stores them.
+  // Stores the preferences and closes the window.
   void Close();
 
  private:
+  // Translate and Close both remember them.
+  void StorePreferences();
   [[nodiscard]] std::string RequestAddress() const;
   // The service's answer, or empty when none came.
   [[nodiscard]] std::string Fetch() const;

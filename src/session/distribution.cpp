@@ -20,6 +20,10 @@ Currency Distribution::Share(std::size_t rowsLeft) const {
 void Distribution::mnuDistribFavs_Click() {
   ListView& list = main_.ListView1;
   std::vector<int> rows = favorites_.Rows();
+  if (rows.empty()) {
+    messages_.Show("None of the organizations in the list is a favorite");
+    return;
+  }
   std::erase_if(rows, [&](int row) { return !list.SubItem(row, column::kRecord).empty(); });
   if (!donation_.RequireDonor()) return;
   if (rows.empty() || Share(rows.size()) == Currency()) {

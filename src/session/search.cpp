@@ -14,16 +14,28 @@ bool Contains(std::string_view text, std::string_view word) {
 
 }  // namespace
 
+void Search::Restart() {
+  startRow_ = 1;
+  window_.NotFound.visible = false;
+}
+
 void Search::Command1_Click() {
   const std::string& word = window_.Text1.text;
   if (word.empty() || database_.List() == nullptr) return;
-  const bool byName = window_.Option1[1].value;
-  int row = byName ? FindByBeginning(word) : FindCountry(word);
-  if (row == 0 && byName) {
-    row = FindByNamePart(word);
-    if (row != 0) startRow_ = row + 1;
-  }
+  const int row = Find(word);
+  const bool goesOn = window_.Option1[1].value && startRow_ > 1;
+  window_.NotFound.caption = goesOn ? "Nothing more found" : "Nothing found";
+  window_.NotFound.visible = row == 0;
   if (row != 0) select_(row);
+}
+
+int Search::Find(const std::string& word) {
+  if (window_.Option1[0].value) return FindCountry(word);
+  const int first = FindByBeginning(word);
+  if (first != 0) return first;
+  const int row = FindByNamePart(word);
+  if (row != 0) startRow_ = row + 1;
+  return row;
 }
 
 int Search::FindCountry(const std::string& word) const {

@@ -17,10 +17,11 @@ class Search {
       : window_(window), main_(main), database_(database), select_(std::move(select)) {}
 
   // Starts again at row 1: the window was loaded or the word changed.
-  void Restart() { startRow_ = 1; }
+  void Restart();
   void Command1_Click();
 
  private:
+  [[nodiscard]] int Find(const std::string& word);
   [[nodiscard]] int FindCountry(const std::string& word) const;
   // The first row with a sub-item that begins with the word.
   [[nodiscard]] int FindByBeginning(const std::string& word) const;

@@ -42,6 +42,10 @@ TEST(NumberText, ReadsTheLeadingNumber) {
                                           "&H100000000 => error",
                                           "&O18 => 1",
                                           "&X => 0",
+                                          "&123 => 83",
+                                          "50% => 50",
+                                          "50.5% => error",
+                                          "1.34& => error",
                                           "1e400 => error"})) {
     EXPECT_EQ(ValText(text), value) << text;
   }
@@ -55,12 +59,35 @@ TEST(NumberText, ReadsTheLeadingNumber) {
 }
 
 TEST(NumberText, RecognizesNumericTexts) {
-  for (const char* text : {"1,000", "$5", "1e5", "&H10", "&O7", "(5)", "5-", "-.5", "5 ", "\t5",
-                           "+5", "5.", "1.5e-3", "$1,234.50", "-$5", "&HFFFF&"}) {
+  for (const char* text : {"1,000",
+                           "$5",
+                           "1e5",
+                           "&H10",
+                           "&O7",
+                           "(5)",
+                           "5-",
+                           "-.5",
+                           "5 ",
+                           "\t5",
+                           "+5",
+                           "5.",
+                           "1.5e-3",
+                           "$1,234.50",
+                           "-$5",
+                           "&HFFFF&",
+                           "1,,0",
+                           "+ 0 ",
+                           " + 0",
+                           "459..",
+                           "( 5 )",
+                           "5$",
+                           "($1,23,,3.4,,,5,,E67$)",
+                           "&123",
+                           "5 -"}) {
     EXPECT_TRUE(IsNumeric(text)) << text;
   }
   for (const char* text : {"",   " ",   ".",   "+",   "1 2", "50%",   "True", "1/2/2003", "(5",
-                           "5)", "-5-", "--5", "$$5", "1,",  ",1",    "1,,0", "1.2.3",    "1e",
+                           "5)", "-5-", "--5", "$$5", "1,",  ",1",    "4..5", "1.2.3",    "1e",
                            "&H", "&HG", "&",   "$",   "5x",  "1e400", "0x10", "nan",      "inf"}) {
     EXPECT_FALSE(IsNumeric(text)) << text;
   }

@@ -16,7 +16,7 @@ const TextCodec kCodec("Benevix");
 class BytesAsFile : public LinuxFiles {
  public:
   explicit BytesAsFile(std::string bytes) : bytes_(std::move(bytes)) {}
-  [[nodiscard]] std::string ReadAll(const std::string&) const override { return bytes_; }
+  [[nodiscard]] std::string ReadAll(const FilePath&) const override { return bytes_; }
 
  private:
   std::string bytes_;
@@ -32,7 +32,7 @@ std::string Scrambled(const std::string& text) {
 std::string Countries(const std::string& bytes) {
   try {
     std::string names;
-    for (const auto& name : ReadCountryList(BytesAsFile(bytes), "", kCodec)) names += name + ",";
+    for (const auto& name : ReadCountryList(BytesAsFile(bytes), {}, kCodec)) names += name + ",";
     return names;
   } catch (const RuntimeError&) {
     return "error";

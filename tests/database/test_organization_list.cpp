@@ -17,7 +17,7 @@ using namespace std::string_literals;
 std::string Loaded(const std::string& bytes) {
   const TempFolder folder;
   WriteFile(folder / "list", bytes);
-  const OrganizationList list(*LinuxFiles().Open(folder / "list"));
+  const OrganizationList list(*LinuxFiles().Open(FilePath(folder / "list")));
   std::string text;
   std::vector<int> headings;
   for (int row = 1; row <= list.Count(); ++row) {
@@ -79,7 +79,7 @@ TEST(OrganizationList, ReadsEveryKindOfLine) {
   for (const auto& [bytes, list] : cases) EXPECT_EQ(Loaded(bytes), list) << bytes;
   for (const std::string path : {"/", "./missing"}) {
     try {
-      const OrganizationList list(*LinuxFiles().Open(path));
+      const OrganizationList list(*LinuxFiles().Open(FilePath(path)));
       ADD_FAILURE() << path;
     } catch (const RuntimeError& error) {
       EXPECT_TRUE(std::string(error.what()).find(path) != std::string::npos) << error.what();

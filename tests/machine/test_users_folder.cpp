@@ -35,8 +35,8 @@ class UsersFolder : public testing::Test {
   void InstallList(const std::string& list) const {
     LinuxFiles files;
     WriteFile(Users("$shrdb.dat"), list);
-    files.Remove(Users("sharedb.dat"));
-    files.Copy(Users("$shrdb.dat"), Users("/shareddb.dat"));
+    files.Remove(FilePath(Users("sharedb.dat")));
+    files.Copy(FilePath(Users("$shrdb.dat")), FilePath(Users("/shareddb.dat")));
   }
 
   TempFolder folder_;

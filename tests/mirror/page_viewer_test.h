@@ -78,8 +78,12 @@ class PageViewerTest : public testing::Test {
     }
     return nullptr;
   }
-  void Show(const std::string& address) {
-    host_.Navigate(address);
+  static Page PageAt(const std::string& address, const std::string& anchor = {}) {
+    if (address.starts_with("http")) return Page::Web(address);
+    return Page::File(FilePath(address), anchor);
+  }
+  void Show(const std::string& address, const std::string& anchor = {}) {
+    host_.Navigate(PageAt(address, anchor));
     QObject* view = Engine("QWebEngineView");
     ASSERT_NE(view, nullptr) << Notice().toStdString();
     EXPECT_TRUE(QSignalSpy(view, SIGNAL(loadFinished(bool))).wait(20000));

@@ -1,6 +1,8 @@
 // Every window as users of the keyboard and of screen readers find it.
 
+#include <QAbstractItemView>
 #include <QAccessible>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -8,6 +10,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QWheelEvent>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -55,6 +58,21 @@ TEST_F(WindowsTest, EveryControlHasAWidgetAndEveryWidgetAControl) {
       }
     }
   }
+}
+
+TEST_F(WindowsTest, CountriesAreChosenInTheirList) {
+  frmPersInfo& contact = forms.Get<frmPersInfo>();
+  input.Enter([&] { contact.Combo1.list = {"Canada", contact.Combo1.text = "Kenya", "U.S.A."}; });
+  auto& combo = *qobject_cast<QComboBox*>(mirror.BindingOf(contact)->WidgetOf(contact.Combo1));
+  combo.setFocus();
+  QTest::keyClick(&combo, Qt::Key_U);
+  EXPECT_TRUE(combo.view()->isVisible());
+  EXPECT_EQ(contact.Combo1.text, "Kenya");
+  QTest::keyClick(combo.view(), Qt::Key_Return);
+  EXPECT_EQ(contact.Combo1.text, "U.S.A.");
+  QWheelEvent wheel({}, {}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(&combo, &wheel);
+  EXPECT_EQ(contact.Combo1.text, "U.S.A.");
 }
 
 // A widget that only contains others needs no name.

@@ -66,21 +66,37 @@ TEST_F(PageViewerTest, NothingIsKept) {
 
 TEST_F(PageViewerTest, LocalPageOpensAtItsAnchor) {
   const QByteArray far = "<p style='height:3000px'>far</p>";
-  const std::string file =
-      Put(QString::fromUtf8("C# é/my help.html"), far + "<A NAME=\"Getting%20Started\">Start</A>" +
-                                                      far + "<A NAME=\"Fees \xE9\">Fees</A>" + far);
-  std::string dosPath = file;
-  std::replace(dosPath.begin(), dosPath.end(), '/', '\\');
+  const std::string file = Put(QString::fromUtf8("C# é\\Ω/my help.html"),
+                               far + "<A NAME=\"Getting%20Started\">Start</A>" + far +
+                                   "<A NAME=\"Fees \xE9\">Fees</A>" + far);
   const QString top = "Math.round(document.anchors[%1].getBoundingClientRect().top)";
-  Show(dosPath + "#Getting Started");
+  Show(file, "Getting Started");
   EXPECT_TRUE(Becomes(top.arg(0), "0"));
   EXPECT_EQ(hostLine_->text(), "my help.html");
   for (int i = 0; i < 2; ++i) {  // the second time with the page shown already
-    Show(file + "#Fees \xE9");
+    Show(file, "Fees \xE9");
     EXPECT_TRUE(Becomes(top.arg(1), "0"));
     QTest::keyClick(window_.focusWidget(), Qt::Key_Home);
     EXPECT_TRUE(Becomes("window.scrollY", "0"));
   }
+}
+
+TEST_F(PageViewerTest, NeighborsAreFollowedAndLeadBack) {
+  const std::string file = Put("first.html", "<a style='display:block' href='next.html#end'>1</a>");
+  Put("next.html", "<a style='display:block' href='../out.html'>2</a>");
+  bool canGoBack = false;
+  host_.onCanGoBackChanged = [&](bool can) { canGoBack = can; };
+  Show(file);
+  ClickAt(20, 15);
+  EXPECT_TRUE(ShowsText("2"));
+  EXPECT_EQ(hostLine_->text(), "next.html");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return canGoBack; }));
+  ClickAt(20, 15);  // nothing outside the folder
+  QTest::qWait(300);
+  EXPECT_TRUE(ShowsText("2"));
+  host_.GoBack();
+  EXPECT_TRUE(ShowsText("1"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !canGoBack; }));
 }
 
 TEST_F(PageViewerTest, TextFileIsShownAsItStands) {
@@ -184,11 +200,11 @@ TEST_F(PageViewerTest, MailLinkGoesToTheMailProgram) {
 TEST_F(PageViewerTest, PagesMayEndAtAnyTime) {
   const std::string file = Put("page.html", "<p>last</p>");
   for (int i = 0; i < 10; ++i) {
-    host_.Navigate(file);
+    host_.Navigate(PageAt(file));
     QTest::qWait(20 * i);
   }
   EXPECT_TRUE(ShowsText("last"));
-  host_.Navigate(file);
+  host_.Navigate(PageAt(file));
   delete container_;
   delete hostLine_;
   QTest::qWait(300);
@@ -196,11 +212,11 @@ TEST_F(PageViewerTest, PagesMayEndAtAnyTime) {
 
 TEST_F(PageViewerTest, WhatIsNoPageIsNamed) {
   for (const std::string address : {"page.html", "ftp://x/y", "http:///x", "/no/such.html"}) {
-    host_.Navigate(address);
+    host_.Navigate(PageAt(address));
     EXPECT_TRUE(Notice().contains(QString::fromStdString(address))) << address;
     EXPECT_EQ(hostLine_->text(), "");
   }
-  host_.Navigate("");
+  host_.Navigate({});
   EXPECT_EQ(Notice(), "");
 }
 
@@ -211,7 +227,7 @@ TEST_F(PageViewerTest, NoEngineForTheAdministrator) {
     environment.remove(kSandboxVariable);
     return RunAgain(QCoreApplication::applicationFilePath(), environment);
   }
-  host_.Navigate("https://host.example/pay?a=b c");
+  host_.Navigate(Page::Web("https://host.example/pay?a=b c"));
   EXPECT_TRUE(Notice().contains("administrator"));
   EXPECT_EQ(hostLine_->text(), "host.example");
   QFile maps("/proc/self/maps");
@@ -229,7 +245,7 @@ TEST_F(PageViewerTest, NoEngineWithoutThePlugIn) {
     ASSERT_TRUE(QFile::copy(program, alone));
     return RunAgain(alone, QProcessEnvironment::systemEnvironment());
   }
-  host_.Navigate("http://host.example/");
+  host_.Navigate(Page::Web("http://host.example/"));
   EXPECT_TRUE(Notice().contains("not installed"));
 }
 

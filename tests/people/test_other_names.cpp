@@ -10,7 +10,7 @@ namespace {
 TEST(OtherNames, AreStoredInTheOrderOfTyping) {
   const TempFolder folder;
   LinuxFiles files;
-  OtherNames names(files, folder / "names");
+  OtherNames names(files, FilePath(folder / "names"));
   ComboBox combo;
   combo.list = {"own"};
   names.LoadOtherNames(combo);
@@ -18,7 +18,7 @@ TEST(OtherNames, AreStoredInTheOrderOfTyping) {
   EXPECT_EQ(ReadFile(folder / "names"), "Smith, J\xF6rg\r\nB\r\nB\r\n");
   WriteFile(folder / "names", "Smith, J\xF6rg\r\n\r\nno end");
   names.LoadOtherNames(combo);
-  OtherNames unreadable(files, folder / ".");
+  OtherNames unreadable(files, FilePath(folder / "."));
   unreadable.LoadOtherNames(combo);
   unreadable.AppendOtherName("not written");
   EXPECT_EQ(combo.list, (std::vector<std::string>{"own", "Smith, J\xF6rg", "", "no end"}));

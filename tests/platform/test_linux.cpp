@@ -15,15 +15,15 @@ namespace {
 TEST(LinuxFiles, FailuresChangeNothing) {
   const TempFolder folder;
   LinuxFiles files;
-  const std::string history = folder / "history.dat";
+  const FilePath history(folder / "history.dat");
   const std::string large(100, 'x');
   files.Append(history, "first\r\n");
   LimitFileSize(20);
   EXPECT_THROW(files.Append(history, large), RuntimeError);
-  EXPECT_THROW(files.Append(folder / "new.dat", large), RuntimeError);
+  EXPECT_THROW(files.Append(FilePath(folder / "new.dat"), large), RuntimeError);
   EXPECT_THROW(files.Replace(history, large), RuntimeError);
   LimitFileSize();
-  EXPECT_EQ(ReadFile(history), "first\r\n");
+  EXPECT_EQ(ReadFile(history.Utf8()), "first\r\n");
   const std::filesystem::directory_iterator entries(folder / "");
   EXPECT_EQ(std::distance(begin(entries), end(entries)), 1);
   files.Append(history, "second\r\n");
@@ -33,17 +33,17 @@ TEST(LinuxFiles, FailuresChangeNothing) {
 TEST(LinuxFiles, FollowsLinks) {
   const TempFolder folder;
   LinuxFiles files;
-  const std::string real = folder / "real.dat", link = folder / "link.dat";
+  const FilePath real(folder / "real.dat"), link(folder / "link.dat"), from(folder / "from.dat");
   const std::string large(3'000'000, 'l');
-  WriteFile(real, "a longer old text");
-  WriteFile(folder / "from.dat", large);
-  std::filesystem::create_symlink(real, link);
+  WriteFile(real.Utf8(), "a longer old text");
+  WriteFile(from.Utf8(), large);
+  std::filesystem::create_symlink(real.Utf8(), link.Utf8());
   files.Replace(link, "new");
-  EXPECT_EQ(ReadFile(real), "new");
-  files.Copy(folder / "from.dat", link);
-  EXPECT_TRUE(std::filesystem::is_symlink(link));
+  EXPECT_EQ(ReadFile(real.Utf8()), "new");
+  files.Copy(from, link);
+  EXPECT_TRUE(std::filesystem::is_symlink(link.Utf8()));
   EXPECT_THROW(files.Copy(link, real), RuntimeError);  // the same file
-  EXPECT_THROW(files.Copy(folder / "", real), RuntimeError);
+  EXPECT_THROW(files.Copy(FilePath(folder / ""), real), RuntimeError);
   EXPECT_EQ(files.ReadAll(real), large);
 }
 
@@ -51,22 +51,22 @@ TEST(LinuxShell, FindsTheDesktopFolder) {
   const TempFolder home;
   setenv("HOME", (home / "").c_str(), 1);
   setenv("XDG_CONFIG_HOME", "relative/is/ignored", 1);
-  EXPECT_EQ(LinuxShell().SpecialFolder(kDesktopFolder), home / "Desktop");
+  EXPECT_EQ(LinuxShell().SpecialFolder(kDesktopFolder).Utf8(), home / "Desktop");
   std::filesystem::create_directory(home / ".config");
   WriteFile(home / ".config/user-dirs.dirs",
             "# XDG_DESKTOP_DIR=\"/no\"\nXDG_DESKTOP_DIR=\"$HOME/My \\\"Desk\\\"/\"\n");
-  EXPECT_EQ(LinuxShell().SpecialFolder(kDesktopFolder), home / "My \"Desk\"");
+  EXPECT_EQ(LinuxShell().SpecialFolder(kDesktopFolder).Utf8(), home / "My \"Desk\"");
 }
 
 TEST(LinuxShell, StartsPrograms) {
   const TempFolder folder;
   LinuxShell shell;
   WriteFile(folder / "updater.exe", "#!/bin/sh\necho started > \"$0.ran\"\n");
-  shell.StartProgram(folder / "updater.exe");
+  shell.StartProgram(FilePath(folder / "updater.exe"));
   wait(nullptr);
   EXPECT_EQ(ReadFile(folder / "updater.exe.ran"), "started\n");
   WriteFile(folder / "page.exe", "<html>not found</html>");
-  EXPECT_THROW(shell.StartProgram(folder / "page.exe"), RuntimeError);
+  EXPECT_THROW(shell.StartProgram(FilePath(folder / "page.exe")), RuntimeError);
 }
 
 TEST(RandomGenerator, SameSeedGivesDifferentNumbers) {
@@ -87,8 +87,8 @@ TEST(LinuxShell, CopiesASystemEntryOutsideOfItsFolder) {
   setenv("XDG_DATA_HOME", (folder / "data").c_str(), 1);
   setenv("XDG_DATA_DIRS", (folder / "share").c_str(), 1);
   LinuxShell shell;
-  shell.CopyIntoFolder(shell.SpecialFolder(kProgramsFolder) + "/benevix/benevix.desktop",
-                       folder / "Desktop");
+  shell.CopyIntoFolder(shell.SpecialFolder(kProgramsFolder) / "benevix/benevix.desktop",
+                       FilePath(folder / "Desktop"));
   EXPECT_EQ(ReadFile(folder / "Desktop/benevix.desktop"), "entry");
   EXPECT_EQ(access((folder / "Desktop/benevix.desktop").c_str(), X_OK), 0);
 }

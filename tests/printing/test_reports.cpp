@@ -61,7 +61,7 @@ TEST_F(ReportsTest, PrintsTheSessionAsInTheHistory) {
   TypeAndEnter(forms_.Get<frmBVX>().Text1[2], "50");
   input.Click(forms_.Get<frmBVX>().Command1);
   PrintedPages pages = Print(forms_.Get<frmBVX>().mnuPrntSession, "Current Session", 1);
-  const std::string history = ReadFile(fixture_.world.info.Resource("history.dat"));
+  const std::string history = ReadFile(fixture_.world.info.Resource("history.dat").Utf8());
   EXPECT_NE(history.find("Organization: Water For All -  Amount: $50.00"), std::string::npos);
   for (const std::string_view line : Lines(history)) pages.ExpectLine(1, std::string(line));
   ExpectFooter(pages);
@@ -75,7 +75,7 @@ TEST_F(ReportsTest, PrintsAMissingAndThenALongHistory) {
             " -  Amount: $1.25\r\n\r\n";
   }
   text += std::string(3000, 'x') + "\r\n\nthe last line has no end, caf\xE9";
-  WriteFile(fixture_.world.info.Resource("history.dat"), text);
+  WriteFile(fixture_.world.info.Resource("history.dat").Utf8(), text);
   PrintedPages pages = PrintHistory(2);
   EXPECT_GE(pages.Count(), 5U);
   for (const std::string_view line : Lines(text)) pages.ExpectLine(7, std::string(line));

@@ -20,7 +20,7 @@ class ProgramTest : public testing::Test, public ProgramFixture {
   void OfferList(const std::string& version, const std::string& list) {
     world.site.Put("53rv3r/dbcurrver.dat", {.text = version});
     world.site.Put("downloads/db" + version, {.text = list});
-    std::filesystem::create_symlink("sharedb.dat", world.info.Resource("shareddb.dat"));
+    std::filesystem::create_symlink("sharedb.dat", world.info.Resource("shareddb.dat").Utf8());
   }
   void ExpectBarMovedToItsEnd() {
     ASSERT_GT(values.size(), 2U);
@@ -36,13 +36,13 @@ class ProgramTest : public testing::Test, public ProgramFixture {
 };
 
 TEST_F(ProgramTest, ANewListIsInstalledAndFoundThroughTheLink) {
-  const std::string link = world.info.Resource("shareddb.dat");
+  const std::string link = world.info.Resource("shareddb.dat").Utf8();
   OfferList("2.0013", ";QUORL2.0013\r\n[Peru]\r\n00000002 Newer, B\r\n");
   Enter();
   EXPECT_EQ(forms.Get<frmBVX>().ListView1.Text(1), "Peru");
   EXPECT_FLOAT_EQ(program.Run().DBVersion, 2.0013F);
   EXPECT_TRUE(std::filesystem::is_symlink(link));
-  EXPECT_FALSE(std::filesystem::is_symlink(world.info.Resource("sharedb.dat")));
+  EXPECT_FALSE(std::filesystem::is_symlink(world.info.Resource("sharedb.dat").Utf8()));
   EXPECT_FALSE(world.files.Exists(world.info.Resource("$shrdb.dat")));
   world.site.Down();
   program.NewSession();
@@ -77,7 +77,7 @@ TEST_F(ProgramTest, AnInvalidUpdaterIsNeitherSavedNorStarted) {
     program.TheInput().Click(forms.Get<frmBVX>().Label12);
     ASSERT_EQ(boxes.shown.size(), 2U);
     EXPECT_TRUE(boxes.shown[1].text.starts_with("Benevix - Failed to Connect|The server may be"));
-    EXPECT_FALSE(world.files.Exists(world.info.folder + "/updater.exe"));
+    EXPECT_FALSE(world.files.Exists(world.info.folder / "updater.exe"));
   }
   EXPECT_TRUE(world.shell.started.All().empty());
   EXPECT_FALSE(program.TheDesk().Ended());

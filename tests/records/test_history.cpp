@@ -26,10 +26,10 @@ class HistoryTest : public testing::Test, public ProgramFixture {
            indent + "Payment: $7.50 - BVX Fee: $ 2. - CC Fee: $.5\r\n\r\n";
   }
 
-  std::string path_ = world.info.Resource("history.dat");
+  std::string path_ = world.info.Resource("history.dat").Utf8();
   Environment environment_ = program.TheEnvironment();
   InformationViewer viewer_{program.TheForms().Get<frmInfo>(), program.TheDesk(), waits};
-  History history_{environment_, program.TheMessages(), viewer_};
+  History history_{environment_, program.TheMessages(), viewer_, program.TheForms().Get<frmBVX>()};
 };
 
 TEST_F(HistoryTest, FailedWritesAreReportedKeptAndRetried) {
@@ -50,12 +50,15 @@ TEST_F(HistoryTest, FailedWritesAreReportedKeptAndRetried) {
   EXPECT_EQ(ReadFile(path_), Record("A") + Record("B") + Record("C") + Record("D"));
   LimitFileSize(std::filesystem::file_size(path_) + 10);
   Write("E");
+  EXPECT_NE(boxes.shown.back().text.find("written with the next one"), std::string::npos);
+  history_.WritePending();  // as at the end of the program, when none follows
+  EXPECT_NE(boxes.shown.back().text.find("The program ends"), std::string::npos);
   LimitFileSize();
   EXPECT_EQ(ReadFile(path_), Record("A") + Record("B") + Record("C") + Record("D"));
   history_.WritePending();
   history_.WritePending();
   EXPECT_TRUE(ReadFile(path_).ends_with(Record("D") + Record("E")));
-  EXPECT_EQ(boxes.shown.size(), 3U);
+  EXPECT_EQ(boxes.shown.size(), 4U);
 }
 
 }  // namespace

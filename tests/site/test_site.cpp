@@ -5,6 +5,7 @@
 #include "../platform/temp_files.h"
 #include "base/number_text.h"
 #include "benevix-site/site.h"
+#include "database/organization_list.h"
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_shell.h"
 #include "server/translation.h"
@@ -96,6 +97,17 @@ TEST_F(ServedSite, OffersANewerListUnderItsVersion) {
   EXPECT_EQ(list.find('<'), std::string::npos);
 }
 
+TEST_F(ServedSite, TellsAboutEveryListedOrganization) {
+  const FilePath file(std::string(PROJECT_FOLDER) + "/resources/sharedb.dat");
+  const OrganizationList list(*LinuxFiles().Open(file));
+  for (int row = 1; row <= list.Count(); ++row) {
+    if (list.Id(row) == 0) continue;
+    const SiteAnswer page = site_.Answer("/infoDB/" + list.Text(row, column::kId) + ".dat");
+    EXPECT_TRUE(page.body.starts_with(list.Text(row, column::kOrganization))) << row;
+    EXPECT_EQ(page.body.find("404"), std::string::npos) << row;
+  }
+}
+
 TEST_F(ServedSite, EachRequestGetsTheNextKindOfNews) {
   std::string kinds;
   for (int i = 0; i < 5; ++i) {
@@ -131,13 +143,13 @@ TEST_F(ServedSite, TranslationsAreAcceptedByTheProgram) {
 
 TEST_F(ServedSite, TheUpdaterDeletesItself) {
   const TempFolder folder;
-  const std::string file = folder / "updater.exe";
+  const FilePath file(folder / "updater.exe");
   LinuxFiles().Replace(file, site_.Answer("/downloads/updater.exe").body);
   LinuxShell().StartProgram(file);
   int status = 1;
   wait(&status);
   EXPECT_EQ(status, 0);
-  EXPECT_FALSE(std::filesystem::exists(file));
+  EXPECT_FALSE(LinuxFiles().Exists(file));
 }
 
 }  // namespace

@@ -159,17 +159,27 @@ class PageViewerBinding : public WidgetBinding<PageViewer, QWidget> {
  public:
   PageViewerBinding(PageViewer& viewer, QWidget& widget, BindingContext& context)
       : WidgetBinding(viewer, widget, context),
-        host_(&widget, widget.window()->findChild<QLabel*>(QStringLiteral("hostLine"))) {}
+        host_(&widget, widget.window()->findChild<QLabel*>(QStringLiteral("hostLine"))) {
+    host_.onCanGoBackChanged = [this](bool canGoBack) {
+      context_.input.MovedOn(control_, canGoBack);
+    };
+  }
 
  private:
   void ApplyKind() override {
-    if (navigations_ == control_.navigations) return;
-    navigations_ = control_.navigations;
-    host_.Navigate(control_.address);
+    if (navigations_ != control_.navigations) {
+      navigations_ = control_.navigations;
+      host_.Navigate(control_.page);
+    }
+    if (backs_ != control_.backs) {
+      backs_ = control_.backs;
+      host_.GoBack();
+    }
   }
 
   PageViewHost host_;
   int navigations_ = 0;
+  int backs_ = 0;
 };
 
 }  // namespace

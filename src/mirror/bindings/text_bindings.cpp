@@ -1,7 +1,10 @@
 // The bindings of boxes that text is typed into.
 
+#include <QAbstractItemView>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTimer>
@@ -99,6 +102,25 @@ class MultiLineBinding : public WidgetBinding<TextBox, QPlainTextEdit> {
   }
 };
 
+// A box that only chooses opens its list for the keys that would choose unseen, and leaves the
+// wheel to the window: what is chosen is chosen in the list.
+class ListTyping : public QObject {
+ public:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Wheel) return true;
+    if (event->type() != QEvent::KeyPress) return false;
+    auto& combo = *static_cast<QComboBox*>(watched);
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    const bool types = !key.text().isEmpty() && key.text()[0].isPrint();
+    const bool moves = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down ||
+                       (key.key() >= Qt::Key_Home && key.key() <= Qt::Key_PageDown);
+    if (!types && !moves) return false;
+    combo.showPopup();
+    if (types && !key.text()[0].isSpace()) QCoreApplication::sendEvent(combo.view(), event);
+    return true;
+  }
+};
+
 class ComboBinding : public WidgetBinding<ComboBox, QComboBox> {
  public:
   ComboBinding(ComboBox& combo, QComboBox& widget, BindingContext& context)
@@ -106,7 +128,10 @@ class ComboBinding : public WidgetBinding<ComboBox, QComboBox> {
     QObject::connect(&widget, &QComboBox::activated, &widget, [this](int index) {
       if (!context_.applying) context_.input.Pick(control_, index);
     });
-    if (!combo.editable) return;
+    if (!combo.editable) {
+      widget.installEventFilter(&typing_);
+      return;
+    }
     widget.lineEdit()->setAccessibleName(widget.accessibleName());
     widget.setCompleter(nullptr);
     widget.setValidator(std::make_unique<TypedText>(
@@ -139,6 +164,7 @@ class ComboBinding : public WidgetBinding<ComboBox, QComboBox> {
     widget_.setCurrentIndex(-1);
   }
 
+  ListTyping typing_;
   std::vector<std::string> listed_;
 };
 

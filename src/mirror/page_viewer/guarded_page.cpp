@@ -86,18 +86,25 @@ bool GuardedPage::acceptNavigationRequest(const QUrl& to, NavigationType type, b
   if (scheme == "mailto" && type == NavigationTypeLinkClicked) QDesktopServices::openUrl(to);
   if (!isMainFrame) return scheme == "about" || scheme == "data" || scheme == "blob";
   const QUrl file = TextFileScheme::FileAddress(to);
-  return file.isLocalFile() && MayShowFile(file, type);
+  return file.isLocalFile() && AcceptFile(file, type);
 }
 
-// The program's own requests count as typed; a local page may link to files in its own folder.
-bool GuardedPage::MayShowFile(const QUrl& file, NavigationType type) const {
+// The program's own requests count as typed; a local page may link to files in its own folder. The
+// engine lets a page reach no other file, so that such a link becomes a request of the program.
+bool GuardedPage::AcceptFile(const QUrl& file, NavigationType type) {
   if (type == NavigationTypeTyped || type == NavigationTypeReload ||
       type == NavigationTypeBackForward) {
     return true;
   }
   const QUrl from = TextFileScheme::FileAddress(url());
+  if (file.matches(from, QUrl::RemoveFragment)) return true;
   constexpr auto folder = QUrl::RemoveFilename | QUrl::RemoveFragment | QUrl::RemoveQuery;
-  return from.isLocalFile() && file.adjusted(folder) == from.adjusted(folder);
+  const bool isNeighbor = from.isLocalFile() && file.adjusted(folder) == from.adjusted(folder);
+  if (isNeighbor && type == NavigationTypeLinkClicked) {
+    QMetaObject::invokeMethod(
+        this, [this, file] { setUrl(file); }, Qt::QueuedConnection);
+  }
+  return false;
 }
 
 }  // namespace benevix

@@ -15,7 +15,8 @@ class GuardedPage : public QWebEnginePage {
   bool acceptNavigationRequest(const QUrl& to, NavigationType type, bool isMainFrame) override;
 
  private:
-  [[nodiscard]] bool MayShowFile(const QUrl& file, NavigationType type) const;
+  // Whether the navigation may go on; a link to a neighbour is followed instead.
+  bool AcceptFile(const QUrl& file, NavigationType type);
 };
 
 }  // namespace benevix

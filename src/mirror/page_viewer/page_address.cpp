@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <algorithm>
 
 #include "base/runtime_error.h"
 #include "base/text.h"
@@ -18,27 +17,20 @@ bool IsWebAddress(const std::string& address) {
 
 }  // namespace
 
-QUrl PageAddress(const std::string& address) {
-  if (IsWebAddress(address)) return WireUrl(address);
-
-  std::string path = address;
-  std::string anchor;
-  // A # can also be part of a folder's name.
-  const std::size_t mark = address.rfind('#');
-  if (mark != std::string::npos && mark > address.find_last_of("/\\")) {
-    path = address.substr(0, mark);
-    anchor = address.substr(mark + 1);
+QUrl PageAddress(const Page& page) {
+  if (IsWebAddress(page.web)) return WireUrl(page.web);
+  const QString file = QString::fromStdString(page.file.Utf8());
+  if (!page.web.empty() || !QDir::isAbsolutePath(file)) {
+    throw RuntimeError("\"" + page.Utf8().substr(0, 200) + "\" is no address of a page");
   }
-  std::replace(path.begin(), path.end(), '\\', '/');
-  const QString file = QString::fromStdString(path);
   const QFileInfo info(file);
-  if (!QDir::isAbsolutePath(file)) {
-    throw RuntimeError("\"" + ToUtf8(address).substr(0, 200) + "\" is no address of a page");
+  if (!info.isFile() || !info.isReadable()) {
+    throw RuntimeError("The file " + page.file.Utf8() + " cannot be read");
   }
-  if (!info.isFile() || !info.isReadable())
-    throw RuntimeError("The file " + path + " cannot be read");
   QUrl url = QUrl::fromLocalFile(file);
-  if (!anchor.empty()) url.setFragment(QString::fromStdString(ToUtf8(anchor)), QUrl::DecodedMode);
+  if (!page.anchor.empty()) {
+    url.setFragment(QString::fromStdString(ToUtf8(page.anchor)), QUrl::DecodedMode);
+  }
   return url;
 }
 

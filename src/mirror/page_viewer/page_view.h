@@ -11,8 +11,9 @@ namespace benevix {
 
 // What a page view reports, always from the event loop and never after its end.
 struct PageViewEvents {
-  std::function<void(const QUrl&)> shown;  // the address that is shown from now on
-  std::function<void()> stopped;           // the page has crashed; the view is of no more use
+  std::function<void(const QUrl&)> shown;      // the address that is shown from now on
+  std::function<void(bool)> canGoBackChanged;  // whether there is a page before it
+  std::function<void()> stopped;               // the page has crashed; the view is of no more use
 };
 
 // One embedded page. All that it keeps (cookies, history) is gone with the view.
@@ -20,6 +21,7 @@ class PageView {
  public:
   virtual ~PageView() = default;
   [[nodiscard]] virtual QWidget* Widget() = 0;  // owned by the view
+  virtual void GoBack() = 0;
 };
 
 // The root object of the plug-in.
@@ -33,4 +35,4 @@ class PageViewFactory {
 
 }  // namespace benevix
 
-Q_DECLARE_INTERFACE(benevix::PageViewFactory, "benevix.PageViewFactory/1")
+Q_DECLARE_INTERFACE(benevix::PageViewFactory, "benevix.PageViewFactory/2")

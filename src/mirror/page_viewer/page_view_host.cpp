@@ -45,14 +45,18 @@ PageViewHost::~PageViewHost() {
 
 // Each page has a view of its own, so that it starts at its top or its anchor, and without anything
 // of the page before.
-void PageViewHost::Navigate(const std::string& address) {
+void PageViewHost::Navigate(const Page& page) {
   Clear();
-  if (address.empty()) return;
+  if (page.Utf8().empty()) return;
   try {
-    ShowPage(PageAddress(address));
+    ShowPage(PageAddress(page));
   } catch (const RuntimeError& error) {
     ShowNotice(QString::fromStdString(error.what()));
   }
+}
+
+void PageViewHost::GoBack() {
+  if (view_) view_->GoBack();
 }
 
 void PageViewHost::Clear() {
@@ -80,6 +84,7 @@ void PageViewHost::ShowPage(const QUrl& address) {
   }
   PageViewEvents events;
   events.shown = [this](const QUrl& shown) { SetAddress(shown); };
+  events.canGoBackChanged = [this](bool canGoBack) { onCanGoBackChanged(canGoBack); };
   events.stopped = [this] {
     view_.reset();
     ShowNotice(QStringLiteral("The page has stopped working. You can open it in your browser."));

@@ -2,9 +2,10 @@
 
 #include <QPointer>
 #include <QUrl>
+#include <functional>
 #include <memory>
-#include <string>
 
+#include "base/page.h"
 #include "mirror/page_viewer/page_view.h"
 
 class QLabel;
@@ -22,9 +23,15 @@ class PageViewHost {
   PageViewHost(const PageViewHost&) = delete;
   PageViewHost& operator=(const PageViewHost&) = delete;
 
-  // Shows a page in place of the one before; the address is one for PageAddress. An address that
-  // cannot be shown gives a notice, an empty one an empty view.
-  void Navigate(const std::string& address);
+  // Called when the user has moved on and when GoBack leads nowhere any more.
+  std::function<void(bool canGoBack)> onCanGoBackChanged = [](bool) {};
+
+  // Shows a page in place of the one before. One that cannot be shown gives a notice, an empty one
+  // an empty view.
+  void Navigate(const Page& page);
+
+  // To the page from which the user came here by a link.
+  void GoBack();
 
   // Closes the page and forgets all that it kept.
   void Clear();

@@ -1,5 +1,6 @@
 #include "mirror/page_viewer/web_engine_page_view.h"
 
+#include <QAction>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QQuickWindow>
@@ -43,6 +44,8 @@ WebEnginePageView::WebEnginePageView(const QUrl& address, QWidget* parent,
   view_->setPage(page);
   connect(page, &QWebEnginePage::urlChanged, this,
           [shown = events.shown](const QUrl& url) { shown(TextFileScheme::FileAddress(url)); });
+  connect(page->action(QWebEnginePage::Back), &QAction::enabledChanged, this,
+          events.canGoBackChanged);
   // Queued, because the receiver destroys the view.
   connect(page, &QWebEnginePage::renderProcessTerminated, this, events.stopped,
           Qt::QueuedConnection);
@@ -55,6 +58,10 @@ WebEnginePageView::~WebEnginePageView() {
 
 QWidget* WebEnginePageView::Widget() {
   return view_;
+}
+
+void WebEnginePageView::GoBack() {
+  if (view_ != nullptr) view_->back();
 }
 
 std::unique_ptr<PageView> WebEnginePageViewFactory::Show(const QUrl& address, QWidget* parent,

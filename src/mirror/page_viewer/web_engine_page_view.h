@@ -19,6 +19,7 @@ class WebEnginePageView : public QObject, public PageView {
   ~WebEnginePageView() override;
 
   [[nodiscard]] QWidget* Widget() override;
+  void GoBack() override;
 
  private:
   QWebEngineProfile profile_;  // off the record: nothing reaches the disk
@@ -28,7 +29,7 @@ class WebEnginePageView : public QObject, public PageView {
 
 class WebEnginePageViewFactory : public QObject, public PageViewFactory {
   Q_OBJECT
-  Q_PLUGIN_METADATA(IID "benevix.PageViewFactory/1")
+  Q_PLUGIN_METADATA(IID "benevix.PageViewFactory/2")
   Q_INTERFACES(benevix::PageViewFactory)
 
  public:

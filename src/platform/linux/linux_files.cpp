@@ -106,16 +106,16 @@ std::string ResolveLinks(const std::string& path) {
 
 }  // namespace
 
-bool LinuxFiles::Exists(const std::string& path) const {
-  return access(path.c_str(), F_OK) == 0;
+bool LinuxFiles::Exists(const FilePath& path) const {
+  return access(path.Utf8().c_str(), F_OK) == 0;
 }
 
-std::unique_ptr<FileReader> LinuxFiles::Open(const std::string& path) const {
-  return std::make_unique<LinuxFileReader>(path);
+std::unique_ptr<FileReader> LinuxFiles::Open(const FilePath& path) const {
+  return std::make_unique<LinuxFileReader>(path.Utf8());
 }
 
-std::string LinuxFiles::ReadAll(const std::string& path) const {
-  const OpenFile file(path, O_RDONLY);
+std::string LinuxFiles::ReadAll(const FilePath& path) const {
+  const OpenFile file(path.Utf8(), O_RDONLY);
   const auto size = static_cast<std::size_t>(file.Status().st_size);
   std::string bytes = file.Read(size + 1);  // the extra byte detects the end in one read
   while (bytes.size() > size) {
@@ -126,8 +126,8 @@ std::string LinuxFiles::ReadAll(const std::string& path) const {
   return bytes;
 }
 
-void LinuxFiles::Replace(const std::string& path, const std::string& bytes) {
-  const std::string target = ResolveLinks(path);
+void LinuxFiles::Replace(const FilePath& path, const std::string& bytes) {
+  const std::string target = ResolveLinks(path.Utf8());
   const std::string temporary = target + "." + std::to_string(getpid()) + ".new";
   const OpenFile file(temporary, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW);
   try {
@@ -143,19 +143,19 @@ void LinuxFiles::Replace(const std::string& path, const std::string& bytes) {
   FlushFolderOf(target);
 }
 
-void LinuxFiles::Append(const std::string& path, const std::string& bytes) {
+void LinuxFiles::Append(const FilePath& path, const std::string& bytes) {
   const bool isNew = !Exists(path);
-  const OpenFile file(path, O_WRONLY | O_APPEND | O_CREAT);
+  const OpenFile file(path.Utf8(), O_WRONLY | O_APPEND | O_CREAT);
   while (flock(file.Descriptor(), LOCK_EX) != 0 && errno == EINTR) {
   }
   const off_t length = file.Status().st_size;
   try {
-    if (isNew) FlushFolderOf(path);
+    if (isNew) FlushFolderOf(path.Utf8());
     file.Write(bytes);
     file.Check(fdatasync(file.Descriptor()));
   } catch (const RuntimeError&) {
     if (isNew && length == 0) {
-      unlink(path.c_str());
+      unlink(path.Utf8().c_str());
     } else if (ftruncate(file.Descriptor(), length) == 0) {
       fdatasync(file.Descriptor());
     }
@@ -163,19 +163,19 @@ void LinuxFiles::Append(const std::string& path, const std::string& bytes) {
   }
 }
 
-void LinuxFiles::Remove(const std::string& path) {
-  if (unlink(path.c_str()) != 0 && errno != ENOENT) Fail(path);
+void LinuxFiles::Remove(const FilePath& path) {
+  if (unlink(path.Utf8().c_str()) != 0 && errno != ENOENT) Fail(path.Utf8());
 }
 
-void LinuxFiles::Copy(const std::string& from, const std::string& to) {
-  const OpenFile source(from, O_RDONLY);
+void LinuxFiles::Copy(const FilePath& from, const FilePath& to) {
+  const OpenFile source(from.Utf8(), O_RDONLY);
   std::error_code missing;
-  if (std::filesystem::equivalent(from, to, missing)) {
-    throw RuntimeError(FromUtf8(to) + ": is the file to be copied");
+  if (std::filesystem::equivalent(from.Utf8(), to.Utf8(), missing)) {
+    throw RuntimeError(FromUtf8(to.Utf8()) + ": is the file to be copied");
   }
   // Before `to` is truncated: a source that cannot be read leaves it as it was.
   std::string chunk = source.Read(kChunk);
-  const OpenFile target(to, O_WRONLY | O_CREAT | O_TRUNC);
+  const OpenFile target(to.Utf8(), O_WRONLY | O_CREAT | O_TRUNC);
   for (; !chunk.empty(); chunk = source.Read(kChunk)) target.Write(chunk);
   target.Flush();
 }

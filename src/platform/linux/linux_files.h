@@ -8,15 +8,15 @@ namespace benevix {
 // "<path>: <reason>". Symbolic links are followed, never replaced.
 class LinuxFiles : public Files {
  public:
-  [[nodiscard]] bool Exists(const std::string& path) const override;
-  [[nodiscard]] std::unique_ptr<FileReader> Open(const std::string& path) const override;
-  [[nodiscard]] std::string ReadAll(const std::string& path) const override;
-  void Replace(const std::string& path, const std::string& bytes) override;
+  [[nodiscard]] bool Exists(const FilePath& path) const override;
+  [[nodiscard]] std::unique_ptr<FileReader> Open(const FilePath& path) const override;
+  [[nodiscard]] std::string ReadAll(const FilePath& path) const override;
+  void Replace(const FilePath& path, const std::string& bytes) override;
   // Locks the file against other programs that append to it.
-  void Append(const std::string& path, const std::string& bytes) override;
-  void Remove(const std::string& path) override;
+  void Append(const FilePath& path, const std::string& bytes) override;
+  void Remove(const FilePath& path) override;
   // Raises RuntimeError when both are the same file.
-  void Copy(const std::string& from, const std::string& to) override;
+  void Copy(const FilePath& from, const FilePath& to) override;
 };
 
 }  // namespace benevix

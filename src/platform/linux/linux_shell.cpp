@@ -58,23 +58,24 @@ fs::path DataFile(const fs::path& file) {
 
 }  // namespace
 
-std::string LinuxShell::SpecialFolder(int folderId) const {
-  if (folderId == kProgramsFolder) return DataFolder() + "/applications";
-  if (folderId != kDesktopFolder) return "";
+FilePath LinuxShell::SpecialFolder(int folderId) const {
+  if (folderId == kProgramsFolder) return FilePath(DataFolder() + "/applications");
+  if (folderId != kDesktopFolder) return {};
   const std::string desktop = UserFolder("XDG_DESKTOP_DIR");
-  return desktop.empty() ? HomeFolder() + "/Desktop" : desktop;
+  return FilePath(desktop.empty() ? HomeFolder() + "/Desktop" : desktop);
 }
 
-void LinuxShell::CopyIntoFolder(const std::string& file, const std::string& folder) {
+void LinuxShell::CopyIntoFolder(const FilePath& file, const FilePath& folder) {
   std::error_code ignored;
-  const fs::path from = DataFile(file);
-  const fs::path to = folder / from.filename();
+  const fs::path from = DataFile(file.Utf8());
+  const fs::path to = folder.Utf8() / from.filename();
   fs::copy_file(from, to, fs::copy_options::overwrite_existing, ignored);
   // Desktops start an entry in the desktop folder only when it is executable.
   fs::permissions(to, fs::perms::owner_exec, fs::perm_options::add, ignored);
 }
 
-void LinuxShell::StartProgram(const std::string& file) {
+void LinuxShell::StartProgram(const FilePath& program) {
+  std::string file = program.Utf8();
   std::error_code error;
   constexpr auto executable =
       fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
@@ -84,8 +85,7 @@ void LinuxShell::StartProgram(const std::string& file) {
   posix_spawnattr_t attributes;
   posix_spawnattr_init(&attributes);
   posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
-  std::string name = file;
-  char* const arguments[] = {name.data(), nullptr};
+  char* const arguments[] = {file.data(), nullptr};
   pid_t process = 0;
   const int code = posix_spawn(&process, file.c_str(), nullptr, &attributes, arguments, environ);
   posix_spawnattr_destroy(&attributes);

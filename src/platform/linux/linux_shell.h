@@ -9,11 +9,11 @@ namespace benevix {
 // copied from the system's "applications" folders.
 class LinuxShell : public Shell {
  public:
-  [[nodiscard]] std::string SpecialFolder(int folderId) const override;
+  [[nodiscard]] FilePath SpecialFolder(int folderId) const override;
   [[nodiscard]] std::string ShortcutExtension() const override { return ".desktop"; }
-  void CopyIntoFolder(const std::string& file, const std::string& folder) override;
+  void CopyIntoFolder(const FilePath& file, const FilePath& folder) override;
   // Makes the file executable first. The started program outlives this one.
-  void StartProgram(const std::string& file) override;
+  void StartProgram(const FilePath& file) override;
 };
 
 }  // namespace benevix
