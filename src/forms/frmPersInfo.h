@@ -17,6 +17,7 @@ struct frmPersInfo : Window {
 
   frmPersInfo() {
     caption = " Contact Information";
+    Text1[contact_field::kFullName].takes = kNameTakes;
     Command1[0].shortcut = kEnterShortcut;
     Command1[1].shortcut = kEscapeShortcut;
   }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "controls/desk.h"
 #include "core/messages.h"
@@ -10,6 +11,12 @@
 #include "session/session_values.h"
 
 namespace benevix {
+
+// What a donation that is only typed would do.
+struct Estimate {
+  Currency balance;  // that would remain
+  bool fits = false;
+};
 
 // The Donation box: donates an amount or a percentage of the Balance to the selected row.
 class DonationEntry {
@@ -34,8 +41,15 @@ class DonationEntry {
   // dollars on if the Balance covers them.
   void Text1_Change();
 
-  // Handles Enter or Tab in the box: donates what was typed.
+  // Handles Enter or Tab in the box: donates what was typed, or the box's note says why not.
   void Enter();
+
+  // What Enter would do now; nothing while no amount is typed for an organization. Raises
+  // RuntimeError on overflow.
+  [[nodiscard]] std::optional<Estimate> EstimateTyped() const;
+
+  // The service fee of a donation under the current options.
+  [[nodiscard]] Currency ServiceFee() const;
 
   enum class Unit { Dollars, Percent };
   // Donates to the selected row as Enter does; an amount of 0 withdraws its donation. Does nothing
@@ -61,16 +75,20 @@ class DonationEntry {
   [[nodiscard]] bool DeductsCardFee() const {
     return DeductsFees() && others_.payment.Option1[payment::kCreditCard].value;
   }
-  // Starts a donation (fixed name): stores the amount, locks the fee mode, sets the service fee.
-  void method71(Currency amount);
-  [[nodiscard]] Currency ServiceFee() const;
+  [[nodiscard]] Unit TypedUnit() const;
+  [[nodiscard]] bool IsOrganizationSelected() const;
+  // Starts a donation (fixed name): settles proof of mailing and locks the fee mode.
+  void method71();
+  // Sets the donation and its fees, and takes the session fee when that is due.
+  void Prepare(Currency amount, Unit unit, SessionValues& values, FeeRates& rates) const;
   // The e-check fee is deducted with the first donation of a session.
   [[nodiscard]] bool IsSessionFeeDue() const;
   [[nodiscard]] bool IsForeignDonor() const;
   // Writes delivery, donor, fee and amount into the row (fixed name).
   void method72(int row);
-  [[nodiscard]] Row SelectedRow() const;
-  [[nodiscard]] bool IsOverLimit(const Row& row) const;
+  [[nodiscard]] Row SelectedRow(const SessionValues& values) const;
+  [[nodiscard]] bool IsOverLimit(const Row& row, const SessionValues& values) const;
+  [[nodiscard]] Currency BalanceAfter(const Row& row, const SessionValues& values) const;
   void OfferLargerBudget(const Row& row);
   [[nodiscard]] Currency MaximumDonation(const Row& row) const;
   // The largest donation that with its card fee, at the next rate, does not exceed `limit`.
