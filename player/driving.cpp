@@ -79,6 +79,7 @@ const std::vector<LineKind>& DrivingLines() {
       {"restart", [](ProgramRunner& runner, const Texts&) { runner.Restart(); }},
       {"click PATH", DoPlain<&FrontEnd::Click>},
       {"type PATH TEXT", DoWithText<&FrontEnd::Type>},
+      {"paste PATH TEXT", DoWithText<&FrontEnd::Paste>},
       {"press PATH KEY", DoWithText<&FrontEnd::Press>},
       {"select PATH NUMBER [right]", Select},
       {"pick PATH TEXT", DoWithText<&FrontEnd::Pick>},

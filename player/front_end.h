@@ -33,6 +33,8 @@ class FrontEnd {
 
   virtual bool Click(const Target& target) = 0;
   virtual bool Type(const Target& target, const std::string& text) = 0;
+  // The same as from the clipboard, in one piece.
+  virtual bool Paste(const Target& target, const std::string& text) = 0;
   // A key of words.h, or one character.
   virtual bool Press(const Target& target, const std::string& key) = 0;
   virtual bool Select(const Target& target, int row, MouseButton button) = 0;

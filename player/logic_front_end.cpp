@@ -74,22 +74,26 @@ class LogicFrontEnd : public FrontEnd {
   }
 
   bool Type(const Target& target, const std::string& text) override {
-    auto* const box = target.control->As<TextBox>();
-    auto* const combo = target.control->As<ComboBox>();
-    if (!box && !(combo && combo->editable)) return false;
-    if (!GiveFocus(target)) return false;
-    if (box) {
-      if (!box->text.empty() && !User().Type(*box, "")) return false;
-      Deselect(target, *box);
-    } else if (!combo->text.empty() && !User().Type(*combo, "")) {
-      return false;
-    }
     // A key that takes the focus away ends the typing.
-    return std::ranges::all_of(KeysOf(text), [&](const std::string& key) {
-      if (!HasFocus(target)) return false;
-      PressHere(target, key);
-      return true;
-    });
+    return Empty(target) && std::ranges::all_of(KeysOf(text), [&](const std::string& key) {
+             if (!HasFocus(target)) return false;
+             PressHere(target, key);
+             return true;
+           });
+  }
+
+  bool Paste(const Target& target, const std::string& text) override {
+    if (!Empty(target)) return false;
+    Control& control = target.control->Base();
+    const std::string accepted = User().Accepted(control, text);
+    if (!accepted.empty()) {
+      auto* const box = target.control->As<TextBox>();
+      auto* const combo = target.control->As<ComboBox>();
+      if (!(box != nullptr ? User().Type(*box, accepted) : User().Type(*combo, accepted))) {
+        return false;
+      }
+    }
+    return accepted == text || User().Refuse(control);
   }
 
   bool Press(const Target& target, const std::string& key) override {
@@ -162,6 +166,20 @@ class LogicFrontEnd : public FrontEnd {
            HasFocus(target);
   }
 
+  // Gives the focus to a box that takes typing, and removes what it held.
+  bool Empty(const Target& target) {
+    auto* const box = target.control->As<TextBox>();
+    auto* const combo = target.control->As<ComboBox>();
+    if (!box && !(combo && combo->editable)) return false;
+    if (!GiveFocus(target)) return false;
+    if (box) {
+      if (!box->text.empty() && !User().Type(*box, "")) return false;
+      Deselect(target, *box);
+      return true;
+    }
+    return combo->text.empty() || User().Type(*combo, "");
+  }
+
   // Presses and releases a key in the control that has the focus.
   void PressHere(const Target& target, const std::string& key) {
     Control& control = target.control->Base();
@@ -182,10 +200,16 @@ class LogicFrontEnd : public FrontEnd {
     if (waits_.count == waitsBefore && HasFocus(target)) User().Key(control, KeyCode(key));
   }
 
+  bool LetsIn(Control& box, const std::string& key) {
+    const int code = key.size() == 1 ? key.front() : KeyCode(key);
+    if (User().Accepts(box, static_cast<char>(code))) return true;
+    User().Refuse(box);
+    return false;
+  }
+
   void PressIn(const Target& target, TextBox& box, const std::string& key) {
     if (key == kEscapeKey || (key == kEnterKey && !box.multiLine)) return;
-    if (!User().Accepts(box, static_cast<char>(key.size() == 1 ? key.front() : KeyCode(key))))
-      return;
+    if (!LetsIn(box, key)) return;
     const bool erases = key == kBackspaceKey;
     if (erases && box.text.empty()) return;
     std::string text;
@@ -198,7 +222,7 @@ class LogicFrontEnd : public FrontEnd {
   void PressIn(ComboBox& combo, const std::string& key) {
     const bool erases = key == kBackspaceKey;
     if (!combo.editable || (key.size() > 1 && !erases)) return;
-    if (erases && combo.text.empty()) return;
+    if ((erases && combo.text.empty()) || !LetsIn(combo, key)) return;
     User().Type(combo, erases ? WithoutLast(combo.text) : combo.text + key);
   }
 

@@ -35,6 +35,7 @@ Text OfEvery(const Control& control, const std::string& property) {
   if (property == "Visible") return BooleanText(control.visible);
   if (property == "ToolTip") return control.toolTip;
   if (property == "Tag") return control.tag;
+  if (property == "Note") return control.note;
   return std::nullopt;
 }
 

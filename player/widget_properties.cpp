@@ -134,6 +134,7 @@ std::optional<std::string> ReadWidgetProperty(Program& program, WindowBinding* b
   if (action != nullptr) return ReadAction(*action, property, fromStruct);
   QWidget* const widget = binding->WidgetOf(target.control->Base());
   if (widget == nullptr) return fromStruct;
+  if (property == "Note") return Shown(binding->NoteOf(*widget));
   const Text color = ReadWidgetColor(*target.control, *widget, property, scheme);
   return color ? color : ReadWidget(*widget, property, fromStruct);
 }

@@ -1,5 +1,6 @@
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QMessageBox>
@@ -32,6 +33,8 @@ void SendKey(QWidget& widget, int key, const QString& text,
 void SendCharacter(QWidget& widget, QChar c) {
   if (c == QLatin1Char('\n')) return SendKey(widget, Qt::Key_Return, QStringLiteral("\r"));
   SendKey(widget, c.toUpper().unicode(), QString(c));
+  // A refused character is told after it, and before the next one.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
 }
 
 void SendNamedKey(QWidget& widget, const std::string& key) {
@@ -116,19 +119,23 @@ class WindowsFrontEnd : public FrontEnd {
   }
 
   bool Type(const Target& target, const std::string& text) override {
-    QWidget* const widget = Reach(target);
-    if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
-    const QPointer<QWidget> alive(widget);
-    if (WidgetText(*widget) != QString()) {
-      SendKey(*widget, Qt::Key_A, QString(), Qt::ControlModifier);
-      SendKey(*widget, Qt::Key_Delete, QString());
-    }
+    const QPointer<QWidget> alive(Empty(target));
+    if (!alive) return false;
     QString typed = ToQString(text);
     typed.remove(QLatin1Char('\r'));
     for (const QChar c : typed) {
       if (!alive) break;
       SendCharacter(*alive, c);
     }
+    Settle();
+    return true;
+  }
+
+  bool Paste(const Target& target, const std::string& text) override {
+    QWidget* const widget = Empty(target);
+    if (widget == nullptr) return false;
+    QGuiApplication::clipboard()->setText(ToQString(text));
+    SendKey(*widget, Qt::Key_V, QString(), Qt::ControlModifier);
     Settle();
     return true;
   }
@@ -252,6 +259,17 @@ class WindowsFrontEnd : public FrontEnd {
     if (!program_->TheDesk().IsUsable(*target.window, target.control->Base())) return nullptr;
     widget->window()->activateWindow();
     Settle();
+    return widget;
+  }
+
+  // The widget with the focus and without a text; null when it cannot be reached.
+  QWidget* Empty(const Target& target) {
+    QWidget* const widget = Reach(target);
+    if (widget == nullptr || !FocusByMouse(target, *widget)) return nullptr;
+    if (WidgetText(*widget) != QString()) {
+      SendKey(*widget, Qt::Key_A, QString(), Qt::ControlModifier);
+      SendKey(*widget, Qt::Key_Delete, QString());
+    }
     return widget;
   }
 

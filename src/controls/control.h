@@ -15,6 +15,11 @@ struct Control {
   bool visible = true;
   std::string toolTip;
   std::string tag;  // what the program keeps with the control, never shown
+  // Why the user's last key or entry was not taken as he meant it. It goes when he changes the
+  // text, when the program writes it, and when the focus of the window moves.
+  std::string note;
+  // The note when a character is refused: what the box takes.
+  const char* takes = "Western European letters and signs only";
   // The frame, picture box or menu of the same window that holds it; none when empty. What is held
   // can be used only while its holder can.
   const char* holder = "";
@@ -23,6 +28,9 @@ struct Control {
   // press.
   const char* shortcut = "";
 };
+
+// What the box of a name takes.
+inline constexpr const char* kNameTakes = "No comma, and Western European letters only";
 
 inline constexpr const char* kEnterShortcut = "Enter";
 inline constexpr const char* kEscapeShortcut = "Esc";

@@ -44,12 +44,14 @@ struct TextBox : Control {
 
   // For the program: the box then no longer holds what the user typed.
   void Write(std::string written) {
-    text = std::move(written);
+    text = lastWritten = std::move(written);
     typed = false;
+    note.clear();
   }
 
   std::string text;
-  bool typed = false;  // the user changed the text since the program last wrote it
+  std::string lastWritten;  // by the program
+  bool typed = false;       // the user changed the text since the program last wrote it
   bool multiLine = false;
   Color foreColor = colors::kWindowText;
   Color backColor = colors::kWindowBackground;
@@ -194,6 +196,7 @@ struct MoneyBar : Control {
   };
 
   std::vector<Part> parts;
+  std::string remark;  // behind the parts' names
 };
 
 struct PageViewer : Control {

@@ -130,6 +130,7 @@ void Desk::ChangeFocus(Entry& entry, Control* to) {
   Control* const from = entry.focus;
   if (from == to) return;
   entry.focus = to;
+  for (const NamedControl& control : entry.controls) control.Base().note.clear();
   if (from != nullptr) Fire(*from, Event::LostFocus);
   if (to != nullptr && entry.focus == to) Fire(*to, Event::GotFocus);
 }

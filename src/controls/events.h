@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <string_view>
 #include <utility>
 
 #include "controls/controls.h"
@@ -17,6 +18,7 @@ enum class Event {
   MouseMove,
   Change,    // the user changed the text
   KeyPress,  // args.key is the typed character; setting it to 0 discards it
+  Paste,     // args.pasted has several characters; emptying it discards them all
   KeyUp,     // args.key is the key code
   GotFocus,
   LostFocus,
@@ -38,6 +40,7 @@ enum class MouseButton { Left = 1, Right = 2 };
 struct EventArgs {
   int index = -1;  // of a menu array's element
   int key = 0;
+  std::string_view pasted = {};
   MouseButton button = MouseButton::Left;
   bool byKeyboard = false;
 };

@@ -136,17 +136,33 @@ bool Input::Leave(Control& control) {
   });
 }
 
-bool Input::Accepts(TextBox& box, char typed) {
+bool Input::Accepts(const Control& box, char typed) {
   EventArgs args;
   args.key = static_cast<unsigned char>(typed);
   events_.Fire(box, Event::KeyPress, args);
   return args.key != 0;
 }
 
+std::string Input::Accepted(const Control& box, const std::string& typed) {
+  EventArgs args;
+  args.pasted = typed;
+  if (typed.size() > 1) events_.Fire(box, Event::Paste, args);
+  std::string accepted;
+  for (const char c : args.pasted) {
+    if (Accepts(box, c)) accepted += c;
+  }
+  return accepted;
+}
+
+bool Input::Refuse(Control& box) {
+  return Do(box, [&](Desk::Entry&) { box.note = box.takes; });
+}
+
 bool Input::Type(TextBox& box, std::string text) {
   return Do(box, [&](Desk::Entry&) {
     box.text = std::move(text);
     box.typed = true;
+    box.note.clear();
     Fire(box, Event::Change);
   });
 }
@@ -154,6 +170,7 @@ bool Input::Type(TextBox& box, std::string text) {
 bool Input::Type(ComboBox& combo, std::string text) {
   return Do(combo, [&](Desk::Entry&) {
     combo.text = std::move(text);
+    combo.note.clear();
     Fire(combo, Event::Change);
   });
 }
@@ -210,6 +227,7 @@ bool Input::Pick(ComboBox& combo, int index) {
   if (index < 0 || index >= static_cast<int>(combo.list.size())) return false;
   return Do(combo, [&](Desk::Entry&) {
     combo.text = combo.list[static_cast<std::size_t>(index)];
+    combo.note.clear();
     Fire(combo, Event::Click);
   });
 }

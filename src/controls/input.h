@@ -42,7 +42,11 @@ class Input {
   bool Leave(Control& control);
 
   // Whether the box's key filter lets the typed character in.
-  bool Accepts(TextBox& box, char typed);
+  bool Accepts(const Control& box, char typed);
+  // What the filter lets in of a text that was typed or pasted.
+  std::string Accepted(const Control& box, const std::string& typed);
+  // Something typed or pasted was not let in: the note at the box says what it takes.
+  bool Refuse(Control& box);
   // The user has changed the text to `text`.
   bool Type(TextBox& box, std::string text);
   bool Type(ComboBox& combo, std::string text);

@@ -44,6 +44,8 @@ struct frmBVX : Window {
     Option1[donor_option::kMyName].value = true;
     Option2[delivery_option::kPool].value = true;
     Option3[fee_option::kAdd].value = true;
+    for (TextBox& box : Text1) box.takes = "Digits and a point only";
+    Combo1.takes = kNameTakes;
     for (OptionButton& option : Option1) option.enabled = false;
     for (OptionButton& option : Option2) option.enabled = false;
     Combo1.enabled = false;
@@ -108,7 +110,8 @@ struct frmBVX : Window {
                          Label("Pay by e-check")};
   Label ChargeAmount[3], ChargeFees[3];
   Label Label9{"Estimated Bal", "Estimated Balance"};
-  Label Label8;  // the estimated balance, hidden once a Budget is entered
+  // Hidden once a Budget is entered; then the Balance that a typed donation would leave.
+  Label Label8;
   Label Label6{"Type a Dollar amount in the Budget box and press <Enter>"};  // the hint line
   Label Label12{"System Message", "Click to receive"};  // the news, kept in its tag
   Label Label10{"Fees"};                                // heading of the fee options
@@ -141,6 +144,7 @@ struct frmBVX : Window {
   ListView ListView1;
   // Tag "1" while Continue waits for the payment method.
   Button Command1{"&Continue", "Send the donation(s)"};  // the array's only element, 1
+  Label ContinueNote;                                    // what Continue waits for
 
   HttpControl Inet1, Inet2;  // for the server and for the translation service
   Timer Timer1{20, false};   // scrolls the credit line in; its tag counts the ticks after that
@@ -241,6 +245,7 @@ void visit(frmBVX& window, F&& f) {
   f("Frame9", window.Frame9);
   f("iLbl", window.iLbl);
   f("Command1(1)", window.Command1);
+  f("ContinueNote", window.ContinueNote);
   f("Label6", window.Label6);
   f("Label12", window.Label12);
   f("Label11", window.Label11);

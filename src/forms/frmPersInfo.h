@@ -19,6 +19,7 @@ struct frmPersInfo : Window {
 
   frmPersInfo() {
     caption = " Contact Information";
+    Text1[contact_field::kFullName].takes = kNameTakes;
     Command1[0].shortcut = kEnterShortcut;
     Command1[1].shortcut = kEscapeShortcut;
     Missing.visible = false;

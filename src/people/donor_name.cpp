@@ -32,6 +32,10 @@ void DonorName::Combo1_LostFocus() {
   names_.AppendOtherName(combo.text);
 }
 
+void RefuseComma(EventArgs& args) {
+  if (args.key == ',') args.key = 0;
+}
+
 void SetOwnName(frmBVX& main, const std::string& name) {
   ComboBox& combo = main.Combo1;
   if (combo.list.empty()) combo.list.emplace_back();

@@ -24,6 +24,9 @@ class DonorName {
   OtherNames& names_;
 };
 
+// A comma divides the fields of a donation's record, so no donor's name takes one.
+void RefuseComma(EventArgs& args);
+
 // Sets the user's own name, entry 0, unless `name` is empty; shows it while "My Name" is chosen.
 void SetOwnName(frmBVX& main, const std::string& name);
 

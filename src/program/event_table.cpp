@@ -42,15 +42,20 @@ void Program::ConnectMainWindow() {
 
   events_.On(main_.Text1, Event::KeyPress,
              [](int, EventArgs& args) { MainWindow::Text1_KeyPress(args); });
+  events_.On(main_.Text1, Event::Paste,
+             [](int, EventArgs& args) { MainWindow::Text1_Paste(args); });
   events_.On(main_.Text1, Event::KeyUp,
              [this](int index, EventArgs& args) { mainWindow_.Text1_KeyUp(index, args); });
   events_.On(main_.Text1, Event::Change,
              [this](int index, EventArgs&) { mainWindow_.Text1_Change(index); });
   events_.On(main_.Text1, Event::GotFocus,
              [this](int index, EventArgs&) { mainWindow_.Text1_GotFocus(index); });
+  events_.On(main_.Text1, Event::LostFocus,
+             [this](int index, EventArgs&) { mainWindow_.Text1_LostFocus(index); });
 
   events_.On(main_.Option1, Event::Click,
              [this](int index, EventArgs&) { donorName_.Option1_Click(index); });
+  events_.On(main_.Combo1, Event::KeyPress, RefuseComma);
   events_.On(main_.Combo1, Event::LostFocus, Plain([this] { donorName_.Combo1_LostFocus(); }));
   events_.On(main_.Option3, Event::Click, [this](int index, EventArgs&) {
     SetFeeMode(main_, index == fee_option::kAdd ? FeeMode::Add : FeeMode::Deduct);
@@ -173,6 +178,7 @@ void Program::ConnectContact() {
   events_.On(contact, Event::Close, Plain([this] { contact_.Cancel(); }));
   events_.On(contact.Command1, Event::Click,
              [this](int index, EventArgs&) { contact_.Command1_Click(index); });
+  events_.On(contact.Text1[contact_field::kFullName], Event::KeyPress, RefuseComma);
   events_.On(contact.Combo1, Event::Click, Plain([this] { contact_.Combo1_Click(); }));
   events_.On(contact.Check1, Event::MouseUp, Plain([this] { contact_.Check1_MouseUp(); }));
 

@@ -19,7 +19,7 @@ Program::Program(Environment environment)
       donationEntry_(main_, values_, rates_, desk_, messages_,
                      {forms_.Get<frmPersInfo>(), forms_.Get<frmPayOpt>(),
                       [this] { contact_.Open(ContactCaller::DonationEntry); }}),
-      mainWindow_(main_, budgetEntry_, donationEntry_),
+      mainWindow_(main_, values_, budgetEntry_, donationEntry_),
       listView_(main_, values_, desk_, run_, [this] { yearToDate_.ShowYtd(); }),
       listTyping_(main_, database_, environment_.clock, listView_),
       search_(forms_.Get<frmSrch>(), main_, database_,
@@ -31,6 +31,7 @@ Program::Program(Environment environment)
                       {[this] { finalization_.Finalize(); },
                        [this](const std::string& page) { help_.ShowPage(page); }}),
       charges_(main_, forms_.Get<frmPayOpt>(), values_, rates_),
+      preview_(main_, values_, donationEntry_),
       viewer_(forms_.Get<frmInfo>(), desk_, environment_.waits),
       help_(viewer_, main_, messages_, environment_.info),
       wizard_(forms_.Get<frmWizard>(), main_, desk_, settings_, environment_.info, help_),
@@ -74,6 +75,7 @@ Program::Program(Environment environment)
     charges_.Show();
     viewer_.ShowBack();
     contact_.ShowWhatFollows();
+    preview_.Show();
   };
   input_.onError = [this](const RuntimeError& error) {
     messages_.Show(error.what(), BoxIcon::Critical);

@@ -40,6 +40,7 @@
 #include "session/list_view_events.h"
 #include "session/main_window.h"
 #include "session/payment_options.h"
+#include "session/preview.h"
 #include "session/search.h"
 
 namespace benevix {
@@ -122,6 +123,7 @@ class Program {
   Distribution distribution_;
   PaymentOptions paymentOptions_;
   Charges charges_;
+  Preview preview_;
 
   InformationViewer viewer_;
   Help help_;

@@ -5,22 +5,47 @@
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "session/totals.h"
+#include "session/typed_amount.h"
 
 namespace benevix {
+namespace {
+
+// Empty when the typed amount is a whole number of dollars.
+std::string WholeDollarsNote(const std::string& text) {
+  const auto typed = ReadAmount(text).number;
+  if (!typed || *typed == ToInt32(*typed)) return {};
+  return "Whole dollars only: " + text + " counts as " + std::to_string(ToInt32(*typed));
+}
+
+}  // namespace
+
+void BudgetEntry::Text1_Change() {
+  TextBox& box = main_.Text1[money_box::kBudget];
+  box.note = WholeDollarsNote(box.text);
+}
 
 void BudgetEntry::Enter() {
   TextBox& box = main_.Text1[money_box::kBudget];
-  const auto typed = ParseNumber(box.text);
-  if (!box.typed || !typed) return;
+  if (!box.typed) return;
+  const TypedAmount typed = ReadAmount(box.text);
+  if (!typed.number) {
+    box.note = typed.note;
+    return;
+  }
+  const std::string note = WholeDollarsNote(box.text);
   Currency balance;
   try {
-    const Currency budget = values_.Budget + Currency::FromWhole(ToInt32(*typed));
+    const Currency budget = values_.Budget + Currency::FromWhole(ToInt32(*typed.number));
     balance = budget - values_.TotalDonated;
     values_.Budget = budget;
   } catch (const RuntimeError&) {
-    return;  // beyond 32 bits or the range of money
+    box.note = kTooLargeNote;
+    return;
   }
-  if (values_.Budget == Currency()) return;
+  if (values_.Budget == Currency()) {
+    box.note = "At least 1 dollar";
+    return;
+  }
 
   if (ConfirmLargeBudget()) {
     if (values_.TotalDonated == Currency()) choosePayment_();
@@ -32,6 +57,7 @@ void BudgetEntry::Enter() {
   }
   method73(values_, main_, desk_);
   main_.Label8.visible = false;
+  box.note = note;  // the focus has moved on
 }
 
 bool BudgetEntry::ConfirmLargeBudget() {

@@ -21,8 +21,11 @@ class BudgetEntry {
         messages_(messages),
         choosePayment_(std::move(choosePayment)) {}
 
+  // While the user types: says what will become of cents.
+  void Text1_Change();
+
   // Handles Enter or Tab in the box: a number is rounded to whole dollars, halves to even; a text
-  // that is no number or beyond 32 bits changes nothing.
+  // that is no number or beyond 32 bits changes only the box's note.
   void Enter();
 
  private:

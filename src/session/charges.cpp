@@ -71,29 +71,55 @@ PaymentDue Charges::Due() const {
           values_.Budget, ChargedTotal(values_, rates_, list, method, main_.mnuAddFees.checked)};
 }
 
-// Fees that are added to the Budget come after the Balance in the bar.
+// Fees that are added to the Budget come after the Balance in the bar. Deducted ones are named for
+// what they are: taken already, whatever method is chosen in the end and whatever it will charge.
 void Charges::ShowBudgetUse(Currency serviceFees, const ByMethod& charges) {
   using Part = MoneyBar::Part;
   MoneyBar& bar = main_.BudgetUse;
   bar = MoneyBar();
-  const auto method = static_cast<std::size_t>(std::max(ChosenMethod(), 0));
-  const bool deducts = main_.mnuDeductFees.checked;
-  Currency methodFee;
-  if (deducts) {
-    methodFee = CardFeeTotal(main_.ListView1);
-    if (values_.SessionFeeTaken) methodFee += rates_.SessionFee;
-  } else if (charges[method] && ChosenMethod() >= 0) {
-    methodFee = charges[method]->methodFee;
-  }
+  const int method = ChosenMethod();
   const Part left{Part::Use::Left, "Left", values_.Balance};
   bar.parts.push_back({Part::Use::Given, "Given", values_.TotalDonated});
-  if (!deducts) bar.parts.push_back(left);
-  bar.parts.push_back({Part::Use::ServiceFees, "Service fees", serviceFees});
-  bar.parts.push_back({Part::Use::MethodFee, kMethodFees[method], methodFee});
-  if (deducts) bar.parts.push_back(left);
-
+  if (main_.mnuDeductFees.checked) {
+    const Currency cardFees = CardFeeTotal(main_.ListView1);
+    bar.parts.push_back({Part::Use::ServiceFees, "Service fees", serviceFees});
+    if (cardFees != Currency()) {
+      bar.parts.push_back({Part::Use::MethodFee, "Card fees taken", cardFees});
+    }
+    if (values_.SessionFeeTaken) {
+      bar.parts.push_back({Part::Use::MethodFee, "e-check fee taken", rates_.SessionFee});
+    }
+    bar.parts.push_back(left);
+  } else {
+    const auto named = static_cast<std::size_t>(std::max(method, 0));
+    const Currency fee = method >= 0 && charges[named] ? charges[named]->methodFee : Currency();
+    bar.parts.push_back(left);
+    bar.parts.push_back({Part::Use::ServiceFees, "Service fees", serviceFees});
+    bar.parts.push_back({Part::Use::MethodFee, kMethodFees[named], fee});
+  }
   bar.toolTip = "Budget " + Money(values_.Budget);
   for (const Part& part : bar.parts) bar.toolTip += ", " + part.caption + " " + Money(part.amount);
+  if (method >= 0 && charges[static_cast<std::size_t>(method)]) {
+    CompareWithCharge(charges[static_cast<std::size_t>(method)]->amount);
+  }
+}
+
+void Charges::CompareWithCharge(Currency charge) {
+  MoneyBar& bar = main_.BudgetUse;
+  if (main_.mnuDeductFees.checked) {
+    Currency difference = charge + values_.Balance - values_.Budget;
+    const bool more = difference > Currency();
+    if (!more) difference = Currency() - difference;
+    bar.toolTip += ". " + main_.ChargeName[static_cast<std::size_t>(ChosenMethod())].caption +
+                   ": " + Money(charge);
+    if (difference != Currency()) {
+      bar.toolTip += ", " + Money(difference) + (more ? " more" : " less") + " than was taken";
+    }
+  }
+  if (charge > values_.Budget) {
+    bar.remark = Money(charge - values_.Budget) + " over the Budget";
+    bar.toolTip += ", " + bar.remark;
+  }
 }
 
 void Charges::ShowCharge(std::size_t option, const std::optional<Charge>& charge) {

@@ -50,6 +50,8 @@ class Charges {
   using ByMethod = std::array<std::optional<Charge>, 3>;
 
   void ShowBudgetUse(Currency serviceFees, const ByMethod& charges);
+  // Names what the chosen method will charge where that differs from the Budget's use.
+  void CompareWithCharge(Currency charge);
   void ShowCharge(std::size_t option, const std::optional<Charge>& charge);
 
   frmBVX& main_;

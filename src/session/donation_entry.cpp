@@ -1,7 +1,6 @@
 #include "session/donation_entry.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "base/format.h"
 #include "base/number_text.h"
@@ -13,6 +12,7 @@
 #include "session/modes.h"
 #include "session/options_record.h"
 #include "session/totals.h"
+#include "session/typed_amount.h"
 
 namespace benevix {
 namespace {
@@ -25,26 +25,22 @@ Currency RoundUpToDollars(Currency amount) {
   return rest > 0 ? amount + Currency::FromUnits(Currency::kScale - rest) : amount;
 }
 
-// Nothing when the text is not numeric, or its dollars are beyond 32 bits.
-std::optional<Currency> ParseAmount(const std::string& text) {
-  try {
-    const auto number = ParseNumber(text);
-    if (!number) return std::nullopt;
-    ToInt32(*number);  // raises beyond its range
-    return Currency::FromDouble(*number);
-  } catch (const RuntimeError&) {
-    return std::nullopt;
-  }
-}
-
 Currency Percent(Currency balance, Currency percentage) {
   return Currency::FromDouble(Product(balance, percentage).ToDouble() / 100);
+}
+
+// A comma divides the fields of the record, and a name stored by an earlier version may have one.
+std::string WithoutCommas(std::string name) {
+  for (std::size_t at = 0; (at = name.find(',', at)) != std::string::npos;) {
+    name.replace(at, 1, name.substr(at + 1, 1) == " " ? "" : " ");
+  }
+  return name;
 }
 
 std::string FromText(const frmBVX& main) {
   return main.Option1[donor_option::kAnonymous].value
              ? main.Option1[donor_option::kAnonymous].caption
-             : main.Combo1.text;
+             : WithoutCommas(main.Combo1.text);
 }
 
 }  // namespace
@@ -60,11 +56,31 @@ void DonationEntry::Text1_Change() {
   main_.Check1.enabled = values_.Donation >= kProofFrom && values_.Balance >= values_.Donation;
 }
 
+DonationEntry::Unit DonationEntry::TypedUnit() const {
+  return main_.mnuPercentBal.checked ? Unit::Percent : Unit::Dollars;
+}
+
 void DonationEntry::Enter() {
+  TextBox& box = main_.Text1[money_box::kDonation];
+  if (!box.typed) return;
+  const TypedAmount typed = ReadAmount(box.text);
+  if (typed.number) {
+    Give(Currency::FromDouble(*typed.number), TypedUnit());
+  } else {
+    box.note = typed.note;
+  }
+}
+
+std::optional<Estimate> DonationEntry::EstimateTyped() const {
   const TextBox& box = main_.Text1[money_box::kDonation];
-  const auto amount = ParseAmount(box.text);
-  if (!box.typed || !amount) return;
-  Give(*amount, main_.mnuPercentBal.checked ? Unit::Percent : Unit::Dollars);
+  const auto typed = ReadAmount(box.text).number;
+  if (!box.typed || !box.enabled || !typed || !IsOrganizationSelected()) return std::nullopt;
+  SessionValues values = values_;
+  FeeRates rates = rates_;
+  Prepare(Currency::FromDouble(*typed), TypedUnit(), values, rates);
+  const Row row = SelectedRow(values);
+  const Currency balance = BalanceAfter(row, values);
+  return Estimate{balance, !IsOverLimit(row, values) && balance >= Currency()};
 }
 
 void DonationEntry::GiveUntyped(Currency amount, bool proof) {
@@ -108,15 +124,20 @@ Currency DonationEntry::SessionFeeDue() const {
   return due ? rates_.SessionFee : Currency();
 }
 
+bool DonationEntry::IsOrganizationSelected() const {
+  const ListView& list = main_.ListView1;
+  return list.selected != 0 && list.Text(list.selected).empty();
+}
+
 void DonationEntry::Give(Currency amount, Unit unit) {
   const bool withdraws = amount == Currency();
   if (!RequireDonorCountry() || (!withdraws && !RequireDonorName())) return;
-  const ListView& list = main_.ListView1;
-  if (list.selected == 0 || !list.Text(list.selected).empty()) return;
+  if (!IsOrganizationSelected()) return;
 
   // A donation that is refused or overflows leaves the Balance, session fee and fee mode as they
   // were.
   const SessionValues before = values_;
+  const FeeRates ratesBefore = rates_;
   const bool feeModeEnabled = main_.Option3[fee_option::kAdd].enabled;
   const auto restore = [&] {
     values_.Balance = before.Balance;
@@ -125,20 +146,22 @@ void DonationEntry::Give(Currency amount, Unit unit) {
   };
   Row row;
   try {
-    if (const Currency fee = SessionFeeDue(); fee != Currency()) {
-      values_.Balance -= fee;
-      values_.SessionFeeTaken = true;
+    method71();
+    Prepare(amount, unit, values_, rates_);
+    if (values_.Donation > Currency() && values_.Donation < Currency::FromUnits(kCent)) {
+      restore();  // it would cost a fee and show as .00
+      rates_ = ratesBefore;
+      main_.Text1[money_box::kDonation].note = kTooSmallNote;
+      return;
     }
-    method71(amount);
-    if (unit == Unit::Percent) values_.Donation = Percent(values_.Balance, amount);
-    values_.CardFee = ComputeCardFee(values_, rates_, IsForeignDonor());
-    row = SelectedRow();
-    if (IsOverLimit(row, values_.Donation, values_.CardFee)) {
+    row = SelectedRow(values_);
+    if (IsOverLimit(row, values_)) {
       restore();
       return OfferLargerBudget(row, amount, unit);
     }
     MoveMoney(row);
   } catch (const RuntimeError&) {
+    main_.Text1[money_box::kDonation].note = kTooLargeNote;
     return restore();
   }
   WriteRow(row.number);
@@ -146,14 +169,27 @@ void DonationEntry::Give(Currency amount, Unit unit) {
   main_.Label8.visible = false;
 }
 
-void DonationEntry::method71(Currency amount) {
+void DonationEntry::method71() {
   if (!main_.Check1.enabled) main_.Check1.value = 0;
-  values_.Donation = amount;
   EnableFeeMode(main_, false);
-  values_.BvxFee = ServiceFee();
 }
 
-DonationEntry::Row DonationEntry::SelectedRow() const {
+void DonationEntry::Prepare(Currency amount, Unit unit, SessionValues& values,
+                            FeeRates& rates) const {
+  if (const Currency fee = SessionFeeDue(); fee != Currency()) {
+    values.Balance -= fee;
+    values.SessionFeeTaken = true;
+  }
+  values.Donation = amount;
+  values.BvxFee = ServiceFee();
+  if (unit == Unit::Percent) {
+    values.Donation =
+        Currency::FromDouble(Product(values.Balance, values.Donation).ToDouble() / 100);
+  }
+  values.CardFee = ComputeCardFee(values, rates, IsForeignDonor());
+}
+
+DonationEntry::Row DonationEntry::SelectedRow(const SessionValues& values) const {
   const ListView& list = main_.ListView1;
   const auto money = [&](int column) { return Currency::FromText(list.SelectedText(column)); };
   Row row;
@@ -161,15 +197,15 @@ DonationEntry::Row DonationEntry::SelectedRow() const {
   row.amount = money(column::kAmount);
   row.fee = money(column::kFee);
   row.cardFee = money(column::kCardFee);
-  row.available = row.amount + row.fee + row.cardFee + values_.Balance;
+  row.available = row.amount + row.fee + row.cardFee + values.Balance;
   return row;
 }
 
-bool DonationEntry::IsOverLimit(const Row& row, Currency donation, Currency cardFee) const {
-  Currency needed = donation;
-  if (DeductsFees()) needed += values_.BvxFee;
-  if (DeductsCardFee()) needed += cardFee;
-  return needed > row.available || donation > row.available;
+bool DonationEntry::IsOverLimit(const Row& row, const SessionValues& values) const {
+  Currency needed = values.Donation;
+  if (DeductsFees()) needed += values.BvxFee;
+  if (DeductsCardFee()) needed += values.CardFee;
+  return needed > row.available || values.Donation > row.available;
 }
 
 Currency DonationEntry::MissingDollars(const Row& row) const {
@@ -186,15 +222,13 @@ Currency DonationEntry::MissingDollars(const Row& row) const {
   return RoundUpToDollars(missing);
 }
 
-std::optional<Currency> DonationEntry::MissingForPercentage(const Row& row,
-                                                            Currency percentage) const {
-  const FeeRates next = NextCardRates(rates_, IsForeignDonor());
+std::optional<Currency> DonationEntry::MissingForPercentage(Currency percentage) const {
   const auto fits = [&](std::int32_t dollars) {
-    const Currency balance = BalanceForDonation() + Currency::FromWhole(dollars);
-    Row raised = row;
-    raised.available = row.amount + row.fee + row.cardFee + balance;
-    const Currency donation = Percent(balance, percentage);
-    return !IsOverLimit(raised, donation, CardFeeOf(donation, values_.BvxFee, next));
+    SessionValues values = values_;
+    FeeRates rates = rates_;
+    values.Balance += Currency::FromWhole(dollars);
+    Prepare(percentage, Unit::Percent, values, rates);
+    return !IsOverLimit(SelectedRow(values), values);
   };
   constexpr std::int32_t most = 1 << 30;
   std::int32_t enough = 1;
@@ -210,7 +244,7 @@ std::optional<Currency> DonationEntry::MissingForPercentage(const Row& row,
 
 void DonationEntry::OfferLargerBudget(const Row& row, Currency amount, Unit unit) {
   const std::optional<Currency> increase =
-      unit == Unit::Percent ? MissingForPercentage(row, amount) : MissingDollars(row);
+      unit == Unit::Percent ? MissingForPercentage(amount) : MissingDollars(row);
   if (!increase) {
     ++main_.Text1[money_box::kDonation].selections;
     return ShowHint(main_, hint::kTypeAmount);
@@ -259,17 +293,23 @@ Currency DonationEntry::LargestWithCardFee(Currency limit, Currency serviceFee) 
   return Currency::FromUnits(fits * kCent);
 }
 
-// Returns the row's former amount and fees to the Balance and takes the new ones from it.
-void DonationEntry::MoveMoney(const Row& row) {
-  ListView& list = main_.ListView1;
-  Currency balance = values_.Balance + row.amount - values_.Donation;
-  const bool donates = values_.Donation != Currency();
+// The row's former amount and fees return to the Balance, and the new ones leave it.
+Currency DonationEntry::BalanceAfter(const Row& row, const SessionValues& values) const {
+  Currency balance = values.Balance + row.amount - values.Donation;
+  const bool donates = values.Donation != Currency();
   if (DeductsFees()) {
     balance += row.fee;
     if (!donates || DeductsCardFee()) balance += row.cardFee;
-    if (donates) balance -= values_.BvxFee;
-    if (donates && DeductsCardFee()) balance -= values_.CardFee;
+    if (donates) balance -= values.BvxFee;
+    if (donates && DeductsCardFee()) balance -= values.CardFee;
   }
+  return balance;
+}
+
+void DonationEntry::MoveMoney(const Row& row) {
+  ListView& list = main_.ListView1;
+  const Currency balance = BalanceAfter(row, values_);
+  const bool donates = values_.Donation != Currency();
   if (donates && DeductsCardFee()) {
     list.SetSubItem(row.number, column::kCardFee, values_.CardFee.ToText());
   }

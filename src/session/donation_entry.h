@@ -12,6 +12,12 @@
 
 namespace benevix {
 
+// What a donation that is only typed would do.
+struct Estimate {
+  Currency balance;  // that would remain
+  bool fits = false;
+};
+
 // The Donation box: donates an amount or a percentage of the Balance to the selected row.
 class DonationEntry {
  public:
@@ -35,8 +41,15 @@ class DonationEntry {
   // dollars on if the Balance covers them.
   void Text1_Change();
 
-  // Handles Enter or Tab in the box: donates what was typed.
+  // Handles Enter or Tab in the box: donates what was typed, or the box's note says why not.
   void Enter();
+
+  // What Enter would do now; nothing while no amount is typed for an organization. Raises
+  // RuntimeError on overflow.
+  [[nodiscard]] std::optional<Estimate> EstimateTyped() const;
+
+  // The service fee of a donation under the current options.
+  [[nodiscard]] Currency ServiceFee() const;
 
   enum class Unit { Dollars, Percent };
   // Donates to the selected row as Enter does; an amount of 0 withdraws its donation. Does nothing
@@ -68,27 +81,28 @@ class DonationEntry {
   [[nodiscard]] bool DeductsCardFee() const {
     return DeductsFees() && others_.payment.Option1[payment::kCreditCard].value;
   }
-  // The Balance as the next donation finds it. Raises RuntimeError on overflow.
-  [[nodiscard]] Currency BalanceForDonation() const { return values_.Balance - SessionFeeDue(); }
-  // Starts a donation (fixed name): stores the amount, locks the fee mode, sets the service fee.
-  void method71(Currency amount);
-  [[nodiscard]] Currency ServiceFee() const;
+  [[nodiscard]] Unit TypedUnit() const;
+  [[nodiscard]] bool IsOrganizationSelected() const;
+  // Starts a donation (fixed name): settles proof of mailing and locks the fee mode.
+  void method71();
+  // Sets the donation and its fees, and takes the session fee when that is due.
+  void Prepare(Currency amount, Unit unit, SessionValues& values, FeeRates& rates) const;
   [[nodiscard]] bool RequireDonorCountry();
   // A blank name would end the program once the session is sent.
   [[nodiscard]] bool RequireDonorName();
   [[nodiscard]] bool IsForeignDonor() const;
   // Writes delivery, donor, fee and amount into the row (fixed name).
   void method72(int row);
-  [[nodiscard]] Row SelectedRow() const;
-  // Whether a donation with these fees is more than the row can use.
-  [[nodiscard]] bool IsOverLimit(const Row& row, Currency donation, Currency cardFee) const;
+  [[nodiscard]] Row SelectedRow(const SessionValues& values) const;
+  // Whether the donation with its fees is more than the row can use.
+  [[nodiscard]] bool IsOverLimit(const Row& row, const SessionValues& values) const;
+  [[nodiscard]] Currency BalanceAfter(const Row& row, const SessionValues& values) const;
   // Offers to raise the Budget so that the amount or percentage fits when it is entered again.
   void OfferLargerBudget(const Row& row, Currency amount, Unit unit);
   // By how many whole dollars the Budget must rise; nothing for a percentage that never fits, since
   // it takes, with its fees, all that is added.
   [[nodiscard]] Currency MissingDollars(const Row& row) const;
-  [[nodiscard]] std::optional<Currency> MissingForPercentage(const Row& row,
-                                                             Currency percentage) const;
+  [[nodiscard]] std::optional<Currency> MissingForPercentage(Currency percentage) const;
   [[nodiscard]] Currency MaximumDonation(const Row& row) const;
   // The largest donation that with its card fee, at the next rate, does not exceed `limit`.
   [[nodiscard]] Currency LargestWithCardFee(Currency limit, Currency serviceFee) const;

@@ -3,12 +3,17 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "session/typed_amount.h"
 
 namespace benevix {
 
 void MainWindow::Text1_KeyPress(EventArgs& args) {
   const bool digit = args.key >= '0' && args.key <= '9';
   if (!digit && args.key != '.' && args.key != keys::kBackspace) args.key = 0;
+}
+
+void MainWindow::Text1_Paste(EventArgs& args) {
+  if (HasDecimalComma(args.pasted)) args.pasted = {};
 }
 
 void MainWindow::Text1_KeyUp(int index, const EventArgs& args) {
@@ -18,11 +23,20 @@ void MainWindow::Text1_KeyUp(int index, const EventArgs& args) {
 }
 
 void MainWindow::Text1_Change(int index) {
+  if (index == money_box::kBudget) budget_.Text1_Change();
   if (index == money_box::kDonation) donation_.Text1_Change();
 }
 
 void MainWindow::Text1_GotFocus(int index) {
   ++main_.Text1[index].selections;
+}
+
+void MainWindow::Text1_LostFocus(int index) {
+  TextBox& box = main_.Text1[index];
+  const bool firstBudget = index == money_box::kBudget && values_.Budget == Currency();
+  if (box.typed && index != money_box::kDonation && !firstBudget) {
+    box.Write(box.lastWritten);
+  }
 }
 
 void MainWindow::Timer1_Tick() {

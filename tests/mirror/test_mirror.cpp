@@ -1,5 +1,6 @@
 // The mirror between structs and real widgets, off the screen.
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
@@ -15,6 +16,7 @@
 #include "core/wait_notice.h"
 #include "forms/frmBVX.h"
 #include "forms/frmPayOpt.h"
+#include "mirror/look/note_bubble.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
 
@@ -72,13 +74,24 @@ TEST_F(MirrorTest, PastedTextPassesTheKeyFilterCharacterByCharacter) {
   EXPECT_EQ(main.Text1[2].text, "123.4");
   EXPECT_EQ(edit.text(), QStringLiteral("123.4"));
   EXPECT_TRUE(main.Text1[2].typed);
-  // Into the middle of the text, and over a selection.
+  // What was refused is told at the box once the change is done.
+  QTest::qWait(0);
+  EXPECT_EQ(main.Text1[2].note, main.Text1[2].takes);
+  const auto& bubble =
+      *edit.window()->findChild<NoteBubble*>(QString(), Qt::FindDirectChildrenOnly);
+  EXPECT_TRUE(bubble.isVisible() && edit.window()->rect().contains(bubble.geometry()));
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&edit)->text(QAccessible::Description),
+            QLatin1String(main.Text1[2].takes));
+  // Into the middle of the text, and over a selection, which stays when nothing is let in.
   edit.setCursorPosition(1);
   edit.insert(QStringLiteral("x9"));
   EXPECT_EQ(main.Text1[2].text, "1923.4");
   edit.selectAll();
   edit.insert(QStringLiteral("abc"));
-  EXPECT_EQ(main.Text1[2].text, "");
+  EXPECT_EQ(main.Text1[2].text, "1923.4");
+  EXPECT_EQ(edit.selectedText(), QStringLiteral("1923.4"));
+  edit.insert(QStringLiteral("1\u0416"));  // repeats what it replaces
+  EXPECT_EQ(main.Text1[2].text, "1");
 }
 
 TEST_F(MirrorTest, WhatTheProgramWritesPassesWholeAndIsReplacedByTyping) {

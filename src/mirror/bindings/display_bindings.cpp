@@ -151,7 +151,7 @@ class MoneyBarBinding : public WidgetBinding<MoneyBar, MoneyBarWidget> {
                        ToQString(part.caption + " " + Format(part.amount, kSumPattern)),
                        part.amount.ToDouble()});
     }
-    widget_.SetParts(std::move(parts));
+    widget_.SetParts(std::move(parts), ToQString(control_.remark));
   }
 };
 

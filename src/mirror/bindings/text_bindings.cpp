@@ -18,24 +18,40 @@
 namespace benevix {
 namespace {
 
+// Lets what the user types into the edit of a box through the box's key filter.
+template <class Box>
+void FilterTyping(Box& box, QLineEdit& edit, BindingContext& context) {
+  edit.setValidator(
+      std::make_unique<TypedText>(
+          edit,
+          TypedText::Rules{.current = [&box] { return ToQString(box.text); },
+                           .accepted =
+                               [&box, &context](const QString& typed) {
+                                 std::string bytes = FromQString(typed);
+                                 std::erase_if(bytes, [](char c) { return c >= 0 && c < ' '; });
+                                 return ToQString(context.input.Accepted(box, bytes));
+                               },
+                           // Later, since the edit must not be written in the middle of its change.
+                           .refused =
+                               [&box, &edit, &context] {
+                                 QMetaObject::invokeMethod(
+                                     &edit, [&box, &context] { context.input.Refuse(box); },
+                                     Qt::QueuedConnection);
+                               },
+                           .isApplying = [&context] { return context.applying; }})
+          .release());
+  QObject::connect(&edit, &QLineEdit::textEdited, &edit, [&box, &context](const QString& text) {
+    context.input.Type(box, FromQString(text));
+  });
+}
+
 class TextBoxBinding : public WidgetBinding<TextBox, QLineEdit> {
  public:
   TextBoxBinding(TextBox& box, QLineEdit& edit, BindingContext& context)
       : WidgetBinding(box, edit, context),
         colors_(edit, context.scheme),
         selections_(box.selections) {
-    edit.setValidator(std::make_unique<TypedText>(
-                          &edit, [&box] { return ToQString(box.text); },
-                          [&box, &context](QChar c) {
-                            const int byte = CodePageByte(c.unicode());
-                            return byte >= ' ' &&
-                                   context.input.Accepts(box, static_cast<char>(byte));
-                          },
-                          [&context] { return context.applying; })
-                          .release());
-    QObject::connect(&edit, &QLineEdit::textEdited, &edit, [&](const QString& text) {
-      context_.input.Type(control_, FromQString(text));
-    });
+    FilterTyping(box, edit, context);
   }
 
  private:
@@ -75,7 +91,8 @@ class MultiLineBinding : public WidgetBinding<TextBox, QPlainTextEdit> {
       : WidgetBinding(box, edit, context) {
     QObject::connect(&edit, &QPlainTextEdit::textChanged, &edit, [this] {
       if (context_.applying) return;
-      std::string text = FromQString(widget_.toPlainText());
+      bool lost = false;
+      std::string text = FromUtf8(widget_.toPlainText().toStdString(), &lost);
       for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += 2) {
         text.insert(at, 1, '\r');
       }
@@ -85,6 +102,7 @@ class MultiLineBinding : public WidgetBinding<TextBox, QPlainTextEdit> {
       } else {
         ApplyKind();
       }
+      if (lost) context_.input.Refuse(control_);
     });
   }
 
@@ -134,14 +152,7 @@ class ComboBinding : public WidgetBinding<ComboBox, QComboBox> {
     }
     widget.lineEdit()->setAccessibleName(widget.accessibleName());
     widget.setCompleter(nullptr);
-    widget.setValidator(std::make_unique<TypedText>(
-                            &widget, [&combo] { return ToQString(combo.text); },
-                            [](QChar c) { return CodePageByte(c.unicode()) >= ' '; },
-                            [&context] { return context.applying; })
-                            .release());
-    QObject::connect(
-        widget.lineEdit(), &QLineEdit::textEdited, &widget,
-        [this](const QString& text) { context_.input.Type(control_, FromQString(text)); });
+    FilterTyping(combo, *widget.lineEdit(), context);
   }
 
  private:

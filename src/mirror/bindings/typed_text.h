@@ -1,29 +1,29 @@
 #pragma once
 
+#include <QLineEdit>
 #include <QValidator>
 #include <functional>
 
 namespace benevix {
 
-// Lets the user's text into a line edit character by character. What was typed, pasted or dropped
-// is found by comparing with the text before; of it only the accepted characters stay.
+// Filters what the user types, pastes or drops into a line edit. When nothing of it is let in, the
+// edit keeps its text, its selection and what can be undone.
 class TypedText : public QValidator {
  public:
-  // `current` gives the text before; `accepts` says whether a character may be typed; `isApplying`
-  // whether it is the program that writes, whose text is taken as it is.
-  TypedText(QObject* parent, std::function<QString()> current, std::function<bool(QChar)> accepts,
-            std::function<bool()> isApplying)
-      : QValidator(parent),
-        current_(std::move(current)),
-        accepts_(std::move(accepts)),
-        isApplying_(std::move(isApplying)) {}
+  struct Rules {
+    std::function<QString()> current;                 // the text before
+    std::function<QString(const QString&)> accepted;  // what is let in of what was typed
+    std::function<void()> refused;                    // called when something was not
+    std::function<bool()> isApplying;  // whether the program writes, whose text is taken as it is
+  };
+
+  TypedText(QLineEdit& edit, Rules rules);
 
   State validate(QString& input, int& position) const override;
 
  private:
-  std::function<QString()> current_;
-  std::function<bool(QChar)> accepts_;
-  std::function<bool()> isApplying_;
+  Rules rules_;
+  qsizetype start_ = 0;  // where the next typed text begins: at the caret or the selection
 };
 
 }  // namespace benevix

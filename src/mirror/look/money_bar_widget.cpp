@@ -22,9 +22,10 @@ MoneyBarWidget::MoneyBarWidget(QWidget* parent) : QWidget(parent) {
   MarkAsIndicator(*this);
 }
 
-void MoneyBarWidget::SetParts(std::vector<Part> parts) {
-  if (parts_ == parts) return;
+void MoneyBarWidget::SetParts(std::vector<Part> parts, const QString& remark) {
+  if (parts_ == parts && remark_ == remark) return;
   parts_ = std::move(parts);
+  remark_ = remark;
   update();
 }
 
@@ -72,6 +73,11 @@ void MoneyBarWidget::PaintNames(QPainter& painter) const {
     painter.drawText(QRect(x, top, width() - x, height), Qt::AlignVCenter, part.text);
     x += fontMetrics().horizontalAdvance(part.text) + kNameGap;
   }
+  QFont bold = font();
+  bold.setBold(true);
+  painter.setFont(bold);
+  painter.setPen(palette().color(QPalette::WindowText));
+  painter.drawText(QRect(x, top, width() - x, height), Qt::AlignVCenter, remark_);
 }
 
 }  // namespace benevix

@@ -19,8 +19,8 @@ class MoneyBarWidget : public QWidget {
 
   explicit MoneyBarWidget(QWidget* parent = nullptr);
 
-  // Without parts it is an empty track.
-  void SetParts(std::vector<Part> parts);
+  // Without parts it is an empty track. The remark stands behind the names.
+  void SetParts(std::vector<Part> parts, const QString& remark);
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
@@ -33,6 +33,7 @@ class MoneyBarWidget : public QWidget {
   void PaintNames(QPainter& painter) const;
 
   std::vector<Part> parts_;
+  QString remark_;
 };
 
 }  // namespace benevix

@@ -116,6 +116,11 @@ QString SheetOf(Scheme scheme, QFont font) {
   const QFontMetrics plain(font);
   set("title", QString::number(plain.height() + 9));
   set("track", QString::number(plain.height() + 8));
+  QFont small = font;
+  small.setPointSizeF(points * 0.9);
+  const QFontMetrics note(small);
+  set("aside", QString::number(note.horizontalAdvance(QStringLiteral("Opens when 100.00 m"))));
+  set("twolines", QString::number(2 * note.lineSpacing()));
   // A minimum width in a style sheet replaces the one of the text, so the text must fit into it.
   font.setBold(true);
   const auto width = [&font](const char* text) {

@@ -44,7 +44,8 @@ WindowBinding::WindowBinding(Desk& desk, const Desk::Entry& entry, BindingContex
       window_(*entry.window),
       loads_(entry.loads),
       widget_(MakeDrawing(entry.name)),
-      keys_(context.input, window_, *widget_) {
+      keys_(context.input, window_, *widget_),
+      note_(std::make_unique<NoteBubble>(*widget_).release()) {
   widget_->installEventFilter(this);
   for (const NamedControl& control : entry.controls) {
     auto binding = MakeBinding(control, *widget_, context_);
@@ -129,6 +130,17 @@ void WindowBinding::Apply(QWidget* transientParent) {
 
 void WindowBinding::ApplyControls() {
   for (const auto& [control, binding] : bound_) binding->Apply();
+  ApplyNote();
+}
+
+// There is at most one: a note goes when the focus moves.
+void WindowBinding::ApplyNote() {
+  for (const auto& [control, binding] : bound_) {
+    const std::string& note = control->Base().note;
+    if (note.empty() || binding->Widget() == nullptr) continue;
+    return note_->ShowAt(*binding->Widget(), Drawn(note));
+  }
+  note_->Dismiss();
 }
 
 void WindowBinding::ApplyWindow() {

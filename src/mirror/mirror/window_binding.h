@@ -8,6 +8,7 @@
 #include "controls/desk.h"
 #include "mirror/bindings/binding.h"
 #include "mirror/bindings/menu_binding.h"
+#include "mirror/look/note_bubble.h"
 #include "mirror/mirror/window_keys.h"
 
 namespace benevix {
@@ -36,6 +37,8 @@ class WindowBinding : public QObject {
   [[nodiscard]] QWidget& Widget() { return *widget_; }
   // Null for a control that is not drawn.
   [[nodiscard]] QWidget* WidgetOf(const Control& control) const;
+  // The note that stands at a widget; empty for none.
+  [[nodiscard]] QString NoteOf(const QWidget& widget) const { return note_->NoteOf(widget); }
   // Of a menu item, or of the element of a menu array; null when there is none.
   [[nodiscard]] QAction* ActionOf(const NamedControl& control, int element) const;
 
@@ -50,6 +53,7 @@ class WindowBinding : public QObject {
   void GiveMnemonics();
   void MakeShortcuts(const Desk::Entry& entry);
   void ApplyControls();
+  void ApplyNote();
   void ApplyWindow();
   void ShowWindow(QWidget* transientParent);
   [[nodiscard]] const BoundControl* BoundTo(const QObject* widget) const;
@@ -63,6 +67,7 @@ class WindowBinding : public QObject {
   int loads_;
   std::unique_ptr<QWidget> widget_;
   WindowKeys keys_;
+  NoteBubble* note_;  // a child of the widget
   std::vector<BoundControl> bound_;
   std::unique_ptr<MenuBinding> menus_;
 };

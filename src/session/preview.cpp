@@ -1,0 +1,36 @@
+#include "session/preview.h"
+
+#include "base/format.h"
+#include "base/runtime_error.h"
+
+namespace benevix {
+
+void Preview::Show() {
+  ShowEstimate();
+  main_.ContinueNote.caption = WhatContinueWaitsFor();
+}
+
+// While nothing can be typed yet, the label stays as the session's steps left it.
+void Preview::ShowEstimate() {
+  const TextBox& box = main_.Text1[money_box::kDonation];
+  Label& label = main_.Label8;
+  label.foreColor = Label().foreColor;
+  if (box.enabled || box.typed) label.visible = false;
+  try {
+    const auto estimate = donation_.EstimateTyped();
+    if (!estimate) return;
+    label.caption = Format(estimate->balance, kSumPattern);
+    label.visible = true;
+    if (!estimate->fits) label.foreColor = colors::kRed;
+  } catch (const RuntimeError&) {
+    // It overflows, so there is nothing to show.
+  }
+}
+
+std::string Preview::WhatContinueWaitsFor() const {
+  if (main_.Command1.enabled) return {};
+  if (values_.Budget == Currency()) return "Opens after a Budget and a donation";
+  return "Opens when " + Format(donation_.ServiceFee(), kSumPattern) + " or less is left";
+}
+
+}  // namespace benevix
