@@ -18,7 +18,10 @@ ProgramInfo InfoOf(const QFileInfo& executable) {
   ProgramInfo info;
   info.deployment = ReadDeployment(installed + "/deployment.ini");
   info.folder = ProgramFolder(path);
-  if (info.folder != installed) FillUsersFolder(installed, info.folder);
+  if (info.folder != installed) {
+    info.installed = installed;
+    FillUsersFolder(installed, info.folder);
+  }
   info.exeName = FromQString(executable.completeBaseName());
   info.major = BENEVIX_VERSION_MAJOR;
   info.minor = BENEVIX_VERSION_MINOR;
@@ -35,7 +38,7 @@ Machine::Machine(const std::string& executable, Waits& waits, MessageBoxes& boxe
     : waits_(waits),
       boxes_(boxes),
       info_(InfoOf(QFileInfo(QString::fromStdString(executable)))),
-      registry_(SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile()),
+      registry_(files_, SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile()),
       http_(waits) {}
 
 Environment Machine::TheEnvironment() {

@@ -1,5 +1,9 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 #include "base/runtime_error.h"
@@ -26,25 +30,64 @@ TEST(LinuxFiles, FailuresChangeNothing) {
   EXPECT_EQ(ReadFile(history), "first\r\n");
   const std::filesystem::directory_iterator entries(folder / "");
   EXPECT_EQ(std::distance(begin(entries), end(entries)), 1);
+  WriteFile(history, "torn");
   files.Append(history, "second\r\n");
-  EXPECT_EQ(files.ReadAll(history), "first\r\nsecond\r\n");
+  EXPECT_EQ(files.ReadAll(history), "torn\r\nsecond\r\n");
+  EXPECT_EQ(std::filesystem::status(history).permissions(), std::filesystem::perms(0600));
+  // A pipe is no file, and is not waited for.
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+  EXPECT_THROW(files.Append(folder / "pipe", "record"), RuntimeError);
+  EXPECT_THROW(static_cast<void>(files.ReadAll(folder / "pipe")), RuntimeError);
+}
+
+TEST(LinuxFiles, OtherProcessesLoseNothingAndHoldNothing) {
+  const TempFolder folder;
+  LinuxFiles files;
+  // Another one created the file, could not write and takes it back.
+  const std::string file = folder / "history.dat";
+  const int other = open(file.c_str(), O_CREAT | O_RDWR, 0600);
+  flock(other, LOCK_EX);
+  std::thread append([&] { files.Append(file, "record\r\n"); });
+  std::this_thread::sleep_for(std::chrono::milliseconds(50));
+  unlink(file.c_str());
+  close(other);
+  append.join();
+  EXPECT_EQ(ReadFile(file), "record\r\n");
+
+  const auto lock = files.Lock(folder / "", {});
+  EXPECT_NE(lock, nullptr);
+  EXPECT_EQ(files.Lock(folder / "", {}), nullptr);
+
+  const pid_t dead = fork();
+  if (dead == 0) _exit(0);
+  wait(nullptr);
+  const std::string leftover = folder / ("a." + std::to_string(dead) + ".new");
+  const std::string inUse = folder / ("a." + std::to_string(getppid()) + ".new");
+  for (const std::string& name : {leftover, inUse, folder / "a.new"}) WriteFile(name, "");
+  files.RemoveLeftovers(folder / "");
+  EXPECT_TRUE(!files.Exists(leftover) && files.Exists(inUse) && files.Exists(folder / "a.new"));
 }
 
 TEST(LinuxFiles, FollowsLinks) {
   const TempFolder folder;
   LinuxFiles files;
   const std::string real = folder / "real.dat", link = folder / "link.dat";
-  const std::string large(3'000'000, 'l');
   WriteFile(real, "a longer old text");
-  WriteFile(folder / "from.dat", large);
+  WriteFile(folder / "from.dat", "moved");
   std::filesystem::create_symlink(real, link);
   files.Replace(link, "new");
   EXPECT_EQ(ReadFile(real), "new");
-  files.Copy(folder / "from.dat", link);
-  EXPECT_TRUE(std::filesystem::is_symlink(link));
-  EXPECT_THROW(files.Copy(link, real), RuntimeError);  // the same file
-  EXPECT_THROW(files.Copy(folder / "", real), RuntimeError);
-  EXPECT_EQ(files.ReadAll(real), large);
+  std::filesystem::remove(real);
+  files.Replace(link, "new again");
+  EXPECT_EQ(ReadFile(real), "new again");
+  // A link within the folder stays, the file behind it is replaced, also by and of another link.
+  EXPECT_EQ(files.Move(folder / "from.dat", link), real);
+  files.Link("/elsewhere", real);
+  EXPECT_EQ(std::filesystem::read_symlink(real), "/elsewhere");
+  WriteFile(folder / "from.dat", "moved");
+  files.Move(folder / "from.dat", link);
+  EXPECT_TRUE(std::filesystem::is_symlink(link) && !std::filesystem::is_symlink(real));
+  EXPECT_EQ(ReadFile(link), "moved");
 }
 
 TEST(LinuxShell, FindsTheDesktopFolder) {
