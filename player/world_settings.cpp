@@ -17,8 +17,8 @@ const std::string& PathOfBranch(const std::string& branch) {
 }  // namespace
 
 WorldSettings::WorldSettings(const std::string& folder)
-    : writable_(folder + "/user.conf", folder + "/machine.conf"),
-      refusing_(folder + "/user.conf", folder + "/machine.conf", false) {}
+    : writable_(files_, folder + "/user.conf", folder + "/machine.conf"),
+      refusing_(files_, folder + "/user.conf", folder + "/machine.conf", false) {}
 
 void WorldSettings::Put(const std::string& branch, const std::string& name,
                         const std::string& text) {
@@ -56,6 +56,15 @@ std::unique_ptr<RegistryKey> WorldSettings::CreateKey(Root root, const std::stri
 
 ResultCode WorldSettings::DeleteKey(Root root, const std::string& path) {
   return ForProgram().DeleteKey(root, path);
+}
+
+std::optional<RegistryValues> WorldSettings::ReadValues(Root root, const std::string& path) {
+  return ForProgram().ReadValues(root, path);
+}
+
+ResultCode WorldSettings::ChangeValues(Root root, const std::string& path,
+                                       const std::function<void(RegistryValues&)>& change) {
+  return ForProgram().ChangeValues(root, path, change);
 }
 
 }  // namespace benevix

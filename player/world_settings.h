@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/linux/linux_files.h"
 #include "platform/qt/settings_file.h"
 
 namespace benevix {
@@ -23,10 +24,14 @@ class WorldSettings : public Registry {
   std::unique_ptr<RegistryKey> OpenKey(Root root, const std::string& path, Access access) override;
   std::unique_ptr<RegistryKey> CreateKey(Root root, const std::string& path) override;
   ResultCode DeleteKey(Root root, const std::string& path) override;
+  std::optional<RegistryValues> ReadValues(Root root, const std::string& path) override;
+  ResultCode ChangeValues(Root root, const std::string& path,
+                          const std::function<void(RegistryValues&)>& change) override;
 
  private:
   [[nodiscard]] Registry& ForProgram() { return machineReadonly_ ? refusing_ : writable_; }
 
+  LinuxFiles files_;
   SettingsFile writable_;
   SettingsFile refusing_;
   bool machineReadonly_ = false;

@@ -10,6 +10,7 @@
 #include "core/codec.h"
 #include "core/settings_store.h"
 #include "people/contact_information.h"
+#include "platform/linux/linux_files.h"
 #include "platform/qt/settings_file.h"
 #include "player/world.h"
 
@@ -44,7 +45,8 @@ void RunFolder::UseSite(const QString& address) const {
 }
 
 void RunFolder::EnsureContact() const {
-  SettingsFile registry(SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile());
+  LinuxFiles files;
+  SettingsFile registry(files, SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile());
   SettingsStore settings(registry);
   if (!settings.GetUserString("UsrInfo").empty()) return;
   const std::array<const char*, contact_field::kCount> fields = {

@@ -19,7 +19,10 @@ ProgramInfo InfoOf(const QFileInfo& executable) {
   info.deployment = ReadDeployment(installed + "/deployment.ini");
   const std::string folder = ProgramFolder(path);
   info.folder = FilePath(folder);
-  if (folder != installed) FillUsersFolder(installed, folder);
+  if (folder != installed) {
+    info.installed = FilePath(installed);
+    FillUsersFolder(installed, folder);
+  }
   info.exeName = FromQString(executable.completeBaseName());
   info.major = BENEVIX_VERSION_MAJOR;
   info.minor = BENEVIX_VERSION_MINOR;
@@ -36,7 +39,7 @@ Machine::Machine(const std::string& executable, Waits& waits, MessageBoxes& boxe
     : waits_(waits),
       boxes_(boxes),
       info_(InfoOf(QFileInfo(QString::fromStdString(executable)))),
-      registry_(SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile()),
+      registry_(files_, SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile()),
       http_(waits) {}
 
 Environment Machine::TheEnvironment() {

@@ -28,12 +28,12 @@ class Machine {
   Waits& waits_;
   MessageBoxes& boxes_;
   ProgramInfo info_;
+  LinuxFiles files_;
   SettingsFile registry_;
   QtHttpClient http_;
   SystemClock clock_;
   RandomGenerator random_;
   LinuxShell shell_;
-  LinuxFiles files_;
   QtPrinter printer_;
 };
 

@@ -1,6 +1,8 @@
 #include "benevix/users_folder.h"
 
 #include <filesystem>
+#include <limits>
+#include <optional>
 
 #include "base/runtime_error.h"
 #include "base/text.h"
@@ -12,12 +14,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A list that cannot be read or carries no version is older than any that does.
-float VersionOf(const fs::path& list) {
+FilePath PathOf(const fs::path& path) {
+  return FilePath(path.string());
+}
+
+// Nothing for a list that cannot be read or has an absurd version.
+std::optional<float> VersionOf(const fs::path& list) {
   try {
-    return ListFileVersion(LinuxFiles(), FilePath(list.string())).value_or(0);
+    const float version = ListFileVersion(LinuxFiles(), PathOf(list)).value_or(0);
+    return IsListVersion(version) ? std::optional(version) : std::nullopt;
   } catch (const RuntimeError&) {
-    return 0;
+    return std::nullopt;
   }
 }
 
@@ -28,13 +35,14 @@ fs::path TargetOf(const fs::directory_entry& file) {
   return target.has_parent_path() ? file.path() : target;
 }
 
-void Link(const fs::path& target, const fs::path& link) {
-  if (fs::exists(link)) return;
-  fs::remove(link);  // it leads nowhere
-  std::error_code error;
-  fs::create_symlink(target, link, error);
-  // Another start may have been faster.
-  if (error && error != std::errc::file_exists) throw fs::filesystem_error("", link, error);
+// A list that the program installs from the server at this moment is newer anyway. One that cannot
+// be read stays: the program replaces it and says so.
+void ReplaceOlderList(const fs::path& installed, const fs::path& own) {
+  LinuxFiles files;
+  const auto lock = files.Lock(PathOf(own.parent_path()), std::chrono::milliseconds(0));
+  if (lock && VersionOf(installed) > VersionOf(own).value_or(std::numeric_limits<float>::max())) {
+    files.Link(PathOf(installed), PathOf(own));
+  }
 }
 
 }  // namespace
@@ -44,10 +52,11 @@ void FillUsersFolder(const std::string& installed, const std::string& folder) {
   const fs::path list = "sharedb.dat";
   try {
     fs::create_directories(to);
-    if (VersionOf(from / list) > VersionOf(to / list)) fs::remove(to / list);
     for (const auto& file : fs::directory_iterator(from)) {
-      Link(TargetOf(file), to / file.path().filename());
+      const fs::path link = to / file.path().filename();
+      if (!fs::exists(link)) LinuxFiles().Link(PathOf(TargetOf(file)), PathOf(link));
     }
+    ReplaceOlderList(from / list, to / list);
   } catch (const fs::filesystem_error& error) {
     throw RuntimeError(FromUtf8(error.path1().string() + ": " + error.code().message()));
   }

@@ -3,6 +3,19 @@
 #include "base/number_text.h"
 
 namespace benevix {
+namespace {
+
+// Numbers and bytes are no texts.
+SettingsTexts TextsOf(const RegistryValues& values) {
+  SettingsTexts texts;
+  for (const auto& [name, value] : values) {
+    if (value.type != value_type::kText || value.bytes.empty()) continue;
+    texts[name] = value.bytes.substr(0, value.bytes.size() - 1);
+  }
+  return texts;
+}
+
+}  // namespace
 
 void SettingsStore::CreateKey(Root root, const std::string& path) {
   registry_.CreateKey(root, path);
@@ -31,15 +44,39 @@ void SettingsStore::SaveString(Root root, const std::string& path, const std::st
 }
 
 std::string SettingsStore::GetString(Root root, const std::string& path, const std::string& name) {
+  return ReadString(root, path, name).value_or("");
+}
+
+std::optional<std::string> SettingsStore::ReadString(Root root, const std::string& path,
+                                                     const std::string& name) {
   std::string value;
   const auto key = registry_.OpenKey(root, path, Access::Query);
-  if (key) QueryValueOnHandle(*key, name, value);
+  if (key && QueryValueOnHandle(*key, name, value) == kUnreadable) return std::nullopt;
   return value;
 }
 
-void SettingsStore::DeleteValue(Root root, const std::string& path, const std::string& name) {
-  const auto key = registry_.OpenKey(root, path, Access::SetValue);
-  if (key) key->Delete(name);
+std::optional<SettingsTexts> SettingsStore::GetStrings(Root root, const std::string& path) {
+  const auto values = registry_.ReadValues(root, path);
+  if (!values) return std::nullopt;
+  return TextsOf(*values);
+}
+
+bool SettingsStore::ChangeStrings(Root root, const std::string& path,
+                                  const std::function<void(SettingsTexts&)>& change) {
+  return registry_.ChangeValues(root, path, [&](RegistryValues& values) {
+    const SettingsTexts old = TextsOf(values);
+    SettingsTexts texts = old;
+    change(texts);
+    for (const auto& [name, text] : old) {
+      if (!texts.contains(name)) values.erase(name);
+    }
+    for (const auto& [name, text] : texts) {
+      const auto known = old.find(name);
+      if (known == old.end() || known->second != text) {
+        values[name] = {value_type::kText, text + '\0'};
+      }
+    }
+  }) == 0;
 }
 
 ResultCode SettingsStore::QueryValueOnHandle(RegistryKey& key, const std::string& name,

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
 #include <string>
 
 #include "platform/registry.h"
@@ -9,6 +12,8 @@ namespace benevix {
 
 inline const std::string kSettingsPath = "Software\\Quorl\\Benevix";
 inline const std::string kFavoritesPath = kSettingsPath + "\\Favorites";
+
+using SettingsTexts = std::map<std::string, std::string>;
 
 // The program's settings: texts under a registry key. Failures are silent: what cannot be read is
 // empty, what cannot be written is skipped. Nothing is cached.
@@ -34,7 +39,17 @@ class SettingsStore {
   static ResultCode QueryValueOnHandle(RegistryKey& key, const std::string& name,
                                        std::string& value);
 
-  void DeleteValue(Root root, const std::string& path, const std::string& name);
+  // As GetString, but nothing when the settings cannot be read, which says nothing of the value.
+  std::optional<std::string> ReadString(Root root, const std::string& path,
+                                        const std::string& name);
+
+  // All texts of a key by their names, as they stood at one instant; nothing when the settings
+  // cannot be read.
+  std::optional<SettingsTexts> GetStrings(Root root, const std::string& path);
+  // Reads all texts of a key, lets `change` change them and writes them, in one step that no other
+  // program's write comes between. False when nothing could be written.
+  bool ChangeStrings(Root root, const std::string& path,
+                     const std::function<void(SettingsTexts&)>& change);
 
   // In the program's own key of the user's branch.
   void SaveUserString(const std::string& name, const std::string& value) {

@@ -51,6 +51,20 @@ std::optional<float> HeaderVersion(std::string_view line) {
   return ToSingle(Val(line.substr(kListHeader.size())));
 }
 
+bool IsListVersion(float version) {
+  // Versions count from 1; even one that counts by years stays below.
+  constexpr float least = 0, limit = 10'000;
+  return version >= least && version < limit;
+}
+
+std::string ListFault(const Files& files, const FilePath& file) {
+  try {
+    return OrganizationList(*files.Open(file)).Fault();
+  } catch (const RuntimeError& error) {
+    return error.what();
+  }
+}
+
 OrganizationList::OrganizationList(FileReader& file) {
   const std::size_t size = file.Size();
   if (size > std::numeric_limits<std::uint32_t>::max()) {
@@ -127,6 +141,12 @@ std::string_view OrganizationList::Line(int row) const {
                                  ? bytes_.size() - begin
                                  : static_cast<std::size_t>(static_cast<const char*>(end) - text);
   return WithoutReturn({text, length});
+}
+
+std::string OrganizationList::Fault() const {
+  if (!damage_.empty()) return damage_;
+  if (version_ && !IsListVersion(*version_)) return "version " + SingleToText(*version_);
+  return version_ || Count() > 0 ? "" : "empty";
 }
 
 std::string OrganizationList::Text(int row, int column) const {

@@ -53,6 +53,9 @@ class OrganizationList : public RowSource {
   [[nodiscard]] const std::optional<float>& Version() const { return version_; }
   // Why the load ended early, or empty.
   [[nodiscard]] const std::string& Damage() const { return damage_; }
+  // Why another list is better than this one: its damage, an absurd version, which no update would
+  // ever exceed, or nothing in it; or empty.
+  [[nodiscard]] std::string Fault() const;
 
  private:
   // Fast check that nearly every line passes; the others go through AddLine.
@@ -72,6 +75,12 @@ class OrganizationList : public RowSource {
 
 // How a header line begins.
 inline constexpr std::string_view kListHeader = ";QUORL";
+
+// Whether a list can have this version.
+bool IsListVersion(float version);
+
+// The Fault of a list file, also when it cannot be read; never raises.
+std::string ListFault(const Files& files, const FilePath& file);
 
 // The version in a header line; nothing for any other line. Raises RuntimeError beyond a float.
 std::optional<float> HeaderVersion(std::string_view line);

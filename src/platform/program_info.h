@@ -19,7 +19,10 @@ struct Deployment {
 
 // Facts about the program and its machine, set once at start-up.
 struct ProgramInfo {
-  FilePath folder;      // the program folder
+  FilePath folder;  // the program folder
+  // The folder of the installation where that is another one and the program folder is the user's
+  // own; its Resources are only read.
+  FilePath installed;
   std::string exeName;  // file name of the executable without folder and extension
   int major = 0, minor = 0, revision = 0;
   int platformId = 2;                             // as the operating system reports it

@@ -9,8 +9,10 @@ namespace benevix {
 namespace {
 
 bool IsFirstRun(SettingsStore& settings) {
+  // Settings that cannot be read just now are no first run, which would reset them.
+  const auto version = settings.ReadString(Root::CurrentUser, kSettingsPath, "BVXDB");
   try {
-    return Val(settings.GetUserString("BVXDB")) == 0;
+    return version && Val(*version) == 0;
   } catch (const RuntimeError&) {
     return true;  // a number beyond a double is no version
   }

@@ -22,6 +22,7 @@
 #include "records/history.h"
 #include "records/last_session.h"
 #include "records/printing.h"
+#include "server/list_at_start.h"
 #include "server/list_update.h"
 #include "server/list_update_command.h"
 #include "server/news.h"
@@ -133,6 +134,7 @@ class Program {
   YearToDate yearToDate_;
   News news_;
   ListUpdate listUpdate_;
+  ListAtStart listAtStart_;
   ListUpdateCommand listUpdateCommand_;
   OrganizationContacts contacts_;
   OrganizationInformation information_;

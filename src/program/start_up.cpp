@@ -44,18 +44,19 @@ void Program::frmBVX_Load() {
 }
 
 void Program::LoadMainWindow() {
+  const FilePath& folder = environment_.info.folder;
+  for (const FilePath& own : {folder, folder / "Resources"}) {
+    environment_.files.RemoveLeftovers(own);
+  }
   main_.Option3[fee_option::kAdd].backColor = colors::kSand;
   main_.Option3[fee_option::kDeduct].backColor = colors::kLightSand;
   ApplyConnectionSettings(settings_, main_);
   if (server_.CheckServerStatus()) {
     server_.LoadFeeRates();
     yearToDate_.DownloadYtd();
-    database_.ReadListVersion();
-    bool ready = false;
-    listUpdate_.CheckListUpdate(true, true, ready);
-    if (ready) listUpdate_.InstallList();
+    listAtStart_.Update();
   }
-  database_.LoadOrganizationList();
+  listAtStart_.Load();
   ShowHint(main_, hint::kTypeBudget);
   frmPersInfo& contact = forms_.Get<frmPersInfo>();
   desk_.Load(contact);

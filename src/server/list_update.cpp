@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "database/organization_list.h"
+#include "platform/line_reader.h"
 
 namespace benevix {
 
@@ -13,13 +14,24 @@ std::string ListUpdate::Download(const std::string& path, HttpOptions options) {
   return server_.FetchServerText(path, options);
 }
 
-void ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
+std::unique_ptr<FolderLock> ListUpdate::Lock(std::chrono::milliseconds patience) {
+  return environment_.files.Lock(environment_.info.folder / "Resources", patience);
+}
+
+FilePath ListUpdate::Downloaded() const {
+  return environment_.info.Resource("$shrdb.dat");
+}
+
+ListCheck ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
   try {
     const auto noServer = [&] {
       if (!silent) messages_.ShowMessage(message::kNoServer, message_kind::kFailedToConnect);
     };
     const std::string reply = server_.FetchUsable("53rv3r/dbcurrver.dat");
-    if (reply.empty()) return noServer();
+    if (reply.empty()) {
+      noServer();
+      return {};
+    }
     const float version = ToSingle(Val(reply));
     if (version == run_.DBVersion && !silent) {
       messages_.ShowMessage(message::kNoUpdates, message_kind::kNone);
@@ -27,36 +39,54 @@ void ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
     if (version < run_.DBVersion && !silent) {
       messages_.ShowMessage(message::kLocalListNewer, message_kind::kInputError);
     }
-    if (version <= run_.DBVersion || !download) return;
+    if (version <= run_.DBVersion || !download) return {};
 
-    const FilePath temporary = environment_.info.Resource("$shrdb.dat");
-    environment_.files.Replace(temporary, "");
+    environment_.files.Replace(Downloaded(), "");
     const std::string list = Download("downloads/db" + reply);
-    if (!IsUsable(list)) return noServer();
-    environment_.files.Replace(temporary, list);
+    if (!IsUsable(list)) {
+      noServer();
+      return {};
+    }
+    environment_.files.Replace(Downloaded(), list);
     if (silent) {
       ready = true;
     } else {
       messages_.ShowMessage(message::kUpdateDownloaded, message_kind::kNone);
     }
-  } catch (const RuntimeError&) {
-    // Transfer and file errors end the check without a message.
+    return {.downloaded = true, .brokeOff = {}};
+  } catch (const RuntimeError& error) {
+    return {.downloaded = false, .brokeOff = error.what()};  // no message is shown
   }
+}
+
+bool ListUpdate::IsInstallable() const {
+  LineReader lines(environment_.files.Open(Downloaded()));
+  const auto first = lines.Next();
+  return first && first->starts_with(kListHeader) &&
+         ListFault(environment_.files, Downloaded()).empty();
 }
 
 bool ListUpdate::InstallList() {
   Files& files = environment_.files;
   const ProgramInfo& info = environment_.info;
-  const FilePath temporary = info.Resource("$shrdb.dat");
-  const bool isList = files.ReadAll(temporary).starts_with(kListHeader);
-  if (isList) {
+  const bool isInstallable = IsInstallable();
+  if (isInstallable) {
     // The doubled "d" is intended: in an installation that name is a link to sharedb.dat, from
-    // which the list is loaded.
-    files.Remove(info.Resource("sharedb.dat"));
-    files.Copy(temporary, info.Resource("/shareddb.dat"));
+    // which the list is loaded. Without the link that file is gone afterwards.
+    const FilePath place = files.Move(Downloaded(), info.Resource("/shareddb.dat"));
+    if (!place.Utf8().ends_with("/sharedb.dat")) files.Remove(info.Resource("sharedb.dat"));
   }
-  files.Remove(temporary);
-  return isList;
+  files.Remove(Downloaded());
+  return isInstallable;
+}
+
+bool ListUpdate::ReinstallList() {
+  const bool isInstallable = IsInstallable();
+  if (isInstallable) {
+    environment_.files.Move(Downloaded(), environment_.info.Resource("sharedb.dat"));
+  }
+  environment_.files.Remove(Downloaded());
+  return isInstallable;
 }
 
 bool ListUpdate::DownloadUpdater() {

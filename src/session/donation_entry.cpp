@@ -25,10 +25,6 @@ Currency RoundUpToDollars(Currency amount) {
   return rest > 0 ? amount + Currency::FromUnits(Currency::kScale - rest) : amount;
 }
 
-Currency Percent(Currency balance, Currency percentage) {
-  return Currency::FromDouble(Product(balance, percentage).ToDouble() / 100);
-}
-
 // A comma divides the fields of the record, and a name stored by an earlier version may have one.
 std::string WithoutCommas(std::string name) {
   for (std::size_t at = 0; (at = name.find(',', at)) != std::string::npos;) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <set>
 
 #include "base/number_text.h"
@@ -9,38 +10,91 @@
 namespace benevix {
 namespace {
 
-// A repair stops after so many missing values in a row.
-constexpr std::size_t kMaxGap = 100;
-
 const std::string kRemoveHint =
     "Choose from the Favorites menu the favorite to remove, or Cancel Remove.";
 
-std::string Id(const std::string& favorite) {
-  return favorite.substr(0, favorite.find(','));
+// The number in a value's name; 0 for a name that is none.
+int NumberOf(const std::string& name) {
+  constexpr std::size_t mostDigits = 9;
+  const bool isNumber = !name.empty() && name.size() <= mostDigits &&
+                        name.find_first_not_of("0123456789") == std::string::npos;
+  return isNumber ? std::stoi(name) : 0;
 }
 
-bool IsReadable(const std::string& favorite) {
-  return favorite.find(',') != std::string::npos && IsNumeric(Id(favorite));
+std::optional<Favorite> FavoriteIn(const std::string& text) {
+  const auto comma = text.find(',');
+  if (comma == std::string::npos || !IsNumeric(text.substr(0, comma))) return std::nullopt;
+  return Favorite{text.substr(0, comma), text.substr(comma + 1)};
+}
+
+// Nothing if the count is not a number or a favorite is missing or unreadable.
+std::optional<std::vector<Favorite>> Read(const SettingsTexts& stored) {
+  std::vector<Favorite> favorites;
+  const auto text = stored.find("");
+  if (text == stored.end() || text->second.empty()) return favorites;
+  const auto count = ParseNumber(text->second);
+  if (!count) return std::nullopt;
+  for (int i = 1; i <= std::trunc(*count); ++i) {
+    const auto value = stored.find(std::to_string(i));
+    const auto favorite = value == stored.end() ? std::nullopt : FavoriteIn(value->second);
+    if (!favorite) return std::nullopt;
+    favorites.push_back(*favorite);
+  }
+  return favorites;
+}
+
+// The readable ones of damaged favorites, in the order of their numbers.
+std::vector<Favorite> Repaired(const SettingsTexts& stored) {
+  std::map<int, Favorite> readable;
+  for (const auto& [name, text] : stored) {
+    const auto favorite = FavoriteIn(text);
+    if (NumberOf(name) > 0 && favorite) readable[NumberOf(name)] = *favorite;
+  }
+  std::vector<Favorite> favorites;
+  for (const auto& [number, favorite] : readable) favorites.push_back(favorite);
+  return favorites;
+}
+
+void Write(const std::vector<Favorite>& favorites, SettingsTexts& stored) {
+  std::erase_if(stored, [](const auto& value) { return NumberOf(value.first) > 0; });
+  for (std::size_t i = 0; i < favorites.size(); ++i) {
+    stored[std::to_string(i + 1)] = favorites[i].id + "," + favorites[i].name;
+  }
+  stored[""] = std::to_string(favorites.size());
 }
 
 }  // namespace
 
-std::string Favorites::Stored(const std::string& name) {
-  return settings_.GetString(Root::CurrentUser, kFavoritesPath, name);
-}
-
-void Favorites::Save(const std::string& name, const std::string& value) {
-  settings_.SaveString(Root::CurrentUser, kFavoritesPath, name, value);
-}
-
 void Favorites::LoadFavoritesMenu() {
-  auto favorites = Read();
-  if (!favorites) {
-    Repair();
-    favorites = Read();
-  }
-  favorites_ = favorites.value_or(std::vector<Favorite>());
   removing_ = false;
+  const auto stored = settings_.GetStrings(Root::CurrentUser, kFavoritesPath);
+  if (!stored) return Show(favorites_);
+  const auto favorites = Read(*stored);
+  if (favorites) return Show(*favorites);
+  if (!Change([](std::vector<Favorite>&) {})) Show(Repaired(*stored));
+}
+
+bool Favorites::Change(const std::function<void(std::vector<Favorite>&)>& change) {
+  std::vector<Favorite> favorites;
+  const auto changeStored = [&](SettingsTexts& stored) {
+    const auto read = Read(stored);
+    favorites = read ? *read : Repaired(stored);
+    change(favorites);
+    Write(favorites, stored);
+  };
+  if (!settings_.ChangeStrings(Root::CurrentUser, kFavoritesPath, changeStored)) return false;
+  Show(std::move(favorites));
+  return true;
+}
+
+void Favorites::ChangeOrSay(const std::function<void(std::vector<Favorite>&)>& change) {
+  if (!Change(change)) {
+    main_.Label6.caption = "The favorites stay as they were: the settings cannot be written.";
+  }
+}
+
+void Favorites::Show(std::vector<Favorite> favorites) {
+  favorites_ = std::move(favorites);
   std::set<std::string> ids;
   for (const Favorite& favorite : favorites_) ids.insert(favorite.id);
   const auto rows = database_.FindRowsById(ids);
@@ -49,36 +103,6 @@ void Favorites::LoadFavoritesMenu() {
     favorite.row = found == rows.end() ? 0 : found->second;
   }
   BuildMenu();
-}
-
-std::optional<std::vector<Favorites::Favorite>> Favorites::Read() {
-  const std::string text = Stored("");
-  std::vector<Favorite> favorites;
-  if (text.empty()) return favorites;
-  const auto count = ParseNumber(text);
-  if (!count) return std::nullopt;
-  for (int i = 1; i <= std::trunc(*count); ++i) {
-    const std::string favorite = Stored(std::to_string(i));
-    if (!IsReadable(favorite)) return std::nullopt;
-    favorites.push_back({Id(favorite), favorite.substr(favorite.find(',') + 1)});
-  }
-  return favorites;
-}
-
-void Favorites::Repair() {
-  std::vector<std::string> readable;
-  std::size_t last = 0;
-  for (std::size_t i = 1; i <= last + kMaxGap; ++i) {
-    const std::string favorite = Stored(std::to_string(i));
-    if (!favorite.empty()) last = i;
-    if (IsReadable(favorite)) readable.push_back(favorite);
-  }
-  for (std::size_t i = 0; i < readable.size(); ++i) Save(std::to_string(i + 1), readable[i]);
-  Save("", std::to_string(readable.size()));
-  // Values left after the last one would reappear at the next repair.
-  for (std::size_t i = readable.size() + 1; i <= last; ++i) {
-    settings_.DeleteValue(Root::CurrentUser, kFavoritesPath, std::to_string(i));
-  }
 }
 
 void Favorites::BuildMenu() {
@@ -98,15 +122,13 @@ void Favorites::Add() {
   const ListView& list = main_.ListView1;
   const std::string id = list.SelectedText(column::kId);
   if (list.selected == 0 || !list.Text(list.selected).empty() || id.empty()) return;
-  const bool isFavorite = std::any_of(favorites_.begin(), favorites_.end(),
-                                      [&](const Favorite& favorite) { return favorite.id == id; });
-  if (isFavorite) return;
   const std::string name = list.SelectedText(column::kOrganization);
-  favorites_.push_back({id, name, list.selected});
-  // The value before the count: after a crash between the two the old favorites are intact.
-  Save(std::to_string(favorites_.size()), id + "," + name);
-  Save("", std::to_string(favorites_.size()));
-  BuildMenu();
+  ChangeOrSay([&](std::vector<Favorite>& favorites) {
+    const bool isFavorite =
+        std::any_of(favorites.begin(), favorites.end(),
+                    [&](const Favorite& favorite) { return favorite.id == id; });
+    if (!isFavorite) favorites.push_back({id, name});
+  });
 }
 
 void Favorites::mnuFavs_Click(int index) {
@@ -130,13 +152,12 @@ void Favorites::mnuCancelRemove_Click() {
 }
 
 void Favorites::Remove(std::size_t index) {
-  favorites_.erase(favorites_.begin() + static_cast<std::ptrdiff_t>(index));
-  for (std::size_t i = 0; i < favorites_.size(); ++i) {
-    Save(std::to_string(i + 1), favorites_[i].id + "," + favorites_[i].name);
-  }
-  Save("", std::to_string(favorites_.size()));
-  settings_.DeleteValue(Root::CurrentUser, kFavoritesPath, std::to_string(favorites_.size() + 1));
+  const Favorite chosen = favorites_[index];
   mnuCancelRemove_Click();
+  ChangeOrSay([&](std::vector<Favorite>& favorites) {
+    // By its number, since another copy of the program may have changed the order.
+    std::erase_if(favorites, [&](const Favorite& favorite) { return favorite.id == chosen.id; });
+  });
 }
 
 std::vector<int> Favorites::Rows() const {
@@ -144,6 +165,16 @@ std::vector<int> Favorites::Rows() const {
   for (const Favorite& favorite : favorites_) rows.insert(favorite.row);
   rows.erase(0);
   return {rows.begin(), rows.end()};
+}
+
+std::vector<std::string> Favorites::NamesOf(const std::vector<std::int32_t>& ids) const {
+  std::vector<std::string> names;
+  for (const Favorite& favorite : favorites_) {
+    const bool isMeant = std::any_of(
+        ids.begin(), ids.end(), [&](std::int32_t id) { return std::to_string(id) == favorite.id; });
+    if (isMeant) names.push_back(favorite.name);
+  }
+  return names;
 }
 
 }  // namespace benevix

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <optional>
+#include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,8 +12,14 @@
 
 namespace benevix {
 
+struct Favorite {
+  std::string id, name;
+  int row = 0;  // 0 when it is not in the list
+};
+
 // The favorite organizations. In the settings key kFavoritesPath the default value is their count;
-// the values "1", "2" ... hold ID, ",", name.
+// the values "1", "2" ... hold ID, ",", name. Another copy of the program may change them, too:
+// each change is made to what is stored at that moment.
 class Favorites {
  public:
   Favorites(frmBVX& main, SettingsStore& settings, const OrganizationDatabase& database,
@@ -34,20 +41,18 @@ class Favorites {
   // The rows of the favorites that are in the list, in list order.
   [[nodiscard]] std::vector<int> Rows() const;
 
- private:
-  struct Favorite {
-    std::string id, name;
-    int row = 0;  // 0 when it is not in the list
-  };
+  // The names of the favorites among these organizations.
+  [[nodiscard]] std::vector<std::string> NamesOf(const std::vector<std::int32_t>& ids) const;
 
-  // Nothing if the count is not a number or a favorite is missing or unreadable.
-  [[nodiscard]] std::optional<std::vector<Favorite>> Read();
-  // Keeps the readable favorites in order, numbers them from 1 and writes their count.
-  void Repair();
+ private:
+  // Changes the stored favorites, repaired where they are damaged, and shows them; false, with
+  // nothing changed, when they cannot be written.
+  bool Change(const std::function<void(std::vector<Favorite>&)>& change);
+  // The same, and tells the user when nothing was written.
+  void ChangeOrSay(const std::function<void(std::vector<Favorite>&)>& change);
+  void Show(std::vector<Favorite> favorites);
   void Remove(std::size_t index);
   void BuildMenu();
-  [[nodiscard]] std::string Stored(const std::string& name);
-  void Save(const std::string& name, const std::string& value);
 
   frmBVX& main_;
   SettingsStore& settings_;

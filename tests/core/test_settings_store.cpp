@@ -2,6 +2,7 @@
 
 #include "../platform/temp_files.h"
 #include "core/settings_store.h"
+#include "platform/linux/linux_files.h"
 #include "platform/qt/settings_file.h"
 
 namespace benevix {
@@ -12,7 +13,8 @@ using namespace std::string_literals;
 class SettingsStoreTest : public testing::Test {
  protected:
   TempFolder folder_;
-  SettingsFile registry_{folder_ / "user/settings", folder_ / "machine/settings", false};
+  LinuxFiles files_;
+  SettingsFile registry_{files_, folder_ / "user/settings", folder_ / "machine/settings", false};
   SettingsStore store_{registry_};
 };
 
@@ -39,6 +41,13 @@ TEST_F(SettingsStoreTest, ReadsEveryTypeAndAnyFile) {
   }
   EXPECT_EQ(key->Write("Binary", value_type::kBinary, "\x01\x02"), 0);
   EXPECT_EQ(store_.GetUserString("Binary"), "");
+  EXPECT_TRUE(store_.ChangeStrings(Root::CurrentUser, kSettingsPath, [](SettingsTexts& texts) {
+    EXPECT_EQ(texts, (SettingsTexts{{"Text", "abc"}}));
+    texts = {{"", "1"}, {"Name", "x"}};
+  }));
+  EXPECT_EQ(store_.GetStrings(Root::CurrentUser, kSettingsPath),
+            (SettingsTexts{{"", "1"}, {"Name", "x"}}));
+  EXPECT_EQ(store_.GetUserString("Number"), "0");
   for (const std::string& damaged :
        {"[Software\\Quorl\\Benevix]\nName=text:a%00b%\nNumber=dword:zz\nHex=hex:0\n\0\xFF="s,
         "\0\0\0\n]["s, std::string(3'000'000, '[')}) {
@@ -47,6 +56,10 @@ TEST_F(SettingsStoreTest, ReadsEveryTypeAndAnyFile) {
     store_.SaveUserString("Name", "new");
     EXPECT_EQ(store_.GetUserString("Name"), "new") << damaged.substr(0, 50);
   }
+  std::filesystem::remove(folder_ / "user/settings");
+  EXPECT_EQ(store_.ReadString(Root::CurrentUser, kSettingsPath, "Name"), "");
+  std::filesystem::create_directory(folder_ / "user/settings");  // unreadable is not missing
+  EXPECT_EQ(store_.ReadString(Root::CurrentUser, kSettingsPath, "Name"), std::nullopt);
 }
 
 }  // namespace

@@ -16,6 +16,7 @@
 #include "core/settings_store.h"
 #include "every_window.h"
 #include "mirror/mirror/window_layout.h"
+#include "platform/linux/linux_files.h"
 #include "platform/qt/settings_file.h"
 
 namespace benevix {
@@ -105,7 +106,8 @@ TEST(LooksTest, TheMainWindowFitsALowScreen) {
 
 TEST(LooksTest, TheMainWindowKeepsItsArrangement) {
   const QTemporaryDir folder;
-  SettingsFile file(folder.filePath("user").toStdString(),
+  LinuxFiles files;
+  SettingsFile file(files, folder.filePath("user").toStdString(),
                     folder.filePath("machine").toStdString());
   SettingsStore settings(file);
   const WindowLayout layout(settings);

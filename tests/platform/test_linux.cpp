@@ -1,5 +1,9 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 #include "base/runtime_error.h"
@@ -26,25 +30,65 @@ TEST(LinuxFiles, FailuresChangeNothing) {
   EXPECT_EQ(ReadFile(history.Utf8()), "first\r\n");
   const std::filesystem::directory_iterator entries(folder / "");
   EXPECT_EQ(std::distance(begin(entries), end(entries)), 1);
+  WriteFile(history.Utf8(), "torn");
   files.Append(history, "second\r\n");
-  EXPECT_EQ(files.ReadAll(history), "first\r\nsecond\r\n");
+  EXPECT_EQ(files.ReadAll(history), "torn\r\nsecond\r\n");
+  EXPECT_EQ(std::filesystem::status(history.Utf8()).permissions(), std::filesystem::perms(0600));
+  // A pipe is no file, and is not waited for.
+  ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+  EXPECT_THROW(files.Append(FilePath(folder / "pipe"), "record"), RuntimeError);
+  EXPECT_THROW(static_cast<void>(files.ReadAll(FilePath(folder / "pipe"))), RuntimeError);
+}
+
+TEST(LinuxFiles, OtherProcessesLoseNothingAndHoldNothing) {
+  const TempFolder folder;
+  LinuxFiles files;
+  // Another one created the file, could not write and takes it back.
+  const std::string file = folder / "history.dat";
+  const int other = open(file.c_str(), O_CREAT | O_RDWR, 0600);
+  flock(other, LOCK_EX);
+  std::thread append([&] { files.Append(FilePath(file), "record\r\n"); });
+  std::this_thread::sleep_for(std::chrono::milliseconds(50));
+  unlink(file.c_str());
+  close(other);
+  append.join();
+  EXPECT_EQ(ReadFile(file), "record\r\n");
+
+  const auto lock = files.Lock(FilePath(folder / ""), {});
+  EXPECT_NE(lock, nullptr);
+  EXPECT_EQ(files.Lock(FilePath(folder / ""), {}), nullptr);
+
+  const pid_t dead = fork();
+  if (dead == 0) _exit(0);
+  wait(nullptr);
+  const std::string leftover = folder / ("a." + std::to_string(dead) + ".new");
+  const std::string inUse = folder / ("a." + std::to_string(getppid()) + ".new");
+  for (const std::string& name : {leftover, inUse, folder / "a.new"}) WriteFile(name, "");
+  files.RemoveLeftovers(FilePath(folder / ""));
+  EXPECT_TRUE(!files.Exists(FilePath(leftover)) && files.Exists(FilePath(inUse)) &&
+              files.Exists(FilePath(folder / "a.new")));
 }
 
 TEST(LinuxFiles, FollowsLinks) {
   const TempFolder folder;
   LinuxFiles files;
-  const FilePath real(folder / "real.dat"), link(folder / "link.dat"), from(folder / "from.dat");
-  const std::string large(3'000'000, 'l');
-  WriteFile(real.Utf8(), "a longer old text");
-  WriteFile(from.Utf8(), large);
-  std::filesystem::create_symlink(real.Utf8(), link.Utf8());
-  files.Replace(link, "new");
-  EXPECT_EQ(ReadFile(real.Utf8()), "new");
-  files.Copy(from, link);
-  EXPECT_TRUE(std::filesystem::is_symlink(link.Utf8()));
-  EXPECT_THROW(files.Copy(link, real), RuntimeError);  // the same file
-  EXPECT_THROW(files.Copy(FilePath(folder / ""), real), RuntimeError);
-  EXPECT_EQ(files.ReadAll(real), large);
+  const std::string real = folder / "real.dat", link = folder / "link.dat";
+  WriteFile(real, "a longer old text");
+  WriteFile(folder / "from.dat", "moved");
+  std::filesystem::create_symlink(real, link);
+  files.Replace(FilePath(link), "new");
+  EXPECT_EQ(ReadFile(real), "new");
+  std::filesystem::remove(real);
+  files.Replace(FilePath(link), "new again");
+  EXPECT_EQ(ReadFile(real), "new again");
+  // A link within the folder stays, the file behind it is replaced, also by and of another link.
+  EXPECT_EQ(files.Move(FilePath(folder / "from.dat"), FilePath(link)).Utf8(), real);
+  files.Link("/elsewhere", FilePath(real));
+  EXPECT_EQ(std::filesystem::read_symlink(real), "/elsewhere");
+  WriteFile(folder / "from.dat", "moved");
+  files.Move(FilePath(folder / "from.dat"), FilePath(link));
+  EXPECT_TRUE(std::filesystem::is_symlink(link) && !std::filesystem::is_symlink(real));
+  EXPECT_EQ(ReadFile(link), "moved");
 }
 
 TEST(LinuxShell, FindsTheDesktopFolder) {

@@ -50,6 +50,43 @@ TEST_F(ProgramTest, ANewListIsInstalledAndFoundThroughTheLink) {
   EXPECT_TRUE(boxes.shown.empty());
 }
 
+TEST_F(ProgramTest, WhileAnotherCopyUpdatesTheListThisOneDoesNot) {
+  OfferList("2", ";QUORL2\r\n[Peru]\r\n00000002 Newer, B\r\n");
+  const auto lock = world.files.Lock(world.info.folder / "Resources", {});
+  Enter();
+  const frmBVX& main = forms.Get<frmBVX>();
+  EXPECT_EQ(main.ListView1.Text(1), "Kenya");
+  program.TheInput().ChooseMenu(forms.Get<frmBVX>().mnuUpdateList);
+  EXPECT_TRUE(main.Label6.caption.starts_with("Another copy of the program"));
+  EXPECT_TRUE(boxes.shown.empty());
+}
+
+TEST_F(ProgramTest, WithoutTheServerADamagedListGivesWayToTheInstalledOne) {
+  world.site.Down();
+  world.info.installed = world.info.folder / "installed";
+  const FilePath installed = world.info.installed / "Resources/sharedb.dat";
+  std::filesystem::create_directories((world.info.installed / "Resources").Utf8());
+  world.files.Replace(installed, ";QUORL1\r\n[Peru]\r\n");
+  world.files.Replace(world.info.Resource("sharedb.dat"), ";QUORL2\r\n00000002 No comma");
+  Program other({world.info, world.settings, http, boxes, waits, world.clock, world.random,
+                 world.shell, world.files, world.printer});
+  other.Main();
+  other.TheInput().Click(other.TheForms().Get<frmSplash>().Image2[0]);
+  EXPECT_EQ(other.TheForms().Get<frmBVX>().ListView1.Text(1), "Peru");
+  EXPECT_TRUE(boxes.shown.at(0).text.ends_with("installed with the program is used instead."));
+  EXPECT_EQ(std::filesystem::read_symlink(world.info.Resource("sharedb.dat").Utf8()),
+            installed.Utf8());
+}
+
+TEST_F(ProgramTest, UnreadableSettingsAreNoFirstRun) {
+  world.settings.Put("machine", "TimeOut", "30");
+  const std::string file = (world.info.folder / "../settings/user.conf").Utf8();
+  std::filesystem::rename(file, file + ".kept");
+  std::filesystem::create_directory(file);  // in the file's place
+  program.Main();
+  EXPECT_EQ(world.settings.Text("machine", "TimeOut"), "30");
+}
+
 TEST_F(ProgramTest, ProgressIsShownForListsAndInformationPages) {
   OfferList("2", ";QUORL2\r\n[Peru]\r\n00000002 " + std::string(30'000'000, 'N') + ", B\r\n");
   Enter();

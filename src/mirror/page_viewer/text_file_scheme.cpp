@@ -1,6 +1,7 @@
 #include "mirror/page_viewer/text_file_scheme.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QWebEngineUrlRequestJob>
 #include <QWebEngineUrlScheme>
 
@@ -31,7 +32,9 @@ QUrl TextFileScheme::FileAddress(const QUrl& address) {
 
 void TextFileScheme::requestStarted(QWebEngineUrlRequestJob* job) {
   auto* file = new QFile(FileAddress(page_).toLocalFile(), job);
-  if (job->requestUrl() != page_ || !file->open(QIODevice::ReadOnly)) {
+  // Only a regular file: opening a pipe would wait for its writer.
+  if (job->requestUrl() != page_ || !QFileInfo(*file).isFile() ||
+      !file->open(QIODevice::ReadOnly)) {
     job->fail(QWebEngineUrlRequestJob::UrlNotFound);
     return;
   }

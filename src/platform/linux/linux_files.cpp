@@ -1,13 +1,17 @@
 #include "platform/linux/linux_files.h"
 
 #include <cerrno>
+#include <charconv>
+#include <csignal>
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
+#include <optional>
 #include <string_view>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
+#include <thread>
 #include <unistd.h>
 
 #include "base/runtime_error.h"
@@ -16,18 +20,37 @@
 namespace benevix {
 namespace {
 
-constexpr std::size_t kChunk = std::size_t{1} << 20;
-constexpr mode_t kNewFile = 0666;  // before the umask
+namespace fs = std::filesystem;
 
+constexpr std::size_t kChunk = std::size_t{1} << 20;
+constexpr mode_t kOwnersFile = 0600;
+constexpr mode_t kEveryonesFile = 0644;
+constexpr mode_t kPermissions = 07777;
+constexpr mode_t kOthers = 077;  // everyone but the owner
+constexpr std::chrono::milliseconds kLockInterval{2};
+// Appending takes milliseconds; who holds a file for longer has been stopped.
+constexpr std::chrono::seconds kAppendPatience{2};
+constexpr std::string_view kTemporary = ".new";
+
+[[noreturn]] void Fail(const std::string& path, const std::string& reason) {
+  throw RuntimeError(FromUtf8(path + ": " + reason));
+}
 [[noreturn]] void Fail(const std::string& path, int reason = errno) {
-  throw RuntimeError(FromUtf8(path + ": " + std::generic_category().message(reason)));
+  Fail(path, std::generic_category().message(reason));
 }
 
 class OpenFile {
  public:
+  // Never waits, as opening a pipe would. With O_DIRECTORY a folder, otherwise a regular file.
   OpenFile(std::string path, int flags)
-      : path_(std::move(path)), descriptor_(open(path_.c_str(), flags | O_CLOEXEC, kNewFile)) {
+      : path_(std::move(path)),
+        descriptor_(open(path_.c_str(), flags | O_CLOEXEC | O_NONBLOCK, kOwnersFile)) {
     if (descriptor_ < 0) Fail(path_);
+    struct stat status {};
+    if ((flags & O_DIRECTORY) != 0 || (fstat(descriptor_, &status) == 0 && S_ISREG(status.st_mode)))
+      return;
+    close(descriptor_);
+    Fail(path_, "not a regular file");
   }
   ~OpenFile() { close(descriptor_); }
   OpenFile(const OpenFile&) = delete;
@@ -68,8 +91,21 @@ class OpenFile {
     }
   }
 
-  // EINVAL is not a failure: devices and the folders of some file systems cannot be flushed.
+  // EINVAL is not a failure: the folders of some file systems cannot be flushed.
   void Flush() const { Check(fsync(descriptor_) != 0 && errno != EINVAL ? -1 : 0); }
+
+  // False when another process still has the lock after `patience`. The lock ends with the file.
+  [[nodiscard]] bool Lock(std::chrono::milliseconds patience) const {
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    while (flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
+      if (errno == EINTR) continue;
+      if (errno == ENOLCK || errno == EOPNOTSUPP) return true;  // no locks on this file system
+      if (errno != EWOULDBLOCK) Fail(path_);
+      if (std::chrono::steady_clock::now() >= deadline) return false;
+      std::this_thread::sleep_for(kLockInterval);
+    }
+    return true;
+  }
 
   void Check(int result) const {
     if (result != 0) Fail(path_);
@@ -92,22 +128,117 @@ class LinuxFileReader : public FileReader {
   std::size_t size_;
 };
 
-// A crash can lose the name of a new or renamed file unless its folder is flushed, too.
-void FlushFolderOf(const std::string& path) {
-  const std::string folder = std::filesystem::path(path).parent_path().string();
-  OpenFile(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY).Flush();
+class LinuxFolderLock : public FolderLock {
+ public:
+  explicit LinuxFolderLock(const std::string& folder) : folder_(folder, O_RDONLY | O_DIRECTORY) {}
+  [[nodiscard]] bool Acquire(std::chrono::milliseconds patience) const {
+    return folder_.Lock(patience);
+  }
+
+ private:
+  OpenFile folder_;
+};
+
+fs::path FolderOf(const fs::path& path) {
+  return path.has_parent_path() ? path.parent_path() : fs::path(".");
 }
 
-std::string ResolveLinks(const std::string& path) {
-  std::error_code missing;
-  const auto resolved = std::filesystem::canonical(path, missing);
-  return missing ? path : resolved.string();
+// A crash can lose the name of a new or renamed file unless its folder is flushed, too.
+void FlushFolderOf(const std::string& path) {
+  OpenFile(FolderOf(path).string(), O_RDONLY | O_DIRECTORY).Flush();
 }
+
+enum class Links { All, InFolder };  // to any place, or to names in the same folder
+
+// The file that a path names in the end; it may be missing. Follows no more links than the system
+// does.
+std::string ResolveLinks(const std::string& path, Links links) {
+  fs::path resolved = path;
+  constexpr int mostLinks = 40;
+  for (int i = 0; i < mostLinks; ++i) {
+    std::error_code noLink;
+    const fs::path folder = FolderOf(resolved);
+    const fs::path next = (folder / fs::read_symlink(resolved, noLink)).lexically_normal();
+    const bool leaves = next.parent_path() != folder.lexically_normal();
+    if (noLink || (links == Links::InFolder && leaves)) break;
+    resolved = next;
+  }
+  return resolved.string();
+}
+
+// Bears the process's number, by which RemoveLeftovers recognizes what a dead one left.
+std::string TemporaryFor(const std::string& path) {
+  std::string temporary = path + "." + std::to_string(getpid());
+  return temporary.append(kTemporary);
+}
+
+bool IsLeftover(std::string_view name) {
+  if (!name.ends_with(kTemporary)) return false;
+  name.remove_suffix(kTemporary.size());
+  name.remove_prefix(name.rfind('.') + 1);  // all of it without a point
+  pid_t process = 0;
+  const auto read = std::from_chars(name.data(), name.data() + name.size(), process);
+  const bool isNumber = read.ec == std::errc() && read.ptr == name.data() + name.size();
+  return isNumber && process > 0 && kill(process, 0) != 0 && errno == ESRCH;
+}
+
+void Rename(const std::string& from, const std::string& to) {
+  if (std::rename(from.c_str(), to.c_str()) != 0) Fail(to);
+  FlushFolderOf(to);
+}
+
+// A replaced file's permissions go to the one that takes its place.
+void KeepPermissions(const OpenFile& file, const std::string& replaced) {
+  struct stat old {};
+  if (stat(replaced.c_str(), &old) != 0) return;
+  file.Check(fchmod(file.Descriptor(), old.st_mode & kPermissions));
+}
+
+// Whether the path still names the open file.
+bool IsNamed(const OpenFile& file, const std::string& path) {
+  const struct stat open = file.Status();
+  struct stat named {};
+  if (stat(path.c_str(), &named) != 0 && errno != ENOENT) Fail(path);
+  return named.st_ino == open.st_ino && named.st_dev == open.st_dev;
+}
+
+// A file to append to, locked, still under its name, and created when it is missing. One that
+// another process created and took back when it could not write is not written to.
+class AppendedFile {
+ public:
+  explicit AppendedFile(const std::string& path) {
+    do {
+      file_.reset();
+      isNew_ = access(path.c_str(), F_OK) != 0;
+      file_.emplace(path, O_RDWR | O_APPEND | O_CREAT);
+      if (!file_->Lock(kAppendPatience)) Fail(path, EWOULDBLOCK);
+    } while (!IsNamed(*file_, path));
+    length_ = file_->Status().st_size;
+    isNew_ = isNew_ && length_ == 0;
+  }
+
+  [[nodiscard]] bool IsNew() const { return isNew_; }
+  [[nodiscard]] off_t Length() const { return length_; }
+  const OpenFile* operator->() const { return &*file_; }
+
+  // A record cut off by a crash or a full disk may be the last.
+  [[nodiscard]] bool EndsTorn() const {
+    char last = '\n';
+    const bool isRead = length_ == 0 || pread(file_->Descriptor(), &last, 1, length_ - 1) == 1;
+    file_->Check(isRead ? 0 : -1);
+    return last != '\n';
+  }
+
+ private:
+  std::optional<OpenFile> file_;
+  bool isNew_ = false;
+  off_t length_ = 0;
+};
 
 }  // namespace
 
 bool LinuxFiles::Exists(const FilePath& path) const {
-  return access(path.Utf8().c_str(), F_OK) == 0;
+  return access(path.Utf8().c_str(), F_OK) == 0 || (errno != ENOENT && errno != ENOTDIR);
 }
 
 std::unique_ptr<FileReader> LinuxFiles::Open(const FilePath& path) const {
@@ -126,38 +257,35 @@ std::string LinuxFiles::ReadAll(const FilePath& path) const {
   return bytes;
 }
 
-void LinuxFiles::Replace(const FilePath& path, const std::string& bytes) {
-  const std::string target = ResolveLinks(path.Utf8());
-  const std::string temporary = target + "." + std::to_string(getpid()) + ".new";
+void LinuxFiles::Replace(const FilePath& path, const std::string& bytes, Readers ofNew) {
+  const std::string target = ResolveLinks(path.Utf8(), Links::All);
+  const std::string temporary = TemporaryFor(target);
   const OpenFile file(temporary, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW);
   try {
-    struct stat old {};
-    if (stat(target.c_str(), &old) == 0) file.Check(fchmod(file.Descriptor(), old.st_mode & 07777));
+    if (ofNew == Readers::Everyone) file.Check(fchmod(file.Descriptor(), kEveryonesFile));
+    KeepPermissions(file, target);
     file.Write(bytes);
     file.Flush();
-    if (std::rename(temporary.c_str(), target.c_str()) != 0) Fail(target);
+    Rename(temporary, target);
   } catch (const RuntimeError&) {
     unlink(temporary.c_str());
     throw;
   }
-  FlushFolderOf(target);
 }
 
 void LinuxFiles::Append(const FilePath& path, const std::string& bytes) {
-  const bool isNew = !Exists(path);
-  const OpenFile file(path.Utf8(), O_WRONLY | O_APPEND | O_CREAT);
-  while (flock(file.Descriptor(), LOCK_EX) != 0 && errno == EINTR) {
-  }
-  const off_t length = file.Status().st_size;
+  const AppendedFile file(path.Utf8());
   try {
-    if (isNew) FlushFolderOf(path.Utf8());
-    file.Write(bytes);
-    file.Check(fdatasync(file.Descriptor()));
+    if (file.IsNew()) FlushFolderOf(path.Utf8());
+    // Fails on a file of another user, who may decide on its readers.
+    fchmod(file->Descriptor(), file->Status().st_mode & kPermissions & ~kOthers);
+    file->Write(file.EndsTorn() ? "\r\n" + bytes : bytes);
+    file->Check(fdatasync(file->Descriptor()));
   } catch (const RuntimeError&) {
-    if (isNew && length == 0) {
+    if (file.IsNew()) {
       unlink(path.Utf8().c_str());
-    } else if (ftruncate(file.Descriptor(), length) == 0) {
-      fdatasync(file.Descriptor());
+    } else if (ftruncate(file->Descriptor(), file.Length()) == 0) {
+      fdatasync(file->Descriptor());
     }
     throw;
   }
@@ -167,17 +295,38 @@ void LinuxFiles::Remove(const FilePath& path) {
   if (unlink(path.Utf8().c_str()) != 0 && errno != ENOENT) Fail(path.Utf8());
 }
 
-void LinuxFiles::Copy(const FilePath& from, const FilePath& to) {
-  const OpenFile source(from.Utf8(), O_RDONLY);
-  std::error_code missing;
-  if (std::filesystem::equivalent(from.Utf8(), to.Utf8(), missing)) {
-    throw RuntimeError(FromUtf8(to.Utf8()) + ": is the file to be copied");
+FilePath LinuxFiles::Move(const FilePath& from, const FilePath& to) {
+  FilePath target(ResolveLinks(to.Utf8(), Links::InFolder));
+  KeepPermissions(OpenFile(from.Utf8(), O_RDONLY), target.Utf8());
+  Rename(from.Utf8(), target.Utf8());
+  return target;
+}
+
+void LinuxFiles::Link(const FilePath& target, const FilePath& link) {
+  const std::string temporary = TemporaryFor(link.Utf8());
+  Remove(FilePath(temporary));
+  if (symlink(target.Utf8().c_str(), temporary.c_str()) != 0) Fail(link.Utf8());
+  try {
+    Rename(temporary, link.Utf8());
+  } catch (const RuntimeError&) {
+    unlink(temporary.c_str());
+    throw;
   }
-  // Before `to` is truncated: a source that cannot be read leaves it as it was.
-  std::string chunk = source.Read(kChunk);
-  const OpenFile target(to.Utf8(), O_WRONLY | O_CREAT | O_TRUNC);
-  for (; !chunk.empty(); chunk = source.Read(kChunk)) target.Write(chunk);
-  target.Flush();
+}
+
+std::unique_ptr<FolderLock> LinuxFiles::Lock(const FilePath& folder,
+                                             std::chrono::milliseconds patience) {
+  auto lock = std::make_unique<LinuxFolderLock>(folder.Utf8());
+  if (!lock->Acquire(patience)) return nullptr;
+  return lock;
+}
+
+void LinuxFiles::RemoveLeftovers(const FilePath& folder) {
+  std::error_code ignored;
+  for (fs::directory_iterator file(folder.Utf8(), ignored), end; file != end; file.increment(ignored)) {
+    const fs::path path = file->path();
+    if (IsLeftover(path.filename().string())) fs::remove(path, ignored);
+  }
 }
 
 }  // namespace benevix

@@ -1,20 +1,30 @@
 #include "platform/linux/linux_shell.h"
 
 #include <filesystem>
-#include <fstream>
 #include <spawn.h>
+#include <sstream>
 #include <string_view>
 #include <system_error>
 #include <unistd.h>
 
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "platform/linux/linux_files.h"
 #include "platform/linux/user_folders.h"
 
 namespace benevix {
 namespace {
 
 namespace fs = std::filesystem;
+
+// Empty when the file cannot be read.
+std::string TextOf(const std::string& file) {
+  try {
+    return LinuxFiles().ReadAll(FilePath(file));
+  } catch (const RuntimeError&) {
+    return {};
+  }
+}
 
 // The folder in the line NAME="path" of user-dirs.dirs: backslashes escape, only a leading $HOME is
 // expanded (https://www.freedesktop.org/wiki/Software/xdg-user-dirs/). Empty when it is missing or
@@ -23,7 +33,7 @@ std::string UserFolder(std::string_view name) {
   const std::string prefix = std::string(name) + "=\"";
   constexpr std::string_view home = "$HOME";
   std::string path;
-  std::ifstream file(ConfigFolder() + "/user-dirs.dirs");
+  std::istringstream file(TextOf(ConfigFolder() + "/user-dirs.dirs"));
   for (std::string line; std::getline(file, line);) {
     line.erase(0, line.find_first_not_of(" \t"));
     if (!line.starts_with(prefix)) continue;

@@ -1,6 +1,7 @@
 #include "platform/qt/deployment_file.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 
 #include "base/runtime_error.h"
@@ -18,6 +19,8 @@ class Values {
  public:
   explicit Values(const std::string& name) : name_(name) {
     QFile file(QString::fromStdString(name));
+    const QFileInfo info(file);
+    if (info.exists() && !info.isFile()) Fail(name, "not a regular file");  // a pipe may never end
     if (!file.open(QIODevice::ReadOnly)) Fail(name, file.errorString().toStdString());
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) Fail(name, file.errorString().toStdString());

@@ -1,14 +1,9 @@
 #include "platform/qt/settings_file.h"
 
-#include <QDeadlineTimer>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QLockFile>
-#include <QSaveFile>
 #include <QStandardPaths>
-#include <QThread>
 
+#include "base/runtime_error.h"
 #include "base/text.h"
 #include "platform/qt/settings_text.h"
 #include "platform/qt/settings_value.h"
@@ -17,26 +12,42 @@ namespace benevix {
 namespace {
 
 constexpr ResultCode kSuccess = 0;
-constexpr int kLockTimeout = 10'000;  // milliseconds
-constexpr int kLockInterval = 2;      // milliseconds
+// A write takes milliseconds; who holds the lock for longer has been stopped.
+constexpr std::chrono::seconds kLockPatience{2};
 constexpr auto kFileName = "/benevix/benevix.conf";
 
-// Polls at a fixed interval: QLockFile's own waiting backs off, so that a program that writes often
-// would get the lock every time.
-bool Acquire(QLockFile& lock) {
-  const QDeadlineTimer deadline(kLockTimeout);
-  while (!lock.tryLock(0)) {
-    if (lock.error() != QLockFile::LockFailedError) return false;
-    // A lock file damaged in a crash names no process, so tryLock never finds it stale. The lock of
-    // a running process is not removed.
-    if (deadline.hasExpired()) return lock.removeStaleLockFile() && lock.tryLock(0);
-    QThread::msleep(kLockInterval);
-  }
-  return true;
+std::string FolderOf(const std::string& file) {
+  return PathOf(file).parent_path().string();
 }
 
 QByteArray Utf8(const std::string& text) {
   return QByteArray::fromStdString(ToUtf8(text));
+}
+
+RegistryValues ValuesOf(const SettingsText& text, const QByteArray& path) {
+  RegistryValues values;
+  for (const QByteArray& name : text.Names(path)) {
+    const auto line = text.Value(path, name);
+    const auto value = line ? FromLine(*line) : std::nullopt;
+    if (value) values.emplace(FromUtf8(name.toStdString()), *value);
+  }
+  return values;
+}
+
+// False when a value has no form in the file.
+bool SetValues(SettingsText& text, const QByteArray& path, const RegistryValues& values) {
+  const RegistryValues old = ValuesOf(text, path);
+  for (const auto& [name, value] : old) {
+    if (!values.contains(name)) text.RemoveValue(path, Utf8(name));
+  }
+  for (const auto& [name, value] : values) {
+    const auto known = old.find(name);
+    if (known != old.end() && known->second == value) continue;
+    const auto line = ToLine(value.type, value.bytes);
+    if (!line) return false;
+    text.SetValue(path, Utf8(name), *line);
+  }
+  return true;
 }
 
 }  // namespace
@@ -57,7 +68,8 @@ class SettingsFile::Key : public RegistryKey {
 
   ResultCode Read(const std::string& name, std::uint32_t& type, std::string& bytes) override {
     const auto text = settings_.Load(root_);
-    const auto line = text ? text->Value(path_, Utf8(name)) : std::nullopt;
+    if (!text) return kUnreadable;
+    const auto line = text->Value(path_, Utf8(name));
     auto value = line ? FromLine(*line) : std::nullopt;
     if (access_ == Access::SetValue || !value) return kFailed;
     type = value->type;
@@ -78,17 +90,20 @@ class SettingsFile::Key : public RegistryKey {
   Access access_;
 };
 
-SettingsFile::SettingsFile(const std::string& userFile, const std::string& machineFile,
+SettingsFile::SettingsFile(Files& files, std::string userFile, std::string machineFile,
                            bool machineWritable)
-    : userFile_(QString::fromStdString(userFile)),
-      machineFile_(QString::fromStdString(machineFile)),
-      machineWritable_(machineWritable) {}
+    : files_(files),
+      userFile_(std::move(userFile)),
+      machineFile_(std::move(machineFile)),
+      machineWritable_(machineWritable) {
+  for (const std::string& file : {userFile_, machineFile_}) files_.RemoveLeftovers(FilePath(FolderOf(file)));
+}
 
 std::unique_ptr<RegistryKey> SettingsFile::OpenKey(Root root, const std::string& path,
                                                    Access access) {
   const auto text = Load(root);
-  if (!text || !text->HasKey(Utf8(path))) return nullptr;
-  if (access != Access::Query && !IsWritable(root)) return nullptr;
+  const bool isThere = text ? text->HasKey(Utf8(path)) : access == Access::Query;
+  if (!isThere || (access != Access::Query && !IsWritable(root))) return nullptr;
   return std::make_unique<Key>(*this, root, Utf8(path), access);
 }
 
@@ -104,7 +119,22 @@ ResultCode SettingsFile::DeleteKey(Root root, const std::string& path) {
   return Change(root, [&](SettingsText& text) { return text.RemoveKey(Utf8(path)); });
 }
 
-const QString& SettingsFile::File(Root root) const {
+std::optional<RegistryValues> SettingsFile::ReadValues(Root root, const std::string& path) {
+  const auto text = Load(root);
+  if (!text) return std::nullopt;
+  return ValuesOf(*text, Utf8(path));
+}
+
+ResultCode SettingsFile::ChangeValues(Root root, const std::string& path,
+                                      const std::function<void(RegistryValues&)>& change) {
+  return Change(root, [&](SettingsText& text) {
+    RegistryValues values = ValuesOf(text, Utf8(path));
+    change(values);
+    return SetValues(text, Utf8(path), values);
+  });
+}
+
+const std::string& SettingsFile::File(Root root) const {
   return root == Root::CurrentUser ? userFile_ : machineFile_;
 }
 
@@ -113,35 +143,33 @@ bool SettingsFile::IsWritable(Root root) const {
 }
 
 std::optional<SettingsText> SettingsFile::Load(Root root) const {
-  const QFileInfo info(File(root));
-  if (!info.exists()) return SettingsText({});
-  if (!info.isFile()) return std::nullopt;  // reading a device or pipe may never end
-  QFile file(info.filePath());
-  if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
-  const QByteArray bytes = file.readAll();
-  if (file.error() != QFileDevice::NoError) return std::nullopt;
-  return SettingsText(bytes);
+  if (!files_.Exists(FilePath(File(root)))) return SettingsText({});
+  try {
+    return SettingsText(QByteArray::fromStdString(files_.ReadAll(FilePath(File(root)))));
+  } catch (const RuntimeError&) {
+    return std::nullopt;
+  }
 }
 
 ResultCode SettingsFile::Change(Root root, const std::function<bool(SettingsText&)>& change) const {
-  const QString& name = File(root);
-  if (!IsWritable(root) || !QDir().mkpath(QFileInfo(name).path())) return kFailed;
-  QLockFile lock(name + QStringLiteral(".lock"));
-  lock.setStaleLockTime(0);  // only a dead process's lock is stale, never one held for long
-  if (!Acquire(lock)) return kFailed;
-  auto text = Load(root);
-  if (!text || !change(*text)) return kFailed;
-
-  QSaveFile file(name);
-  if (!file.open(QIODevice::WriteOnly)) return kFailed;
-  // A new file is private to the user, since it will contain an address.
-  if (root == Root::CurrentUser && !QFile::exists(name)) {
-    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+  const std::string& name = File(root);
+  const std::string folder = FolderOf(name);
+  if (!IsWritable(root) || !QDir().mkpath(QString::fromStdString(folder))) return kFailed;
+  try {
+    const auto lock = files_.Lock(FilePath(folder), kLockPatience);
+    if (!lock) return kFailed;
+    auto text = Load(root);
+    if (!text) return kUnreadable;
+    const QByteArray old = text->Bytes();
+    if (!change(*text)) return kFailed;
+    if (text->Bytes() == old) return kSuccess;
+    // The user's contains an address.
+    const Readers readers = root == Root::CurrentUser ? Readers::Owner : Readers::Everyone;
+    files_.Replace(FilePath(name), text->Bytes().toStdString(), readers);
+    return kSuccess;
+  } catch (const RuntimeError&) {
+    return kFailed;
   }
-  const QByteArray bytes = text->Bytes();
-  // Checked here, as commit() does not notice a full disk.
-  const bool isWritten = file.write(bytes) == bytes.size() && file.flush();
-  return isWritten && file.commit() ? kSuccess : kFailed;
 }
 
 std::string SettingsFile::DefaultUserFile() {

@@ -67,6 +67,15 @@ void SettingsText::AddKey(const QByteArray& path) {
   lines_.append("");
 }
 
+QList<QByteArray> SettingsText::Names(const QByteArray& path) const {
+  QList<QByteArray> names;
+  const qsizetype header = HeaderAt(path);
+  for (qsizetype i = header + 1; header >= 0 && i < EndOfKey(header); ++i) {
+    if (const auto name = NameOf(lines_[i])) names.append(*name);
+  }
+  return names;
+}
+
 bool SettingsText::RemoveKey(const QByteArray& path) {
   const qsizetype header = HeaderAt(path);
   if (header < 0) return false;

@@ -18,6 +18,8 @@ class SettingsText {
   // Also true for a key that exists only as the parent of another.
   [[nodiscard]] bool HasKey(const QByteArray& path) const;
   void AddKey(const QByteArray& path);
+  // The names of a key's values, in their order; none without such a key.
+  [[nodiscard]] QList<QByteArray> Names(const QByteArray& path) const;
   // Removes the key with its values; false when it has no header line.
   bool RemoveKey(const QByteArray& path);
 

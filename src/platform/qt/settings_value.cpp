@@ -3,7 +3,6 @@
 #include <QtEndian>
 
 #include "base/text.h"
-#include "platform/registry.h"
 
 namespace benevix {
 namespace {

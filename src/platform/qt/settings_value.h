@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/registry.h"
+
 namespace benevix {
 
 // A registry value as one line of a settings file:
@@ -16,11 +18,6 @@ namespace benevix {
 // `bytes` as RegistryKey::Write takes them. Nothing for an unknown type or a number that does not
 // have 4 bytes.
 std::optional<QByteArray> ToLine(std::uint32_t type, const std::string& bytes);
-
-struct RegistryValue {
-  std::uint32_t type = 0;
-  std::string bytes;
-};
 
 // Nothing for an invalid number.
 std::optional<RegistryValue> FromLine(const QByteArray& line);
