@@ -31,7 +31,8 @@ void ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
 
     const std::string temporary = environment_.info.Resource("$shrdb.dat");
     environment_.files.Replace(temporary, "");
-    const std::string list = Download("downloads/db" + reply);
+    const std::string list =
+        Download("downloads/db" + reply, {.purpose = "Downloading the organization list..."});
     if (!IsUsable(list)) return noServer();
     environment_.files.Replace(temporary, list);
     if (silent) {
@@ -64,6 +65,7 @@ bool ListUpdate::DownloadUpdater() {
   try {
     HttpOptions options;
     options.needsOk = true;
+    options.purpose = "Downloading the new version of the program...";
     program = Download("downloads/updater.exe", options);
   } catch (const RuntimeError&) {
     // Reported below, like an empty answer.
