@@ -214,7 +214,7 @@ TEST_F(MirrorTest, TheYearToDateWindowStandsBesideItsFrameAndLeavesTheKeys) {
   input.Enter([this] { desk.Show(ytd); });
   const QWidget& shown = mirror.BindingOf(ytd)->Widget();
   const auto& frame = Widget<QWidget>(main.Frame9);
-  EXPECT_TRUE(shown.testAttribute(Qt::WA_ShowWithoutActivating));
+  EXPECT_TRUE(shown.windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
   EXPECT_FALSE(shown.geometry().contains(frame.mapToGlobal(frame.rect().center())));
   const QRect screen(0, 20, 1000, 600);
   const QSize size(200, 100);

@@ -161,6 +161,8 @@ void WindowBinding::ShowWindow(QWidget* transientParent, const QWidget* neighbou
   const bool overTopmost = transientParent != nullptr &&
                            transientParent->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
   widget_->setWindowFlag(Qt::WindowStaysOnTopHint, window_.topmost || overTopmost);
+  // Some desktops give the keys to every new window that may have them.
+  widget_->setWindowFlag(Qt::WindowDoesNotAcceptFocus, neighbour != nullptr);
   widget_->setWindowModality(entry.modal ? Qt::ApplicationModal : Qt::NonModal);
   if (transientParent != nullptr) {
     // So it stays above its parent, and can be used while the parent is modal.
