@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTableView>
@@ -237,18 +236,6 @@ TEST_F(MirrorTest, AmountsAreDrawnWholeAndAnAcceptedBudgetLarger) {
   QTest::qWait(0);
   EXPECT_LT(QFontMetrics(budget.font()).horizontalAdvance(budget.text()), budget.width() - 20);
   EXPECT_EQ(budget.height(), height);
-}
-
-TEST_F(MirrorTest, AMenuThatWasOpenedEmptyOpensAgain) {
-  QMenu& countries =
-      *mirror.BindingOf(main)->ActionOf({"mnuLocate", -1, &main.mnuLocate}, -1)->menu();
-  const auto opens = [&] {
-    countries.popup({});
-    return countries.isVisible() && countries.close();
-  };
-  opens();
-  input.Enter([this] { main.lclist.items[0].caption = "Kenya"; });
-  EXPECT_TRUE(opens());
 }
 
 TEST_F(MirrorTest, InputDuringAWaitIsThrownAway) {
