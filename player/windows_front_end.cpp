@@ -55,7 +55,7 @@ void ClickAt(QWidget& widget, QPoint position, Qt::MouseButton button = Qt::Left
 bool IsClickable(const NamedControl& control) {
   return control.As<Button>() != nullptr || control.As<OptionButton>() != nullptr ||
          control.As<CheckBox>() != nullptr || control.As<Label>() != nullptr ||
-         control.As<PictureBox>() != nullptr;
+         control.As<PictureBox>() != nullptr || control.As<Shape>() != nullptr;
 }
 
 // Where a click takes effect: options and check boxes answer on their mark and text only.

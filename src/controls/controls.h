@@ -158,6 +158,7 @@ struct PictureBox : Control {
   explicit PictureBox(std::string tip) : Control(std::move(tip)) {}
 };
 
+// A mark whose colours tell something; it can be clicked.
 struct Shape : Control {
   Color fillColor = colors::kButtonFace;
   Color borderColor = colors::kMuted;
@@ -225,6 +226,9 @@ struct Window {
   bool closesByEscape = true;  // unless a control has the shortcut Escape
   MousePointer mousePointer = MousePointer::Default;
   int left = 0, top = 0;  // twips; 0, 0 leaves the place to the toolkit
+  // The control of the main window that it stands beside. Such a window only shows something: it
+  // leaves the keys where they are. Empty for all others.
+  const char* beside = "";
 };
 
 using AnyControl =

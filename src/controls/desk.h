@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "controls/directory.h"
@@ -84,6 +85,11 @@ class Desk {
   // The entry whose control it is.
   [[nodiscard]] Entry& Holding(const Control& control);
 
+  // What the program has been waiting for longer than a moment, told to the user while it lasts;
+  // empty while he need not wait.
+  [[nodiscard]] const std::string& Activity() const { return activity_; }
+  void SetActivity(std::string activity) { activity_ = std::move(activity); }
+
   // The shown windows from the bottom to the top.
   [[nodiscard]] const std::vector<Window*>& Shown() const { return shown_; }
 
@@ -101,6 +107,7 @@ class Desk {
   const EventTable& events_;
   std::vector<Entry> entries_;
   std::vector<Window*> shown_;
+  std::string activity_;
   bool ended_ = false;
 };
 

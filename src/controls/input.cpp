@@ -56,6 +56,7 @@ bool Input::Click(const NamedControl& control, int element) {
   if (auto* const box = control.As<CheckBox>()) return Toggle(*box);
   if (auto* const label = control.As<Label>()) return Click(*label);
   if (auto* const picture = control.As<PictureBox>()) return Click(*picture);
+  if (auto* const shape = control.As<Shape>()) return Click(*shape);
   if (auto* const item = control.As<MenuItem>()) return ChooseMenu(*item);
   if (auto* const array = control.As<MenuArray>()) return ChooseMenu(*array, element);
   return false;

@@ -34,6 +34,7 @@ class Input {
   bool ChooseMenu(MenuArray& array, int index);
   bool Click(Label& label) { return ClickWithoutFocus(label); }
   bool Click(PictureBox& picture) { return ClickWithoutFocus(picture); }
+  bool Click(Shape& shape) { return ClickWithoutFocus(shape); }
   bool MouseUp(Control& control, MouseButton button);
   bool Hover(Control& control);
 

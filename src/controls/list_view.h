@@ -30,7 +30,8 @@ struct ListView : Control {
   int selected = 0;            // row, 0 for none
   int top = 0;                 // the row last scrolled into view, 0 for none
   int scrolls = 0;             // how often a row was to be scrolled into view
-  int changes = 0;             // how often a text was written or the rows were replaced
+  int loads = 0;               // how often the rows were replaced
+  int changes = 0;             // how often a text was written
 
   [[nodiscard]] int Count() const { return rows ? rows->Count() : 0; }
 
@@ -58,7 +59,7 @@ struct ListView : Control {
     cells.clear();
     selected = 0;
     top = 0;
-    ++changes;
+    ++loads;
   }
 
   void EnsureVisible(int row) {

@@ -61,6 +61,7 @@ struct frmBVX : Window {
     mnuWhatis.visible = false;
     lclist.items[0];  // element 0 of both is always there, without a caption until it is filled
     qhelp1.items[0];
+    Shape2.holder = "Frame9";
     Shape2.meaning = kNoAmounts;
     Shape5.meaning = kNoNews;
     SetShortcuts();

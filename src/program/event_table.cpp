@@ -78,8 +78,14 @@ void Program::ConnectMainWindow() {
       help_.mnuHelp_Click();
     }
   });
-  events_.On(main_.iLbl, Event::Click, Plain([this] { yearToDate_.iLbl_Click(); }));
-  events_.On(main_.Label12, Event::Click, Plain([this] { news_.Label12_Click(); }));
+  // The lamp before a text takes the same click.
+  const auto yearToDate = Plain([this] { yearToDate_.iLbl_Click(); });
+  events_.On(main_.iLbl, Event::Click, yearToDate);
+  events_.On(main_.Shape2, Event::Click, yearToDate);
+  const auto news = Plain([this] { news_.Label12_Click(); });
+  events_.On(main_.Label12, Event::Click, news);
+  events_.On(main_.Shape5, Event::Click, news);
+  events_.On(main_.Shape7, Event::Click, news);
   events_.On(main_.Timer1, Event::Tick, Plain([this] { mainWindow_.Timer1_Tick(); }));
   events_.On(main_.Timer2, Event::Tick, Plain([this] { mainWindow_.Timer2_Tick(); }));
 }

@@ -6,8 +6,18 @@
 
 namespace benevix {
 
-Program::Program(Environment environment)
-    : environment_(std::move(environment)),
+namespace {
+
+Environment WithHttp(const Environment& from, HttpClient& http) {
+  return {from.info,  from.registry, http,       from.boxes, from.waits,
+          from.clock, from.random,   from.shell, from.files, from.printer};
+}
+
+}  // namespace
+
+Program::Program(const Environment& environment)
+    : requests_(environment.http, desk_, environment.waits),
+      environment_(WithHttp(environment, requests_)),
       desk_(events_),
       input_(desk_, events_),
       settings_(environment_.registry),
@@ -78,6 +88,7 @@ Program::Program(Environment environment)
     viewer_.ShowBack();
     contact_.ShowWhatFollows();
     preview_.Show();
+    requests_.EndAction();
   };
   input_.onError = [this](const RuntimeError& error) {
     messages_.Show(error.what(), BoxIcon::Critical);
@@ -86,6 +97,7 @@ Program::Program(Environment environment)
 
 void Program::NewSession() {
   ResetSession(main_, values_, desk_);
+  yearToDate_.Reset();
   database_.LoadOrganizationList();
   database_.BuildCountriesMenu();
   favorites_.LoadFavoritesMenu();

@@ -4,6 +4,7 @@
 #include "controls/input.h"
 #include "core/codec.h"
 #include "core/messages.h"
+#include "core/request_notice.h"
 #include "core/run_values.h"
 #include "core/settings_store.h"
 #include "database/organization_database.h"
@@ -49,7 +50,7 @@ namespace benevix {
 // One run of the program: builds every module once and hands each exactly what it uses.
 class Program {
  public:
-  explicit Program(Environment environment);
+  explicit Program(const Environment& environment);
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
   ~Program() = default;
@@ -96,7 +97,8 @@ class Program {
   void ConnectContact();
   void ConnectSmallWindows();
 
-  Environment environment_;
+  RequestNotice requests_;
+  Environment environment_;  // whose requests go through that
   EventTable events_;
   Forms forms_;
   frmBVX& main_ = forms_.Get<frmBVX>();

@@ -42,7 +42,8 @@ ListCheck ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
     if (version <= run_.DBVersion || !download) return {};
 
     environment_.files.Replace(Downloaded(), "");
-    const std::string list = Download("downloads/db" + reply);
+    const std::string list =
+        Download("downloads/db" + reply, {.purpose = "Downloading the organization list..."});
     if (!IsUsable(list)) {
       noServer();
       return {};
@@ -94,6 +95,7 @@ bool ListUpdate::DownloadUpdater() {
   try {
     HttpOptions options;
     options.needsOk = true;
+    options.purpose = "Downloading the new version of the program...";
     program = Download("downloads/updater.exe", options);
   } catch (const RuntimeError&) {
     // Reported below, like an empty answer.

@@ -52,7 +52,7 @@ class ListUpdate {
  private:
   [[nodiscard]] bool IsInstallable() const;
   // Fetches a large file while the please-wait window shows the progress.
-  [[nodiscard]] std::string Download(const std::string& path, HttpOptions options = {});
+  [[nodiscard]] std::string Download(const std::string& path, HttpOptions options);
 
   Environment& environment_;
   ServerFiles& server_;

@@ -12,7 +12,7 @@ MailOutcome SendMailNotice(ServerFiles& server, const MailNotice& notice) {
                            "&subject=" + notice.subject + "&=" + notice.body;
   MailOutcome outcome{MailResult::NotSent, server.Base() + path};
   try {
-    const std::string answer = server.FetchServerText(path);
+    const std::string answer = server.FetchServerText(path, {.purpose = "Sending..."});
     if (answer.find("Thank You") != std::string::npos) outcome.result = MailResult::Sent;
   } catch (const RuntimeError&) {
     // Without an answer the notice counts as not sent.

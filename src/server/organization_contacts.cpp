@@ -14,7 +14,8 @@ OrganizationContacts::Result OrganizationContacts::LookupContacts(const std::str
   constexpr std::string_view marker = "QUORL";
   std::string list;
   try {
-    list = server_.FetchServerText("infoDB/idcontacts.dat");
+    list = server_.FetchServerText("infoDB/idcontacts.dat",
+                                   {.purpose = "Looking up the organization..."});
   } catch (const RuntimeError&) {
     // Reported below, like a list without its marker.
   }

@@ -28,6 +28,7 @@ std::string OrganizationInformation::InformationPage(const std::string& id) {
   constexpr int attempts = 4;
   WaitNotice notice(wait_);
   HttpOptions options;
+  options.purpose = "Retrieving the information page...";
   options.progress = notice.Progress();
   for (int i = 0; i < attempts; ++i) {
     wait_.waits.DoEvents();

@@ -52,7 +52,8 @@ std::string Translation::RequestAddress() const {
 
 std::string Translation::Fetch() const {
   try {
-    return OpenURL(environment_.http, windows_.main.Inet2, RequestAddress());
+    return OpenURL(environment_.http, windows_.main.Inet2, RequestAddress(),
+                   {.purpose = "Translating the page..."});
   } catch (const RuntimeError&) {
     return {};
   }

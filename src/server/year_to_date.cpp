@@ -59,6 +59,7 @@ YearToDate::Lookup YearToDate::FindRecord(std::string_view text, std::string& am
 }
 
 void YearToDate::ShowAmounts(std::string_view amounts) {
+  window_.Organization.caption = main_.ListView1.SelectedText(column::kOrganization);
   for (int i = 0; i < 4; ++i) {
     const std::string_view amount = i < 3 ? CutField(amounts, ',') : amounts;
     window_.Label2[i].caption = "$ " + (amount.empty() ? "N/A" : std::string(amount));
@@ -76,6 +77,12 @@ void YearToDate::iLbl_Click() {
   desk_.Load(window_);
   if (run_.YtdState != 0 && main_.ListView1.selected != 0) ShowYtd();
   desk_.Show(window_);
+}
+
+void YearToDate::Reset() {
+  desk_.Unload(window_);
+  window_ = frmYtdTag();  // amounts of the selected row are kept while it is closed, too
+  if (run_.YtdState != 0) SetIndicator(false);
 }
 
 void YearToDate::RemoveYtd() {

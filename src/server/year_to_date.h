@@ -35,6 +35,9 @@ class YearToDate {
   // Opens or closes the window with the amounts.
   void iLbl_Click();
 
+  // A new session begins, without a selected row: closes the window and forgets its amounts.
+  void Reset();
+
   // Deletes the copy of this run; errors are ignored.
   void RemoveYtd();
 

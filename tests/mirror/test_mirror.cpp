@@ -3,11 +3,13 @@
 #include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
+#include <QToolTip>
 #include <gtest/gtest.h>
 
 #include "../sample_list.h"
@@ -16,9 +18,11 @@
 #include "core/wait_notice.h"
 #include "forms/frmBVX.h"
 #include "forms/frmPayOpt.h"
+#include "forms/frmYtdTag.h"
 #include "mirror/look/note_bubble.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
+#include "mirror/mirror/window_place.h"
 
 namespace benevix {
 namespace {
@@ -29,6 +33,7 @@ class MirrorTest : public testing::Test {
     desk.Add(main);
     desk.Add(payment);
     desk.Add(wait);
+    desk.Add(ytd);
     events.On(main.Text1, Event::KeyPress, [](int, EventArgs& args) {
       if ((args.key < '0' || args.key > '9') && args.key != '.') args.key = 0;
     });
@@ -59,6 +64,7 @@ class MirrorTest : public testing::Test {
   frmBVX main;
   frmPayOpt payment;
   frmWait wait;
+  frmYtdTag ytd;
   Desk desk{events};
   Input input{desk, events};
   Mirror mirror{Scheme::Light, Mirror::Timers::Hold};
@@ -159,6 +165,90 @@ TEST_F(MirrorTest, TheFocusAloneChoosesNoRow) {
   EXPECT_EQ(main.ListView1.selected, 0);
   QTest::keyClick(&view, Qt::Key_Down);
   EXPECT_GT(main.ListView1.selected, 0);
+}
+
+TEST_F(MirrorTest, AListIsNewAtTheAddressOfTheLastOneToo) {
+  struct Rows : SampleRows {
+    [[nodiscard]] int Count() const override { return count; }
+    [[nodiscard]] std::string Text(int row, int column) const override {
+      return SampleRows::Text(row, column) + std::string(column == 1 ? 300 : 0, 'n');
+    }
+    int count = 2;
+  };
+  const auto rows = std::make_shared<Rows>();
+  const auto& view = Widget<QTableView>(main.ListView1);
+  input.Enter([&] { main.ListView1.SetRows(rows); });
+  rows->count = 5;
+  input.Enter([&] { main.ListView1.SetRows(rows); });
+  EXPECT_EQ(view.model()->rowCount(), 5);
+  // A name that is cut off is told, in place of the list's key.
+  const auto tipAt = [&](int column) {
+    const QPoint place = view.visualRect(view.model()->index(1, column)).center();
+    QHelpEvent hover(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(view.viewport(), &hover);
+    return QToolTip::text();
+  };
+  EXPECT_TRUE(tipAt(1).startsWith(QStringLiteral("Org 2n")));
+  EXPECT_EQ(tipAt(2), QStringLiteral("Ctrl+L"));
+}
+
+TEST_F(MirrorTest, TheSecondPressOfADoubleClickIsNoClick) {
+  const auto doubleClick = [this](const Control& control, QPoint place) {
+    auto& widget = Widget<QWidget>(control);
+    QTest::mouseDClick(widget.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                       widget.mapTo(widget.window(), place));
+  };
+  doubleClick(main.Command1, {9, 9});
+  EXPECT_EQ(clicks, 1);
+  doubleClick(main.Check2, {9, 9});
+  EXPECT_EQ(main.Check2.value, 1);
+  ClickOn(Widget<QPushButton>(main.Command1));
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(MirrorTest, ALongRequestShowsABusyPointerAndWhatIsGoingOn) {
+  const auto& line = *mirror.BindingOf(main)->Widget().findChild<QLabel*>("activityLine");
+  input.Enter([&] {
+    desk.SetActivity("Asking...");
+    const WaitScope request(mirror);
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    EXPECT_TRUE(line.isVisible());
+    EXPECT_EQ(line.text(), QStringLiteral("Asking..."));
+    EXPECT_EQ(Widget<QLabel>(main.Label6).text().toStdString(), main.Label6.caption);
+    EXPECT_EQ(mirror.BindingOf(main)->Widget().cursor().shape(), Qt::ArrowCursor);
+    desk.SetActivity({});
+  });
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+  EXPECT_FALSE(line.isVisible());
+}
+
+TEST_F(MirrorTest, TheYearToDateWindowStandsBesideItsFrameAndLeavesTheKeys) {
+  input.Enter([this] { desk.Show(ytd); });
+  const QWidget& shown = mirror.BindingOf(ytd)->Widget();
+  const auto& frame = Widget<QWidget>(main.Frame9);
+  EXPECT_TRUE(shown.windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
+  EXPECT_FALSE(shown.geometry().contains(frame.mapToGlobal(frame.rect().center())));
+  const QRect screen(0, 20, 1000, 600);
+  const QSize size(200, 100);
+  EXPECT_EQ(Beside(size, {600, 300, 100, 30}, screen), QRect(QPoint(708, 300), size));
+  EXPECT_EQ(Beside(size, {880, 300, 100, 30}, screen), QRect(QPoint(800, 338), size));
+  EXPECT_EQ(Beside(size, {880, 580, 100, 30}, screen), QRect(QPoint(672, 510), size));
+  EXPECT_EQ(Inside({-5, -5, 2000, 30}, screen).topLeft(), screen.topLeft());
+}
+
+TEST_F(MirrorTest, AmountsAreDrawnWholeAndAnAcceptedBudgetLarger) {
+  auto& budget = Widget<QLineEdit>(main.Text1[0]);
+  const double before = budget.font().pointSizeF();
+  input.Enter([this] { main.Text1[0].fontSize = 9; });
+  EXPECT_DOUBLE_EQ(budget.font().pointSizeF(), before * 9 / 8);
+  const int height = budget.height();
+  input.Enter([this] {
+    main.Text1[0].fontBold = true;
+    main.Text1[0].Write("123,456,789.00");
+  });
+  QTest::qWait(0);
+  EXPECT_LT(QFontMetrics(budget.font()).horizontalAdvance(budget.text()), budget.width() - 20);
+  EXPECT_EQ(budget.height(), height);
 }
 
 TEST_F(MirrorTest, InputDuringAWaitIsThrownAway) {

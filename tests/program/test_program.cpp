@@ -1,5 +1,6 @@
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <set>
 
 #include "../program_fixture.h"
 
@@ -99,6 +100,19 @@ TEST_F(ProgramTest, ProgressIsShownForListsAndInformationPages) {
   program.TheInput().ChooseMenu(forms.Get<frmBVX>().mnuMoreInfo);
   ExpectBarMovedToItsEnd();
   EXPECT_EQ(forms.Get<frmInfo>().Label1.caption.size(), 30'000'000U);
+}
+
+TEST_F(ProgramTest, WhatALongRequestIsForIsToldWhileItLasts) {
+  world.settings.Put("user", "BVXDB", "1");  // so that the first run does not set the time-out
+  world.settings.Put("machine", "TimeOut", "1");
+  Enter();
+  std::set<std::string> told;
+  waits.watch = [&] { told.insert(program.TheDesk().Activity()); };
+  world.site.Put("infoDB/idcontacts.dat", {LoopbackServer::Reply::Silence, 200, ""});
+  program.TheInput().SelectRow(forms.Get<frmBVX>().ListView1, 2, MouseButton::Left);
+  program.TheInput().ChooseMenu(forms.Get<frmBVX>().mnuGotheirWeb);
+  EXPECT_EQ(told, (std::set<std::string>{"", "Looking up the organization..."}));
+  EXPECT_EQ(program.TheDesk().Activity(), "");
 }
 
 TEST_F(ProgramTest, AnInvalidUpdaterIsNeitherSavedNorStarted) {

@@ -101,7 +101,7 @@ TEST_F(ServedSite, TellsAboutEveryListedOrganization) {
   const FilePath file(std::string(PROJECT_FOLDER) + "/resources/sharedb.dat");
   const OrganizationList list(*LinuxFiles().Open(file));
   for (int row = 1; row <= list.Count(); ++row) {
-    if (list.Id(row) == 0) continue;
+    if (!list.Id(row)) continue;
     const SiteAnswer page = site_.Answer("/infoDB/" + list.Text(row, column::kId) + ".dat");
     EXPECT_TRUE(page.body.starts_with(list.Text(row, column::kOrganization))) << row;
     EXPECT_EQ(page.body.find("404"), std::string::npos) << row;

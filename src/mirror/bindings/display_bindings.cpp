@@ -37,6 +37,11 @@ class LabelBinding : public WidgetBinding<Label, QLabel> {
     const QString caption = Drawn(control_.caption);
     widget_.setText(LeadsToABox() ? WithMnemonic(caption, mnemonic_) : WithoutMnemonic(caption));
     colors_.Apply({{QPalette::WindowText, control_.foreColor, Label().foreColor}}, {});
+    // The marked letter is drawn by itself, without the kerning that the toolkit counts on.
+    if (LeadsToABox()) {
+      widget_.setMinimumWidth(widget_.sizeHint().width() +
+                              widget_.fontMetrics().averageCharWidth());
+    }
     if (IsPlacedByTheProgram()) Place();
   }
 
@@ -97,7 +102,9 @@ class PictureBinding : public WidgetBinding<PictureBox, QWidget> {
 
 class ShapeBinding : public WidgetBinding<Shape, ShapeWidget> {
  public:
-  using WidgetBinding::WidgetBinding;
+  ShapeBinding(Shape& shape, ShapeWidget& widget, BindingContext& context)
+      : WidgetBinding(shape, widget, context),
+        mouse_(widget, [this] { context_.input.Click(control_); }) {}
 
  private:
   void ApplyKind() override {
@@ -106,6 +113,8 @@ class ShapeBinding : public WidgetBinding<Shape, ShapeWidget> {
     widget_.SetBorder(RoleColor(control_.borderColor, context_.scheme));
     widget_.setAccessibleDescription(ToQString(control_.meaning));
   }
+
+  MouseFilter mouse_;
 };
 
 class ScrollBarBinding : public WidgetBinding<ScrollBar, QScrollBar> {

@@ -63,6 +63,8 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
   }
 
   bool FilterMouse(const QEvent& event) {
+    // Its first press has chosen the row, or was for something that stood before the list.
+    if (event.type() == QEvent::MouseButtonDblClick) return true;
     if (event.type() == QEvent::MouseButtonPress) pressed_ = true;
     if (event.type() != QEvent::MouseButtonRelease || !pressed_) return false;
     pressed_ = false;

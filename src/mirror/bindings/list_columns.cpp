@@ -43,7 +43,7 @@ void LayOutColumns(QTableView& view, const ListView& list) {
     view.setColumnHidden(hidden, true);
   }
   const int unit = view.fontMetrics().averageCharWidth();
-  const int widths[ListView::kColumns] = {12, 46, 16, 14, 16, 20, 14, 14, 14, 14};  // characters
+  const int widths[ListView::kColumns] = {12, 46, 16, 18, 14, 20, 14, 14, 14, 14};  // characters
   header.setMinimumSectionSize(8 * unit);
   for (int i = 0; i < ListView::kColumns; ++i) header.resizeSection(i, widths[i] * unit);
   header.setSectionResizeMode(column::kOrganization, QHeaderView::Stretch);

@@ -1,7 +1,10 @@
 #include "mirror/bindings/list_delegate.h"
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QTableView>
+#include <QToolTip>
 
 #include "database/organization_list.h"
 #include "mirror/bindings/list_model.h"
@@ -12,6 +15,10 @@ namespace {
 constexpr int kInset = 8;  // pixels before and behind a text
 constexpr int kEdge = 4;   // pixels, the bar at the edge of a row with a donation
 
+ListModel::Kind KindOf(const QModelIndex& index) {
+  return index.data(ListModel::kKindRole).value<ListModel::Kind>();
+}
+
 }  // namespace
 
 ListDelegate::ListDelegate(Scheme scheme, QObject* parent)
@@ -19,7 +26,7 @@ ListDelegate::ListDelegate(Scheme scheme, QObject* parent)
 
 void ListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
-  const auto kind = index.data(ListModel::kKindRole).value<ListModel::Kind>();
+  const ListModel::Kind kind = KindOf(index);
   if (kind == ListModel::Kind::Heading) return PaintHeading(*painter, option, index);
 
   QStyleOptionViewItem cell = option;
@@ -40,6 +47,19 @@ void ListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   const QRect inside = option.rect.adjusted(kInset, 0, -kInset, 0);
   const QString text = cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, inside.width());
   painter->drawText(inside, static_cast<int>(cell.displayAlignment) | Qt::TextSingleLine, text);
+}
+
+bool ListDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                             const QStyleOptionViewItem& option, const QModelIndex& index) {
+  const bool heading = KindOf(index) == ListModel::Kind::Heading;
+  QStyleOptionViewItem cell = option;
+  initStyleOption(&cell, heading ? index.siblingAtColumn(column::kCountry) : index);
+  const int width = (heading ? view->viewport()->rect() : option.rect).width() - 2 * kInset;
+  if (event->type() != QEvent::ToolTip || cell.fontMetrics.horizontalAdvance(cell.text) <= width) {
+    return QStyledItemDelegate::helpEvent(event, view, option, index);
+  }
+  QToolTip::showText(event->globalPos(), cell.text, view);
+  return true;
 }
 
 // The text runs over the whole row: every cell draws the part of it that falls into the cell.

@@ -15,6 +15,10 @@ class ListDelegate : public QStyledItemDelegate {
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
 
+  // A text that is cut off is told whole, in place of the list's own tip.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override;
+
  private:
   void PaintHeading(QPainter& painter, const QStyleOptionViewItem& option,
                     const QModelIndex& index) const;

@@ -17,9 +17,9 @@ QVariant AlignmentOf(int column) {
 }  // namespace
 
 void ListModel::Refresh() {
-  if (list_.rows.get() != rows_) {
+  if (list_.loads != loads_) {
     beginResetModel();
-    rows_ = list_.rows.get();
+    loads_ = list_.loads;
     count_ = list_.Count();
     changes_ = list_.changes;
     endResetModel();

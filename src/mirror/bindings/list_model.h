@@ -27,7 +27,7 @@ class ListModel : public QAbstractTableModel {
   [[nodiscard]] Kind KindOf(int row) const;
 
   const ListView& list_;
-  const RowSource* rows_ = nullptr;
+  int loads_ = 0;
   int count_ = 0;
   int changes_ = 0;
 };

@@ -99,9 +99,9 @@ void MenuBinding::AddItem(const NamedControl& control, bool holds) {
 void MenuBinding::AddArray(MenuArray& array) {
   QMenu* const menu = MenuNamed(array.holder);
   if (array.separated) menu->addSeparator();
-  QAction* const end = menu->addAction(QString());
-  end->setVisible(false);
-  const bool isAlone = menu->actions().size() == 1;
+  const bool isAlone = menu->actions().isEmpty();
+  QAction* const end = menu->addAction(isAlone ? QStringLiteral("&None") : QString());
+  end->setEnabled(false);
   arrays_.push_back({&array, menu, end, isAlone, {}});
 }
 
@@ -119,6 +119,7 @@ void MenuBinding::Apply() {
 }
 
 void MenuBinding::ApplyArray(Array& array) {
+  bool isEmpty = true;
   for (auto it = array.elements.begin(); it != array.elements.end();) {
     if (array.array->items.count(it->first) == 0) {
       it->second->deleteLater();
@@ -148,7 +149,10 @@ void MenuBinding::ApplyArray(Array& array) {
     ApplyItem(item, text, item.enabled && array.array->enabled, *action);
     const bool shown = item.visible && !item.caption.empty();
     if (action->isVisible() != shown) action->setVisible(shown);
+    isEmpty = isEmpty && !shown;
   }
+  // A menu that is opened without an entry does not open again.
+  array.end->setVisible(array.isAlone && isEmpty);
 }
 
 QAction* MenuBinding::Action(const NamedControl& control, int element) const {

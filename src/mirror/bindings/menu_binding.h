@@ -40,7 +40,7 @@ class MenuBinding {
   struct Array {
     MenuArray* array;
     QMenu* menu;
-    QAction* end;  // elements stand before it
+    QAction* end;  // elements stand before it; it is shown while there are none
     bool isAlone;  // in its menu
     std::map<int, QAction*> elements;
   };

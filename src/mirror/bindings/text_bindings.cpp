@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTimer>
+#include <algorithm>
 
 #include "base/text.h"
 #include "mirror/bindings/make_binding.h"
@@ -51,6 +52,8 @@ class TextBoxBinding : public WidgetBinding<TextBox, QLineEdit> {
       : WidgetBinding(box, edit, context),
         colors_(edit, context.scheme),
         selections_(box.selections) {
+    edit.ensurePolished();
+    designPoints_ = edit.font().pointSizeF() * (IsMoney() ? kMoneyScale : 1);
     FilterTyping(box, edit, context);
   }
 
@@ -61,15 +64,29 @@ class TextBoxBinding : public WidgetBinding<TextBox, QLineEdit> {
     const TextBox design;
     colors_.Apply({{QPalette::Text, control_.foreColor, design.foreColor}},
                   {{QPalette::Base, control_.backColor, design.backColor}});
-    QFont font = widget_.font();
-    if (font.bold() != control_.fontBold) {
-      font.setBold(control_.fontBold);
-      widget_.setFont(font);
-    }
+    ApplyFont();
     if (selections_ != control_.selections) {
       selections_ = control_.selections;
       SelectAll();
     }
+  }
+
+  [[nodiscard]] bool IsMoney() const { return widget_.property("look") == QLatin1String("money"); }
+
+  // In a box for amounts a text that is too long for it is drawn smaller, so that none of its
+  // digits is hidden.
+  void ApplyFont() {
+    QFont font = widget_.font();
+    font.setBold(control_.fontBold);
+    font.setPointSizeF(designPoints_ * control_.fontSize / TextBox().fontSize);
+    if (IsMoney()) {
+      constexpr int inset = 2 * (8 + 2 + 2);  // pixels: padding, frame, and the edit's own margin
+      const int room = widget_.width() - inset;
+      while (font.pointSizeF() > 2 && QFontMetrics(font).horizontalAdvance(widget_.text()) > room) {
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+      }
+    }
+    if (font != widget_.font()) widget_.setFont(font);
   }
 
   void SelectAll() {
@@ -81,6 +98,7 @@ class TextBoxBinding : public WidgetBinding<TextBox, QLineEdit> {
   }
 
   ControlColors colors_;
+  double designPoints_ = 0;
   int selections_;
 };
 

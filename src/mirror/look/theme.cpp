@@ -112,9 +112,9 @@ QString SheetOf(Scheme scheme, QFont font) {
   const double points = QFontInfo(font).pointSizeF();
   set("small", QString::number(points * 0.9));
   set("medium", QString::number(points * 1.15));
-  set("large", QString::number(points * 1.8));
+  set("large", QString::number(points * kMoneyScale));
   const QFontMetrics plain(font);
-  set("title", QString::number(plain.height() + 9));
+  set("title", QString::number(plain.height() + 8));
   set("track", QString::number(plain.height() + 8));
   QFont small = font;
   small.setPointSizeF(points * 0.9);
@@ -129,8 +129,10 @@ QString SheetOf(Scheme scheme, QFont font) {
   set("button", width("Continue"));
   font.setPointSizeF(points * 1.15);
   set("guidance", QString::number(2 * QFontMetrics(font).lineSpacing()));
-  font.setPointSizeF(points * 1.8);
+  font.setPointSizeF(points * kMoneyScale);
   set("amount", width("10,000.00"));
+  font.setPointSizeF(font.pointSizeF() * 9 / TextBox().fontSize);  // an accepted Budget
+  set("money", QString::number(QFontMetrics(font).height()));
   return sheet;
 }
 

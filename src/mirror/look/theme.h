@@ -17,6 +17,9 @@ enum class Scheme { Light, Dark };
 // Style, palette and style sheet of all windows. Font sizes follow the application's font.
 void ApplyTheme(QApplication& app, Scheme scheme);
 
+// Amounts in boxes of the look "money" are so much larger than other texts.
+inline constexpr double kMoneyScale = 1.8;
+
 // The colours of the list's rows.
 struct ListColors {
   QColor heading, headingText;

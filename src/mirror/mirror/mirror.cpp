@@ -1,9 +1,11 @@
 #include "mirror/mirror/mirror.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
 #include <set>
+#include <string_view>
 
 #include "mirror/look/accessibility.h"
 
@@ -32,7 +34,21 @@ bool IsInput(QEvent::Type type) {
   return input.count(type) != 0;
 }
 
+// Also on a button that has come under the pointer since the first press.
+bool IsSecondPress(const QObject& watched, const QEvent& event) {
+  return event.type() == QEvent::MouseButtonDblClick &&
+         qobject_cast<const QAbstractButton*>(&watched) != nullptr;
+}
+
 }  // namespace
+
+Mirror::Mirror(Scheme scheme, Timers timers) : scheme_(scheme), timers_(timers) {
+  qApp->installEventFilter(this);
+}
+
+Mirror::~Mirror() {
+  Detach();
+}
 
 void Mirror::Attach(Desk& desk, Input& input, const WindowLayout* layout) {
   Detach();
@@ -48,6 +64,7 @@ void Mirror::Detach() {
   for (const auto& [window, binding] : bindings_) delete binding;
   bindings_.clear();
   desk_ = nullptr;
+  SetBusy(false);
 }
 
 WindowBinding* Mirror::BindingOf(const Window& window) const {
@@ -64,7 +81,19 @@ void Mirror::Sync() {
     UpdateWindows();
   }
   context_->applying = false;
+  SetBusy(!desk_->Ended() && !desk_->Activity().empty());
   if (desk_->Ended()) onEnded();
+}
+
+void Mirror::SetBusy(bool busy) {
+  if (busy == busy_) return;
+  busy_ = busy;
+  // Over all windows, whose own pointers stay as they are.
+  if (busy) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QGuiApplication::restoreOverrideCursor();
+  }
 }
 
 void Mirror::UpdateWindows() {
@@ -80,7 +109,8 @@ void Mirror::UpdateWindows() {
       binding = std::make_unique<WindowBinding>(*desk_, entry, *context_, layout_).release();
       bindings_[entry.window] = binding;
     }
-    if (binding != nullptr) binding->Apply(TransientParent(*entry.window));
+    if (binding != nullptr)
+      binding->Apply(TransientParent(*entry.window), Neighbour(*entry.window));
   }
   ApplyFocus();
 }
@@ -102,14 +132,20 @@ QWidget* Mirror::TransientParent(const Window& window) const {
   return parent;
 }
 
+const QWidget* Mirror::Neighbour(const Window& window) const {
+  WindowBinding* const main = BindingOf(*desk_->Entries().front().window);
+  if (main == nullptr || std::string_view(window.beside).empty()) return nullptr;
+  return main->Widget().findChild<QWidget*>(QLatin1String(window.beside));
+}
+
 void Mirror::Begin() {
   for (const auto& [window, binding] : bindings_) binding->ForgetPress();
   Sync();
-  if (waits_++ == 0) qApp->installEventFilter(this);
+  ++waits_;
 }
 
 void Mirror::End() {
-  if (--waits_ == 0) qApp->removeEventFilter(this);
+  --waits_;
 }
 
 void Mirror::DoEvents() {
@@ -119,7 +155,8 @@ void Mirror::DoEvents() {
 }
 
 bool Mirror::eventFilter(QObject* watched, QEvent* event) {
-  if (!IsInput(event->type()) || !watched->isWidgetType()) return false;
+  if (IsSecondPress(*watched, *event)) return true;
+  if (waits_ == 0 || !IsInput(event->type()) || !watched->isWidgetType()) return false;
   const QWidget* const window = static_cast<QWidget*>(watched)->window();
   // The program waits for the answer of this one.
   if (qobject_cast<const QMessageBox*>(window) != nullptr) return false;

@@ -14,13 +14,15 @@ namespace benevix {
 
 // The mirror: shows the structs of the windows as real widgets. Nothing is decided here: the user's
 // events go to the structs' handlers, and afterwards the widgets are updated from the
-// structs. While the program waits, the user's input is thrown away.
+// structs. While the program waits, the user's input is thrown away; the second press of a double
+// click is no click of its own.
 class Mirror : public QObject, public Waits {
  public:
   enum class Timers { Run, Hold };
 
-  Mirror(Scheme scheme, Timers timers) : scheme_(scheme), timers_(timers) {}
-  ~Mirror() override { Detach(); }
+  // Needs a QApplication.
+  Mirror(Scheme scheme, Timers timers);
+  ~Mirror() override;
 
   // Shows the windows of this desk instead of those of an earlier one. With a layout the main
   // window is arranged as the user left it.
@@ -43,7 +45,11 @@ class Mirror : public QObject, public Waits {
   void Sync();
   void UpdateWindows();
   void ApplyFocus();
+  // A busy pointer, while the desk has something going on.
+  void SetBusy(bool busy);
   [[nodiscard]] QWidget* TransientParent(const Window& window) const;
+  // What the window stands beside; null for none.
+  [[nodiscard]] const QWidget* Neighbour(const Window& window) const;
 
   Scheme scheme_;
   Timers timers_;
@@ -54,6 +60,7 @@ class Mirror : public QObject, public Waits {
   // when none of its event handlers runs any more.
   std::map<const Window*, WindowBinding*> bindings_;
   int waits_ = 0;
+  bool busy_ = false;
 };
 
 }  // namespace benevix

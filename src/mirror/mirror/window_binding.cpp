@@ -14,6 +14,7 @@
 #include "mirror/look/texts.h"
 #include "mirror/mirror/drawings.h"
 #include "mirror/mirror/window_layout.h"
+#include "mirror/mirror/window_place.h"
 
 namespace benevix {
 namespace {
@@ -44,9 +45,15 @@ WindowBinding::WindowBinding(Desk& desk, const Desk::Entry& entry, BindingContex
       window_(*entry.window),
       loads_(entry.loads),
       widget_(MakeDrawing(entry.name)),
+      activityLine_(widget_->findChild<QLabel*>(QStringLiteral("activityLine"))),
       keys_(context.input, window_, *widget_),
       note_(std::make_unique<NoteBubble>(*widget_).release()) {
   widget_->installEventFilter(this);
+  if (activityLine_ != nullptr) {
+    QSizePolicy policy = activityLine_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);  // nothing moves when it appears
+    activityLine_->setSizePolicy(policy);
+  }
   for (const NamedControl& control : entry.controls) {
     auto binding = MakeBinding(control, *widget_, context_);
     if (!binding) continue;
@@ -119,12 +126,12 @@ const WindowBinding::BoundControl* WindowBinding::BoundTo(const QObject* widget)
   return nullptr;
 }
 
-void WindowBinding::Apply(QWidget* transientParent) {
+void WindowBinding::Apply(QWidget* transientParent, const QWidget* neighbour) {
   ApplyControls();
   if (menus_) menus_->Apply();
   ApplyWindow();
   const bool shown = desk_.IsShown(window_);
-  if (shown && widget_->isHidden()) ShowWindow(transientParent);
+  if (shown && widget_->isHidden()) ShowWindow(transientParent, neighbour);
   if (!shown && !widget_->isHidden()) widget_->hide();
 }
 
@@ -154,29 +161,32 @@ void WindowBinding::ApplyWindow() {
       widget_->unsetCursor();
     }
   }
+  if (activityLine_ != nullptr) {
+    activityLine_->setText(Drawn(desk_.Activity()));
+    activityLine_->setVisible(!desk_.Activity().empty());
+  }
 }
 
-void WindowBinding::ShowWindow(QWidget* transientParent) {
+void WindowBinding::ShowWindow(QWidget* transientParent, const QWidget* neighbour) {
   const Desk::Entry& entry = desk_.Find(window_);
   // Over a topmost window only another topmost one can be seen.
   const bool overTopmost = transientParent != nullptr &&
                            transientParent->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
   widget_->setWindowFlag(Qt::WindowStaysOnTopHint, window_.topmost || overTopmost);
+  // Some desktops give the keys to every new window that may have them.
+  widget_->setWindowFlag(Qt::WindowDoesNotAcceptFocus, neighbour != nullptr);
   widget_->setWindowModality(entry.modal ? Qt::ApplicationModal : Qt::NonModal);
-  if (window_.left != 0 || window_.top != 0) {
-    widget_->move(window_.left / kTwipsPerPixel, window_.top / kTwipsPerPixel);
-  }
   if (transientParent != nullptr) {
     // So it stays above its parent, and can be used while the parent is modal.
     widget_->winId();
     widget_->windowHandle()->setTransientParent(transientParent->windowHandle());
-    QRect place(QPoint(), widget_->size());
-    place.moveCenter(transientParent->geometry().center());
-    widget_->move(place.topLeft());
   }
+  PlaceWindow(*widget_, QPoint(window_.left, window_.top) / kTwipsPerPixel, transientParent,
+              neighbour);
+  widget_->setAttribute(Qt::WA_ShowWithoutActivating, neighbour != nullptr);
   widget_->show();
   widget_->raise();
-  widget_->activateWindow();
+  if (neighbour == nullptr) widget_->activateWindow();
   ApplyControls();  // for what depends on the final size
 }
 

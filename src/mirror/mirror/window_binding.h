@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLabel>
 #include <QObject>
 #include <QWidget>
 #include <memory>
@@ -24,8 +25,8 @@ class WindowBinding : public QObject {
   ~WindowBinding() override;
 
   // Updates all widgets and shows or hides the window. `transientParent` is the window it
-  // stays above; null for none.
-  void Apply(QWidget* transientParent);
+  // stays above, `neighbour` what it stands beside; null for none.
+  void Apply(QWidget* transientParent, const QWidget* neighbour);
   // Gives the widget focus to the control that has the desk's.
   void ApplyFocus();
   void ForgetPress() { keys_.ForgetPress(); }
@@ -55,7 +56,7 @@ class WindowBinding : public QObject {
   void ApplyControls();
   void ApplyNote();
   void ApplyWindow();
-  void ShowWindow(QWidget* transientParent);
+  void ShowWindow(QWidget* transientParent, const QWidget* neighbour);
   [[nodiscard]] const BoundControl* BoundTo(const QObject* widget) const;
   bool FilterWindow(QEvent& event);
   bool FilterControl(const BoundControl& bound, QEvent& event);
@@ -66,6 +67,7 @@ class WindowBinding : public QObject {
   Window& window_;
   int loads_;
   std::unique_ptr<QWidget> widget_;
+  QLabel* activityLine_;  // tells what the program waits for; null in windows that never wait
   WindowKeys keys_;
   NoteBubble* note_;  // a child of the widget
   std::vector<BoundControl> bound_;

@@ -2,12 +2,12 @@
 
 #include <QHeaderView>
 #include <QMainWindow>
-#include <QScreen>
 #include <QSplitter>
 #include <QTableView>
 
 #include "core/settings_store.h"
 #include "mirror/look/texts.h"
+#include "mirror/mirror/window_place.h"
 
 namespace benevix {
 namespace {
@@ -37,10 +37,9 @@ void SaveNumbers(SettingsStore& settings, const char* name, const QList<int>& nu
 
 void WindowLayout::Restore(QMainWindow& window) const {
   const QList<int> size = Numbers(settings_, "Size", 3);  // width, height, whether maximized
-  if (!size.isEmpty()) {
-    window.resize(QSize(size[0], size[1]).boundedTo(window.screen()->availableSize()));
-    if (size[2] != 0) window.setWindowState(Qt::WindowMaximized);
-  }
+  const QSize wanted = size.isEmpty() ? window.size() : QSize(size[0], size[1]);
+  window.resize(wanted.boundedTo(RoomOnScreen(window)));
+  if (!size.isEmpty() && size[2] != 0) window.setWindowState(Qt::WindowMaximized);
   if (auto* const splitter = window.findChild<QSplitter*>()) {
     const QList<int> sizes = Numbers(settings_, "Splitter", splitter->count());
     if (!sizes.isEmpty()) splitter->setSizes(sizes);

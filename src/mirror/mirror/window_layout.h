@@ -12,7 +12,8 @@ class WindowLayout {
  public:
   explicit WindowLayout(SettingsStore& settings) : settings_(settings) {}
 
-  // What was never saved, or cannot be read, stays as it is drawn.
+  // What was never saved, or cannot be read, stays as it is drawn. The window is made no larger
+  // than the screen has room for.
   void Restore(QMainWindow& window) const;
   void Save(const QMainWindow& window) const;
 

@@ -323,7 +323,8 @@ std::unique_ptr<FolderLock> LinuxFiles::Lock(const FilePath& folder,
 
 void LinuxFiles::RemoveLeftovers(const FilePath& folder) {
   std::error_code ignored;
-  for (fs::directory_iterator file(folder.Utf8(), ignored), end; file != end; file.increment(ignored)) {
+  for (fs::directory_iterator file(folder.Utf8(), ignored), end; file != end;
+       file.increment(ignored)) {
     const fs::path path = file->path();
     if (IsLeftover(path.filename().string())) fs::remove(path, ignored);
   }

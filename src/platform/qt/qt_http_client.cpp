@@ -5,6 +5,7 @@
 #include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QTimer>
 #include <QUrl>
 #include <algorithm>
 #include <exception>
@@ -18,6 +19,7 @@ namespace benevix {
 namespace {
 
 constexpr int kMaxRedirects = 10;
+constexpr int kMoment = 300;            // milliseconds
 constexpr int kDefaultTimeout = 5;      // seconds
 constexpr int kMaxTimeout = 1'000'000;  // seconds; as milliseconds it still fits an int
 // Bytes to buffer and to read at a time. Qt may have more available; each chunk is reported.
@@ -169,6 +171,10 @@ std::string QtHttpClient::OpenURL(const std::string& address, const HttpOptions&
   QUrl url = WireUrl(address);
   const QNetworkProxy proxy = Proxy(options.proxy);
   const WaitScope wait(waits_);
+  QTimer moment;
+  moment.setSingleShot(true);
+  if (options.onSlow) QObject::connect(&moment, &QTimer::timeout, options.onSlow);
+  moment.start(kMoment);
   for (int redirects = 0; redirects <= kMaxRedirects; ++redirects) {
     Response response = Get(url, proxy, options);
     if (response.redirect.isEmpty()) {

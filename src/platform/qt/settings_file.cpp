@@ -96,7 +96,8 @@ SettingsFile::SettingsFile(Files& files, std::string userFile, std::string machi
       userFile_(std::move(userFile)),
       machineFile_(std::move(machineFile)),
       machineWritable_(machineWritable) {
-  for (const std::string& file : {userFile_, machineFile_}) files_.RemoveLeftovers(FilePath(FolderOf(file)));
+  for (const std::string& file : {userFile_, machineFile_})
+    files_.RemoveLeftovers(FilePath(FolderOf(file)));
 }
 
 std::unique_ptr<RegistryKey> SettingsFile::OpenKey(Root root, const std::string& path,
