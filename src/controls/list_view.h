@@ -3,6 +3,7 @@
 #include <array>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 
 #include "controls/control.h"
@@ -32,6 +33,7 @@ struct ListView : Control {
   int scrolls = 0;             // how often a row was to be scrolled into view
   int loads = 0;               // how often the rows were replaced
   int changes = 0;             // how often a text was written
+  std::set<int> writtenRows;   // the rows written since this was last emptied
 
   [[nodiscard]] int Count() const { return rows ? rows->Count() : 0; }
 
@@ -51,7 +53,18 @@ struct ListView : Control {
 
   void SetSubItem(int row, int column, std::string text) {
     cells[row][static_cast<std::size_t>(column)] = std::move(text);
-    ++changes;
+    MarkWritten(row);
+  }
+
+  void SetCells(int row, Cells texts) {
+    cells[row] = std::move(texts);
+    MarkWritten(row);
+  }
+
+  // Leaves only what the source says of the row.
+  void ClearRow(int row) {
+    cells.erase(row);
+    MarkWritten(row);
   }
 
   void SetRows(std::shared_ptr<const RowSource> source) {
@@ -59,12 +72,19 @@ struct ListView : Control {
     cells.clear();
     selected = 0;
     top = 0;
+    writtenRows.clear();
     ++loads;
   }
 
   void EnsureVisible(int row) {
     top = row;
     ++scrolls;
+  }
+
+ private:
+  void MarkWritten(int row) {
+    writtenRows.insert(row);
+    ++changes;
   }
 };
 

@@ -51,10 +51,13 @@ struct frmBVX : Window {
     Combo1.enabled = false;
     Check1.enabled = false;
     Command1.enabled = false;
-    for (MenuItem* item : {&mnuDistribFavs, &mnuFavsRemove, &mnuCancelRemove, &mnuPrntSession}) {
+    for (MenuItem* item :
+         {&mnuDistribFavs, &mnuFavsRemove, &mnuCancelRemove, &mnuPrntSession, &mnuUndo, &mnuRedo}) {
       item->enabled = false;
     }
     EnableOrganizationCommands(false);
+    Unfinished.visible = false;
+    for (Button* button : {&ContinueUnfinished, &StartAfresh}) button->holder = "Unfinished";
     mnuAddFees.checked = true;
     mnuDirectCurr.checked = true;
     TMMenu.visible = false;
@@ -89,6 +92,8 @@ struct frmBVX : Window {
     mnuExit.shortcut = "Ctrl+Q";
     mnuCls.shortcut = "Ctrl+Shift+Del";
     mnuCorrect.shortcut = "F2";
+    mnuUndo.shortcut = "Ctrl+Z";
+    mnuRedo.shortcut = "Ctrl+Shift+Z; Ctrl+Y";
     mnuDistribFavs.shortcut = "Ctrl+Shift+D";
     mnuFavAddTop.shortcut = "Ctrl+D";
     mnuChgPayMethod.shortcut = "Ctrl+Shift+M";
@@ -142,6 +147,12 @@ struct frmBVX : Window {
                   "Frame7"};
   Frame Frame9{"YTD Status"};
 
+  // The session that the last run left unfinished.
+  PictureBox Unfinished;
+  Label UnfinishedText{"", {}, "Unfinished"};
+  Button ContinueUnfinished{"Continue It", "Go on with this session where it was left"};
+  Button StartAfresh{"Start Afresh", "Give this session up"};
+
   ListView ListView1;
   // Tag "1" while Continue waits for the payment method.
   Button Command1{"&Continue", "Send the donation(s)"};  // the array's only element, 1
@@ -169,6 +180,8 @@ struct frmBVX : Window {
   MenuItem TEdit{"&Edit"};
   MenuItem mnuCls{"Clear", "TEdit"};
   MenuItem mnuCorrect{"Correct", "TEdit"};
+  MenuItem mnuUndo{"Undo", "TEdit", true};
+  MenuItem mnuRedo{"Redo", "TEdit"};
 
   MenuItem TFavs{"&Favorites"};
   MenuItem mnuDistribFavs{"Distribute", "TFavs"};
@@ -233,6 +246,10 @@ void visit(frmBVX& window, F&& f) {
   f("Frame2", window.Frame2);
   f("Label10", window.Label10);
   f("Option3", window.Option3);
+  f("Unfinished", window.Unfinished);
+  f("UnfinishedText", window.UnfinishedText);
+  f("ContinueUnfinished", window.ContinueUnfinished);
+  f("StartAfresh", window.StartAfresh);
   f("ListView1", window.ListView1);
   f("Frame1", window.Frame1);
   f("Option1", window.Option1);
@@ -281,6 +298,8 @@ void visit(frmBVX& window, F&& f) {
   f("TEdit", window.TEdit);
   f("mnuCls", window.mnuCls);
   f("mnuCorrect", window.mnuCorrect);
+  f("mnuUndo", window.mnuUndo);
+  f("mnuRedo", window.mnuRedo);
   f("TFavs", window.TFavs);
   f("mnuDistribFavs", window.mnuDistribFavs);
   f("mnuFavAddTop", window.mnuFavAddTop);

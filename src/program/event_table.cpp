@@ -105,6 +105,13 @@ void Program::ConnectSessionMenus() {
   on(main_.mnuCls, [this] { editCommands_.mnuCls_Click(); });
   on(main_.mnuCorrect, [this] { editCommands_.mnuCorrect_Click(); });
 
+  on(main_.mnuUndo, [this] { journalCommands_.mnuUndo_Click(); });
+  on(main_.mnuRedo, [this] { journalCommands_.mnuRedo_Click(); });
+  events_.On(main_.ContinueUnfinished, Event::Click,
+             Plain([this] { journalCommands_.ContinueUnfinished_Click(); }));
+  events_.On(main_.StartAfresh, Event::Click,
+             Plain([this] { journalCommands_.StartAfresh_Click(); }));
+
   on(main_.mnuDistribFavs, [this] { distribution_.mnuDistribFavs_Click(); });
   on(main_.mnuFavAddTop, [this] { favorites_.Add(); });
   on(main_.mnuFavAdd, [this] { favorites_.Add(); });
@@ -141,7 +148,9 @@ void Program::ConnectOtherMenus() {
   for (const MenuItem* item : {&main_.mnuGotheirWeb, &main_.MMGoWeb}) {
     on(*item, [this] { information_.WebSite(); });
   }
-  on(main_.mnuRecallSession, [this] { lastSession_.mnuRecallSession_Click(); });
+  on(main_.mnuRecallSession, [this] {
+    journal_.NameStep("Recalled the session of " + lastSession_.mnuRecallSession_Click());
+  });
   on(main_.mnuSendCopy, [this] { desk_.Show(forms_.Get<frmTellAFriend>()); });
 
   on(main_.mnuAbout, [this] { help_.mnuAbout_Click(); });

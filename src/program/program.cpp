@@ -42,6 +42,14 @@ Program::Program(const Environment& environment)
                        [this](const std::string& page) { help_.ShowPage(page); }}),
       charges_(main_, forms_.Get<frmPayOpt>(), values_, rates_),
       preview_(main_, values_, donationEntry_),
+      journal_({main_, forms_.Get<frmPayOpt>(), values_}, desk_, database_, environment_.files,
+               environment_.clock, environment_.info.Resource("session.journal"),
+               [this](const std::string& reason) {
+                 messages_.Show(
+                     "The session cannot be kept for a restart of the program.\r\n" + reason,
+                     BoxIcon::Critical);
+               }),
+      journalCommands_(main_, journal_, messages_),
       viewer_(forms_.Get<frmInfo>(), desk_, environment_.waits),
       help_(viewer_, main_, messages_, environment_.info),
       wizard_(forms_.Get<frmWizard>(), main_, desk_, settings_, environment_.info, help_),
@@ -76,18 +84,20 @@ Program::Program(const Environment& environment)
       tellAFriend_(forms_.Get<frmTellAFriend>(), desk_, settings_, codec_, server_, messages_),
       lastSession_(main_, values_, rates_, desk_, settings_, database_, messages_, environment_,
                    [this] { NewSession(); }),
-      notice_(main_, charges_, server_, contact_, ranking_, lastSession_, environment_),
+      notice_(main_, charges_, server_, contact_, ranking_, lastSession_, journal_, environment_),
       history_(environment_, messages_, viewer_, main_),
-      finalization_(main_, values_, desk_, paymentOptions_, notice_, viewer_, history_, messages_,
-                    environment_.info.deployment),
+      finalization_(main_, values_, desk_, paymentOptions_, notice_, viewer_, history_, journal_,
+                    messages_, environment_.info.deployment),
       printing_(environment_, forms_.Get<frmWait>(), desk_, main_, finalization_) {
   forms_.ForEach([this](auto& form) { desk_.Add(form); });
   ConnectEvents();
   input_.derive = [this] {
+    journal_.AfterEvent();
     charges_.Show();
     viewer_.ShowBack();
     contact_.ShowWhatFollows();
     preview_.Show();
+    journalCommands_.Show();
     requests_.EndAction();
   };
   input_.onError = [this](const RuntimeError& error) {

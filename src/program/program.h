@@ -12,6 +12,8 @@
 #include "help/help.h"
 #include "help/information_viewer.h"
 #include "help/wizard.h"
+#include "journal/journal.h"
+#include "journal/journal_commands.h"
 #include "people/contact_information.h"
 #include "people/donor_name.h"
 #include "people/donors_ranking.h"
@@ -81,6 +83,8 @@ class Program {
   void Image2_Click(int index);  // of the splash: 0 enters, 1 leaves
   void frmBVX_Load();
   void LoadMainWindow();
+  // Of a session that the last run sent without recording it.
+  void TellUnrecorded();
   void frmBVX_Unload();
 
   void ContactSaved(ContactCaller caller);
@@ -127,6 +131,9 @@ class Program {
   PaymentOptions paymentOptions_;
   Charges charges_;
   Preview preview_;
+
+  Journal journal_;
+  JournalCommands journalCommands_;
 
   InformationViewer viewer_;
   Help help_;

@@ -32,6 +32,14 @@ void Program::Image2_Click(int index) {
   news_.LoadNews();
   if (main_.mnuWiz.checked) wizard_.Show();
   desk_.Unload(splash);
+  TellUnrecorded();
+}
+
+void Program::TellUnrecorded() {
+  const std::optional<SentNote> note = journal_.Unrecorded();
+  if (!note) return;
+  if (!history_.Holds(note->transactionId)) journalCommands_.TellUnrecorded(*note);
+  journal_.ForgetUnrecorded();
 }
 
 void Program::frmBVX_Load() {
@@ -68,6 +76,7 @@ void Program::LoadMainWindow() {
   wizard_.ReadShowAtStart();
   favorites_.LoadFavoritesMenu();
   database_.BuildCountriesMenu();
+  journal_.Open();
 }
 
 void Program::frmBVX_Unload() {
@@ -77,6 +86,7 @@ void Program::frmBVX_Unload() {
 
 void Program::Finish() {
   history_.WritePending();
+  if (history_.IsWritten()) journal_.Recorded();
 }
 
 }  // namespace benevix

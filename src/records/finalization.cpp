@@ -1,6 +1,7 @@
 #include "records/finalization.h"
 
 #include "base/runtime_error.h"
+#include "core/date_text.h"
 #include "records/transaction.h"
 #include "session/hints.h"
 
@@ -68,6 +69,7 @@ void Finalization::Commit(const SessionNotice::Outcome& sent) {
                                sent.session.transactionId, sent.session.amountText)),
       " Secure Funds Transfer");
   lastRecord_ = history_.WriteHistory(sent.session, main_.ListView1);
+  if (history_.IsWritten()) journal_.Recorded();
   lastContents_ = Contents();
   main_.mnuPrntSession.enabled = true;
   ShowHint(main_, hint::kFinalized);

@@ -15,7 +15,7 @@ namespace benevix {
 class Finalization {
  public:
   Finalization(frmBVX& main, const SessionValues& values, Desk& desk, PaymentOptions& payment,
-               SessionNotice& notice, InformationViewer& viewer, History& history,
+               SessionNotice& notice, InformationViewer& viewer, History& history, Journal& journal,
                Messages& messages, const Deployment& deployment)
       : main_(main),
         values_(values),
@@ -24,6 +24,7 @@ class Finalization {
         notice_(notice),
         viewer_(viewer),
         history_(history),
+        journal_(journal),
         messages_(messages),
         deployment_(deployment) {}
 
@@ -54,6 +55,7 @@ class Finalization {
   SessionNotice& notice_;
   InformationViewer& viewer_;
   History& history_;
+  Journal& journal_;
   Messages& messages_;
   const Deployment& deployment_;
   SessionRecord lastRecord_;

@@ -1,6 +1,7 @@
 #include "records/history.h"
 
 #include "base/runtime_error.h"
+#include "platform/line_reader.h"
 
 namespace benevix {
 
@@ -31,6 +32,19 @@ void History::TryToWrite(const std::string& ifNot) {
                        std::string(error.what()),
                    BoxIcon::Critical);
   }
+}
+
+bool History::Holds(const std::string& transactionId) const {
+  const std::string id = "Transaction ID: " + transactionId + " ";
+  try {
+    LineReader lines(environment_.files.Open(File()));
+    while (const auto line = lines.Next()) {
+      if (line->find(id) != std::string_view::npos) return true;
+    }
+  } catch (const RuntimeError&) {
+    // Nobody can say that it is there.
+  }
+  return false;
 }
 
 void History::ShowHistory() {

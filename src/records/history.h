@@ -26,6 +26,11 @@ class History {
   // Retries records that could not be written, a last time; called at the end of the program.
   void WritePending();
 
+  // Whether every record is in the file.
+  [[nodiscard]] bool IsWritten() const { return pending_.empty(); }
+  // Whether the file has a record of the transaction; false when it cannot be read.
+  [[nodiscard]] bool Holds(const std::string& transactionId) const;
+
   // Shows the file; without one the guidance line says so.
   void ShowHistory();
 

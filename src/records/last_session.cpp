@@ -7,8 +7,8 @@
 
 #include "base/lines.h"
 #include "base/runtime_error.h"
+#include "core/date_text.h"
 #include "platform/line_reader.h"
-#include "records/session_record.h"
 #include "session/fees.h"
 #include "session/modes.h"
 #include "session/totals.h"
@@ -19,19 +19,19 @@ void LastSession::Remember(const std::string& records) {
   settings_.SaveUserString("LastSession", DateText(environment_.clock.Now()) + records);
 }
 
-void LastSession::mnuRecallSession_Click() {
+std::string LastSession::mnuRecallSession_Click() {
   const std::string stored = settings_.GetUserString("LastSession");
-  if (stored.empty()) return;
+  if (stored.empty()) return {};
   if (values_.TotalDonated != Currency()) {
     const BoxAnswer answer = messages_.Show("Replace the session that is going on?",
                                             BoxIcon::Question, BoxButtons::YesNo);
-    if (answer != BoxAnswer::Yes) return;
+    if (answer != BoxAnswer::Yes) return {};
     newSession_();
   }
   const std::string value = stored + ",";
   std::string_view rest = value;
-  main_.caption =
-      environment_.info.deployment.product + " - Last Session: " + std::string(CutField(rest, ','));
+  const std::string date(CutField(rest, ','));
+  main_.caption = environment_.info.deployment.product + " - Last Session: " + date;
   std::vector<OptionsRecord> records;
   while (rest.size() >= 2) records.push_back(OptionsRecord::CutFrom(rest));
   try {
@@ -40,12 +40,13 @@ void LastSession::mnuRecallSession_Click() {
     RecalcTotalDonated(values_, main_.ListView1);
     values_.Balance = values_.Budget - values_.TotalDonated;
   } catch (const RuntimeError&) {
-    return;  // the rows already refilled stay
+    return date;  // the rows already refilled stay
   }
   method73(values_, main_, desk_);
   MarkBudgetAccepted(main_);
   SetFeeMode(main_, FeeMode::Add);
   EnableFeeMode(main_, false);
+  return date;
 }
 
 Currency LastSession::RefillRows(const std::vector<OptionsRecord>& records) {

@@ -40,7 +40,8 @@ class LastSession {
 
   // Puts its donations back into the list, each with the service fee of its delivery, and scrolls
   // to the first. Asks before it replaces a session in which something has been given.
-  void mnuRecallSession_Click();
+  // Returns the date of the session that was recalled; empty if none was.
+  std::string mnuRecallSession_Click();
 
  private:
   // Returns the recalled total. Raises RuntimeError when the list file cannot be read, or for an

@@ -5,6 +5,7 @@
 
 #include "base/lines.h"
 #include "base/runtime_error.h"
+#include "core/date_text.h"
 #include "records/history.h"
 #include "records/session_record.h"
 

@@ -1,7 +1,6 @@
 #include "records/session_notice.h"
 
 #include "records/transaction.h"
-#include "server/mail_notice.h"
 
 namespace benevix {
 
@@ -22,12 +21,7 @@ SessionNotice::Outcome SessionNotice::Send() {
   session.charged = outcome.due.charged;
   session.amountText = outcome.due.amountText;
 
-  const std::string& id = session.transactionId;
-  const MailOutcome mail =
-      SendMailNotice(server_, {.sender = environment_.info.deployment.mail,
-                               .recipient = std::nullopt,
-                               .subject = id,
-                               .body = id + "/" + contact + records + ranking});
+  const MailOutcome mail = SendMail(session.transactionId, contact + records + ranking);
   if (mail.result == MailResult::NoScript) {
     outcome.result = Result::NoMailScript;
   } else if (mail.result == MailResult::NotSent) {
@@ -37,6 +31,22 @@ SessionNotice::Outcome SessionNotice::Send() {
     outcome.result = hasEmptyField ? Result::EmptyField : Result::Sent;
   }
   return outcome;
+}
+
+// The journal knows of the notice before the server does: when the program ends in between, the
+// next start tells of it.
+MailOutcome SessionNotice::SendMail(const std::string& id, const std::string& session) {
+  journal_.Sending(id);
+  MailOutcome mail = SendMailNotice(server_, {.sender = environment_.info.deployment.mail,
+                                              .recipient = std::nullopt,
+                                              .subject = id,
+                                              .body = id + "/" + session});
+  if (mail.result == MailResult::Sent) {
+    journal_.Sent();
+  } else {
+    journal_.NotSent();
+  }
+  return mail;
 }
 
 }  // namespace benevix

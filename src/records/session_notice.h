@@ -1,10 +1,12 @@
 #pragma once
 
+#include "journal/journal.h"
 #include "people/contact_information.h"
 #include "people/donors_ranking.h"
 #include "platform/environment.h"
 #include "records/last_session.h"
 #include "records/session_record.h"
+#include "server/mail_notice.h"
 #include "server/server_files.h"
 #include "session/charges.h"
 
@@ -15,13 +17,14 @@ class SessionNotice {
  public:
   SessionNotice(const frmBVX& main, const Charges& charges, ServerFiles& server,
                 const ContactInformation& contact, DonorsRanking& ranking, LastSession& lastSession,
-                Environment& environment)
+                Journal& journal, Environment& environment)
       : main_(main),
         charges_(charges),
         server_(server),
         contact_(contact),
         ranking_(ranking),
         lastSession_(lastSession),
+        journal_(journal),
         environment_(environment) {}
 
   enum class Result {
@@ -42,12 +45,15 @@ class SessionNotice {
   Outcome Send();
 
  private:
+  MailOutcome SendMail(const std::string& id, const std::string& session);
+
   const frmBVX& main_;
   const Charges& charges_;
   ServerFiles& server_;
   const ContactInformation& contact_;
   DonorsRanking& ranking_;
   LastSession& lastSession_;
+  Journal& journal_;
   Environment& environment_;
 };
 

@@ -1,8 +1,7 @@
 #include "records/session_record.h"
 
-#include <cstdio>
-
 #include "base/format.h"
+#include "core/date_text.h"
 #include "database/organization_list.h"
 #include "session/options_record.h"
 
@@ -43,18 +42,6 @@ std::string PaymentLine(const SessionRecord& record) {
   const Currency cardFee = Currency::FromText(record.amountText) - record.charged;
   return kIndent + "Payment: $" + record.amountText + " - BVX Fee: $ " +
          Format(serviceFee, kFeePattern) + " - CC Fee: $" + Format(cardFee, kFeePattern);
-}
-
-std::string DateText(const DateTime& time) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%02d-%02d-%04d", time.month, time.day, time.year);
-  return text;
-}
-
-std::string TimeText(const DateTime& time) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%02d:%02d", time.hour, time.minute);
-  return text;
 }
 
 }  // namespace benevix

@@ -26,8 +26,4 @@ std::vector<std::string> OrganizationLines(const ListView& list);
 // Raises RuntimeError if the amount is beyond a currency.
 std::string PaymentLine(const SessionRecord& record);
 
-// Month-day-year, "03-05-2003", and hours and minutes, "12:34".
-std::string DateText(const DateTime& time);
-std::string TimeText(const DateTime& time);
-
 }  // namespace benevix

@@ -310,8 +310,7 @@ void DonationEntry::MoveMoney(const Row& row) {
     list.SetSubItem(row.number, column::kCardFee, values_.CardFee.ToText());
   }
   if (!donates) {
-    list.cells.erase(row.number);
-    ++list.changes;
+    list.ClearRow(row.number);
   }
   values_.Balance = balance;
   // Intended, in both fee modes: a donation that would overdraw the Balance is reduced by one

@@ -91,7 +91,7 @@ void MenuBinding::AddItem(const NamedControl& control, bool holds) {
                      [this, &item] { context_.input.ChooseMenu(item); });
   }
   action->setObjectName(QString::fromStdString(control.name));
-  action->setShortcut(QKeySequence(QLatin1String(item.shortcut)));
+  action->setShortcuts(QKeySequence::listFromString(QLatin1String(item.shortcut)));
   action->setAutoRepeat(false);
   items_.push_back({&item, action, menu, item.popUps});
 }

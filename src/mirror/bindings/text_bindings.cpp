@@ -13,6 +13,7 @@
 #include "base/text.h"
 #include "mirror/bindings/make_binding.h"
 #include "mirror/bindings/typed_text.h"
+#include "mirror/bindings/undo_keys.h"
 #include "mirror/bindings/widget_binding.h"
 #include "mirror/look/texts.h"
 
@@ -22,6 +23,7 @@ namespace {
 // Lets what the user types into the edit of a box through the box's key filter.
 template <class Box>
 void FilterTyping(Box& box, QLineEdit& edit, BindingContext& context) {
+  ShareUndoKeys(edit);
   edit.setValidator(
       std::make_unique<TypedText>(
           edit,
