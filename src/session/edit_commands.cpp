@@ -18,8 +18,10 @@ void EditCommands::mnuCls_Click() {
 void EditCommands::mnuCorrect_Click() {
   if (!SelectedRowHasDonation()) return;
   const ListView& list = main_.ListView1;
+  // A box that was disabled for another row says nothing about this one.
+  const bool ticked = main_.Check1.enabled && main_.Check1.value != 0;
   donation_.GiveUntyped(Currency::FromText(list.SelectedText(column::kAmount)),
-                        AsksForProof(list.SelectedText(column::kRecord)));
+                        ticked || AsksForProof(list.SelectedText(column::kRecord)));
 }
 
 }  // namespace benevix

@@ -12,7 +12,7 @@ class EditCommands {
 
   // Withdraws the row's donation and empties the Donation box.
   void mnuCls_Click();
-  // Donates the row's amount again, with the current options and its own proof of mailing.
+  // Donates the row's amount again, with the current options; proof of mailing can only be added.
   void mnuCorrect_Click();
 
  private:
