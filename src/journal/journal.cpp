@@ -84,6 +84,7 @@ void Journal::Open() {
 }
 
 void Journal::AfterEvent() {
+  if (desk_.Ended()) return;  // the windows are back to their design
   const SessionFields fields = ReadFields(places_);
   auto rows = TakeChangedRows();
   std::string name = std::exchange(name_, {});
@@ -145,12 +146,15 @@ std::map<int, int> Journal::PlacesInList(const RowStates& known) const {
   if (ids.empty()) return places;
   const auto byId = database_.FindRowsById(ids);
   const auto byName = database_.FindRowsByName(names);
+  std::set<int> taken;  // no two rows become one
+  for (const auto& [row, place] : places) taken.insert(place);
   for (const auto& [row, state] : known) {
     if (places.count(row) != 0) continue;
-    if (const auto found = byId.find(state.id); found != byId.end()) {
+    for (const auto& [rows, key] : {std::pair(&byId, &state.id), std::pair(&byName, &state.name)}) {
+      const auto found = rows->find(*key);
+      if (found == rows->end() || !taken.insert(found->second).second) continue;
       places[row] = found->second;
-    } else if (const auto named = byName.find(state.name); named != byName.end()) {
-      places[row] = named->second;
+      break;
     }
   }
   return places;
