@@ -86,7 +86,7 @@ void Journal::Open() {
 void Journal::AfterEvent() {
   if (desk_.Ended()) return;  // the windows are back to their design
   const SessionFields fields = ReadFields(places_);
-  auto rows = TakeChangedRows();
+  const auto rows = TakeChangedRows();
   std::string name = std::exchange(name_, {});
   const SessionFields& before = timeline_.Fields();
   if (rows.empty() && !Differ(FieldKind::Money, before, fields)) {
@@ -96,7 +96,7 @@ void Journal::AfterEvent() {
     return;
   }
   const std::string amended = fileFollows_ ? AmendLine(standing_, before) : std::string();
-  timeline_.Note(Now(), std::move(name), fields, std::move(rows));
+  timeline_.Note(Now(), std::move(name), fields, rows);
   unfinished_.reset();
   Write(amended + StepLine(*timeline_.ToUndo()));
 }

@@ -136,11 +136,25 @@ RowStates Present(const std::map<int, std::optional<RowState>>& rows) {
   return present;
 }
 
-// Carries a line out; false where it does not fit what came before it.
-bool Apply(std::string_view line, const SessionFields& defaults, JournalContents& contents) {
+void ApplyToSession(const std::string& kind, Words& words, Timeline& session) {
+  if (kind == "step") {
+    std::string time = words.Next();
+    std::string name = words.Next();
+    const Changes changes = ReadChanges(words, session.Fields());
+    session.Note(std::move(time), std::move(name), changes.fields, changes.rows);
+  } else if (kind == "amend") {
+    session.Amend(ReadChanges(words, session.Fields()).fields);
+  } else if (kind == "undo" && session.ToUndo() != nullptr) {
+    session.Undo();
+  } else if (kind == "redo" && session.ToRedo() != nullptr) {
+    session.Redo();
+  }
+}
+
+// Carries a line out, if it fits what came before it.
+void Apply(std::string_view line, const SessionFields& defaults, JournalContents& contents) {
   Words words(line);
   const std::string kind = words.Next();
-  std::optional<Timeline>& session = contents.session;
   if (kind == "sending" || kind == "sent") {
     const std::string time = words.Next();
     contents.sent = {time, words.Next(), kind == "sent"};
@@ -149,24 +163,10 @@ bool Apply(std::string_view line, const SessionFields& defaults, JournalContents
   } else if (kind == "base") {
     std::string time = words.Next();
     Changes changes = ReadChanges(words, defaults);
-    session.emplace(std::move(time), std::move(changes.fields), Present(changes.rows));
-  } else if (!session) {
-    return false;
-  } else if (kind == "step") {
-    std::string time = words.Next();
-    std::string name = words.Next();
-    Changes changes = ReadChanges(words, session->Fields());
-    session->Note(std::move(time), std::move(name), changes.fields, std::move(changes.rows));
-  } else if (kind == "amend") {
-    session->Amend(ReadChanges(words, session->Fields()).fields);
-  } else if (kind == "undo" && session->ToUndo() != nullptr) {
-    session->Undo();
-  } else if (kind == "redo" && session->ToRedo() != nullptr) {
-    session->Redo();
-  } else {
-    return false;
+    contents.session.emplace(std::move(time), std::move(changes.fields), Present(changes.rows));
+  } else if (contents.session) {
+    ApplyToSession(kind, words, *contents.session);
   }
-  return true;
 }
 
 }  // namespace
@@ -241,7 +241,8 @@ JournalContents ReadJournalText(std::string_view text, const SessionFields& defa
     std::string_view line = text.substr(0, end);
     text.remove_prefix(end + 1);
     const std::string_view checksum = CutField(line, '\t');
-    if (checksum != Checksum(line) || !Apply(line, defaults, contents)) break;
+    if (checksum != Checksum(line)) break;
+    Apply(line, defaults, contents);
   }
   return contents;
 }

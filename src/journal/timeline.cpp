@@ -28,16 +28,16 @@ void Add(std::vector<FieldChange>& changes, FieldChange change) {
 }  // namespace
 
 void Timeline::Note(std::string time, std::string name, const SessionFields& fields,
-                    std::map<int, std::optional<RowState>> rows) {
+                    const std::map<int, std::optional<RowState>>& rows) {
   steps_.resize(done_);
   Step& step = steps_.emplace_back();
   step.time = std::move(time);
   step.fields = Difference(fields_, fields);
-  for (auto& [row, after] : rows) {
+  for (const auto& [row, after] : rows) {
     const auto known = rows_.find(row);
     const auto before = known == rows_.end() ? std::nullopt : std::optional(known->second);
     SetRow(row, after);
-    step.rows.push_back({row, before, std::move(after)});
+    step.rows.push_back({row, before, after});
   }
   step.name = name.empty() ? StepName(step.fields, step.rows) : std::move(name);
   fields_ = fields;

@@ -60,7 +60,7 @@ class Timeline {
   // A step led to `fields`, and the rows given here to their new states. What was undone is
   // dropped. Without a name the step is called by what it changed.
   void Note(std::string time, std::string name, const SessionFields& fields,
-            std::map<int, std::optional<RowState>> rows);
+            const std::map<int, std::optional<RowState>>& rows);
   // Something that is no step led to `fields`.
   void Amend(const SessionFields& fields);
 
