@@ -59,6 +59,8 @@ DonationEntry::Unit DonationEntry::TypedUnit() const {
 void DonationEntry::Enter() {
   TextBox& box = main_.Text1[money_box::kDonation];
   if (!box.typed) return;
+  // Otherwise the Budget that is only typed would be overwritten.
+  if (!HasBudget(values_, main_)) return desk_.SetFocus(main_.Text1[money_box::kBudget]);
   const TypedAmount typed = ReadAmount(box.text);
   if (!typed.number) {
     box.note = typed.note;
