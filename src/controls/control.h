@@ -16,7 +16,8 @@ struct Control {
   std::string toolTip;
   std::string tag;  // what the program keeps with the control, never shown
   // Why the user's last key or entry was not taken as he meant it. It goes when he changes the
-  // text, when the program writes it, and when the focus of the window moves.
+  // text (what a refused character has said: when he empties the box), when the program writes it,
+  // and when the focus of the window moves, unless the key that moves it brings the note.
   std::string note;
   // The note when a character is refused: what the box takes.
   const char* takes = "Western European letters and signs only";

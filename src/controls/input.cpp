@@ -16,6 +16,11 @@ bool BreaksLines(const NamedControl& control) {
   return box != nullptr && box->multiLine;
 }
 
+// What a refused character has said stays while the user goes on: "12,50" must not pass as 1250.
+void DropNote(Control& box, const std::string& text) {
+  if (box.note != box.takes || text.empty()) box.note.clear();
+}
+
 }  // namespace
 
 void Input::Enter(const std::function<void()>& what) {
@@ -163,7 +168,7 @@ bool Input::Type(TextBox& box, std::string text) {
   return Do(box, [&](Desk::Entry&) {
     box.text = std::move(text);
     box.typed = true;
-    box.note.clear();
+    DropNote(box, box.text);
     Fire(box, Event::Change);
   });
 }
@@ -171,7 +176,7 @@ bool Input::Type(TextBox& box, std::string text) {
 bool Input::Type(ComboBox& combo, std::string text) {
   return Do(combo, [&](Desk::Entry&) {
     combo.text = std::move(text);
-    combo.note.clear();
+    DropNote(combo, combo.text);
     Fire(combo, Event::Change);
   });
 }
@@ -212,9 +217,12 @@ bool Input::AnswerKey(const Desk::Entry& entry, int key) {
 
 bool Input::Tab(Control& control, bool forward) {
   return Do(control, [&](Desk::Entry& entry) {
+    control.note.clear();
     if (forward) Fire(control, Event::KeyUp, {.key = keys::kTab});
+    const std::string refusal = control.note;
     const bool stayed = entry.focus == nullptr || entry.focus == &control;
     if (stayed && desk_.IsUsable(*entry.window)) desk_.MoveFocus(entry, forward);
+    control.note = refusal;  // moving on takes notes away, but this one tells of the entry
   });
 }
 

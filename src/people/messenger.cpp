@@ -61,7 +61,7 @@ void Messenger::Send() {
   const std::string recipient = window_.Command1[kSend].tag;
   if (recipient.empty()) {
     messages_.ShowMessage(message::kServiceUnavailable, message_kind::kFailedToConnect);
-    return;
+    return KeepDraft(true);
   }
   if (window_.Text1[kMessage].text.find_first_not_of(" \t\r\n") == std::string::npos) {
     ShowNote("Please write a message first");

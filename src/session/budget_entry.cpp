@@ -21,7 +21,7 @@ std::string WholeDollarsNote(const std::string& text) {
 
 void BudgetEntry::Text1_Change() {
   TextBox& box = main_.Text1[money_box::kBudget];
-  box.note = WholeDollarsNote(box.text);
+  if (const std::string note = WholeDollarsNote(box.text); !note.empty()) box.note = note;
 }
 
 void BudgetEntry::Enter() {
@@ -48,7 +48,10 @@ void BudgetEntry::Enter() {
   }
 
   if (ConfirmLargeBudget()) {
-    if (values_.TotalDonated == Currency()) choosePayment_();
+    if (values_.TotalDonated == Currency()) {
+      choosePayment_();
+      values_.SessionFeeTaken = false;  // the whole Budget is left again
+    }
     values_.BudgetEntered = values_.Budget;
     values_.Balance = balance;
     main_.Label8.caption = values_.Balance.ToText();

@@ -59,12 +59,19 @@ DonationEntry::Unit DonationEntry::TypedUnit() const {
 void DonationEntry::Enter() {
   TextBox& box = main_.Text1[money_box::kDonation];
   if (!box.typed) return;
+  // Otherwise the Budget that is only typed would be overwritten.
+  if (!HasBudget(values_, main_)) return desk_.SetFocus(main_.Text1[money_box::kBudget]);
   const TypedAmount typed = ReadAmount(box.text);
-  if (typed.number) {
-    Give(Currency::FromDouble(*typed.number), TypedUnit());
-  } else {
+  if (!typed.number) {
     box.note = typed.note;
+    return;
   }
+  const Currency amount = Currency::FromDouble(*typed.number);
+  if (amount == Currency() && *typed.number > 0) {
+    box.note = kTooSmallNote;  // only a typed zero withdraws a donation
+    return;
+  }
+  Give(amount, TypedUnit());
 }
 
 std::optional<Estimate> DonationEntry::EstimateTyped() const {

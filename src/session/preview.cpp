@@ -30,7 +30,10 @@ void Preview::ShowEstimate() {
 std::string Preview::WhatContinueWaitsFor() const {
   if (main_.Command1.enabled) return {};
   if (values_.Budget == Currency()) return "Opens after a Budget and a donation";
-  return "Opens when " + Format(donation_.ServiceFee(), kSumPattern) + " or less is left";
+  const Currency fee = donation_.ServiceFee();
+  // So little is left already; only an entry opens it.
+  if (values_.Balance <= fee) return "Opens with the next donation";
+  return "Opens when " + Format(fee, kSumPattern) + " or less is left";
 }
 
 }  // namespace benevix
