@@ -15,8 +15,8 @@ struct Control {
   bool visible = true;
   std::string toolTip;
   std::string tag;  // what the program keeps with the control, never shown
-  // Why the user's last key or entry was not taken as he meant it. It goes when he changes the
-  // text, when the program writes it, and when the focus of the window moves.
+  // Why the user's last key or entry was not taken as he meant it. It goes with the focus, when the
+  // program writes the text, and when the user changes it (but for a refused key, if he types on).
   std::string note;
   // The note when a character is refused: what the box takes.
   const char* takes = "Western European letters and signs only";

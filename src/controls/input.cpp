@@ -16,6 +16,12 @@ bool BreaksLines(const NamedControl& control) {
   return box != nullptr && box->multiLine;
 }
 
+// Whether a character was refused and the user types on: the note stays, since who looks at the
+// keys has not read it yet.
+bool GoesOn(const Control& box, const std::string& before, const std::string& text) {
+  return box.note == box.takes && text.size() > before.size();
+}
+
 }  // namespace
 
 void Input::Enter(const std::function<void()>& what) {
@@ -161,17 +167,17 @@ bool Input::Refuse(Control& box) {
 
 bool Input::Type(TextBox& box, std::string text) {
   return Do(box, [&](Desk::Entry&) {
+    if (box.multiLine || !GoesOn(box, box.text, text)) box.note.clear();
     box.text = std::move(text);
     box.typed = true;
-    box.note.clear();
     Fire(box, Event::Change);
   });
 }
 
 bool Input::Type(ComboBox& combo, std::string text) {
   return Do(combo, [&](Desk::Entry&) {
+    if (!GoesOn(combo, combo.text, text)) combo.note.clear();
     combo.text = std::move(text);
-    combo.note.clear();
     Fire(combo, Event::Change);
   });
 }

@@ -21,7 +21,8 @@ std::string WholeDollarsNote(const std::string& text) {
 
 void BudgetEntry::Text1_Change() {
   TextBox& box = main_.Text1[money_box::kBudget];
-  box.note = WholeDollarsNote(box.text);
+  const std::string note = WholeDollarsNote(box.text);
+  if (!note.empty()) box.note = note;
 }
 
 void BudgetEntry::Enter() {
