@@ -45,7 +45,7 @@ class BoxAnswers {
  public:
   // Records the box and gives the button that answers it: the next queued answer, No without one.
   BoxAnswer Take(ShownBox box) {
-    const bool asks = box.buttons == BoxButtons::YesNo;
+    const bool asks = box.buttons != BoxButtons::OK;
     shown.Add(std::move(box));
     if (!asks) return BoxAnswer::OK;
     if (queue_.empty()) return BoxAnswer::No;

@@ -5,7 +5,9 @@
 namespace benevix {
 
 enum class BoxIcon { None, Information, Question, Critical };
-enum class BoxButtons { OK, YesNo };
+// The box begins on its first button, which Enter presses; that of NoByDefault, Yes and No too, on
+// No: a key pressed once too often must not pay or replace anything.
+enum class BoxButtons { OK, YesNo, NoByDefault };
 enum class BoxAnswer { OK, Yes, No };
 
 // Modal message boxes: Show returns when the user has answered.

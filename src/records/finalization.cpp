@@ -16,7 +16,7 @@ void Finalization::Command1_Click() {
 
 bool Finalization::MayContinue() {
   const auto ask = [&](const std::string& question) {
-    return messages_.Show(question, BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
+    return messages_.Show(question, BoxIcon::Question, BoxButtons::NoByDefault) == BoxAnswer::Yes;
   };
   if (OrganizationRecords(main_.ListView1).empty() &&
       !ask("No donation has been entered. Continue anyway?")) {

@@ -24,7 +24,7 @@ std::string LastSession::mnuRecallSession_Click() {
   if (stored.empty()) return {};
   if (values_.TotalDonated != Currency()) {
     const BoxAnswer answer = messages_.Show("Replace the session that is going on?",
-                                            BoxIcon::Question, BoxButtons::YesNo);
+                                            BoxIcon::Question, BoxButtons::NoByDefault);
     if (answer != BoxAnswer::Yes) return {};
     newSession_();
   }

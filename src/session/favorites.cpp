@@ -51,6 +51,7 @@ std::vector<Favorite> Repaired(const SettingsTexts& stored) {
     if (NumberOf(name) > 0 && favorite) readable[NumberOf(name)] = *favorite;
   }
   std::vector<Favorite> favorites;
+  favorites.reserve(readable.size());
   for (const auto& [number, favorite] : readable) favorites.push_back(favorite);
   return favorites;
 }

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTableView>
@@ -22,6 +23,7 @@
 #include "mirror/look/note_bubble.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
+#include "mirror/mirror/qt_message_boxes.h"
 #include "mirror/mirror/window_place.h"
 
 namespace benevix {
@@ -85,6 +87,7 @@ TEST_F(MirrorTest, PastedTextPassesTheKeyFilterCharacterByCharacter) {
   EXPECT_EQ(main.Text1[2].note, main.Text1[2].takes);
   const auto& bubble =
       *edit.window()->findChild<NoteBubble*>(QString(), Qt::FindDirectChildrenOnly);
+  EXPECT_LT(bubble.height(), 2 * bubble.fontMetrics().height());  // a short note is one line
   EXPECT_TRUE(bubble.isVisible() && edit.window()->rect().contains(bubble.geometry()));
   EXPECT_EQ(QAccessible::queryAccessibleInterface(&edit)->text(QAccessible::Description),
             QLatin1String(main.Text1[2].takes));
@@ -98,6 +101,13 @@ TEST_F(MirrorTest, PastedTextPassesTheKeyFilterCharacterByCharacter) {
   EXPECT_EQ(edit.selectedText(), QStringLiteral("1923.4"));
   edit.insert(QStringLiteral("1\u0416"));  // repeats what it replaces
   EXPECT_EQ(main.Text1[2].text, "1");
+}
+
+TEST_F(MirrorTest, EnterAnswersNoWhereYesWouldPayAgain) {
+  QtMessageBoxes boxes(mirror);
+  boxes.onShown = [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); };
+  EXPECT_EQ(boxes.Show("", "", BoxIcon::Question, BoxButtons::YesNo), BoxAnswer::Yes);
+  EXPECT_EQ(boxes.Show("", "", BoxIcon::Question, BoxButtons::NoByDefault), BoxAnswer::No);
 }
 
 TEST_F(MirrorTest, WhatTheProgramWritesPassesWholeAndIsReplacedByTyping) {
@@ -234,14 +244,18 @@ TEST_F(MirrorTest, TheYearToDateWindowStandsBesideItsFrameAndLeavesTheKeys) {
   EXPECT_EQ(Beside(size, {880, 300, 100, 30}, screen), QRect(QPoint(800, 338), size));
   EXPECT_EQ(Beside(size, {880, 580, 100, 30}, screen), QRect(QPoint(672, 510), size));
   EXPECT_EQ(Inside({-5, -5, 2000, 30}, screen).topLeft(), screen.topLeft());
+  // What opens then belongs to the main window, in whose middle it comes up.
+  input.Enter([this] { desk.Show(payment); });
+  EXPECT_EQ(mirror.BindingOf(payment)->Widget().windowHandle()->transientParent(),
+            mirror.BindingOf(main)->Widget().windowHandle());
 }
 
 TEST_F(MirrorTest, AmountsAreDrawnWholeAndAnAcceptedBudgetLarger) {
   auto& budget = Widget<QLineEdit>(main.Text1[0]);
   const double before = budget.font().pointSizeF();
+  const int height = budget.height();
   input.Enter([this] { main.Text1[0].fontSize = 9; });
   EXPECT_DOUBLE_EQ(budget.font().pointSizeF(), before * 9 / 8);
-  const int height = budget.height();
   input.Enter([this] {
     main.Text1[0].fontBold = true;
     main.Text1[0].Write("123,456,789.00");

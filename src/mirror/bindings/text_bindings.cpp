@@ -53,9 +53,8 @@ class TextBoxBinding : public WidgetBinding<TextBox, QLineEdit> {
   TextBoxBinding(TextBox& box, QLineEdit& edit, BindingContext& context)
       : WidgetBinding(box, edit, context),
         colors_(edit, context.scheme),
+        designPoints_(DesignPoints()),
         selections_(box.selections) {
-    edit.ensurePolished();
-    designPoints_ = edit.font().pointSizeF() * (IsMoney() ? kMoneyScale : 1);
     FilterTyping(box, edit, context);
   }
 
@@ -74,6 +73,11 @@ class TextBoxBinding : public WidgetBinding<TextBox, QLineEdit> {
   }
 
   [[nodiscard]] bool IsMoney() const { return widget_.property("look") == QLatin1String("money"); }
+
+  [[nodiscard]] double DesignPoints() const {
+    widget_.ensurePolished();
+    return widget_.font().pointSizeF() * (IsMoney() ? kMoneyScale : 1);
+  }
 
   // In a box for amounts a text that is too long for it is drawn smaller, so that none of its
   // digits is hidden.
@@ -100,7 +104,7 @@ class TextBoxBinding : public WidgetBinding<TextBox, QLineEdit> {
   }
 
   ControlColors colors_;
-  double designPoints_ = 0;
+  double designPoints_;
   int selections_;
 };
 

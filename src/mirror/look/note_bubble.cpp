@@ -27,6 +27,7 @@ NoteBubble::NoteBubble(QWidget& window) : QLabel(&window) {
   setProperty("look", "bubble");
   setTextFormat(Qt::PlainText);
   setWordWrap(true);
+  setIndent(0);  // the frame is all the room around the text, as Place counts it
   setAttribute(Qt::WA_TransparentForMouseEvents);
   hide();
 }

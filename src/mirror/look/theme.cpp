@@ -132,7 +132,8 @@ QString SheetOf(Scheme scheme, QFont font) {
   font.setPointSizeF(points * kMoneyScale);
   set("amount", width("10,000.00"));
   font.setPointSizeF(font.pointSizeF() * 9 / TextBox().fontSize);  // an accepted Budget
-  set("money", QString::number(QFontMetrics(font).height()));
+  constexpr int margin = 2;  // pixels of an edit's own, above and below its line
+  set("money", QString::number(QFontMetrics(font).height() + margin));
   return sheet;
 }
 

@@ -122,10 +122,11 @@ void Mirror::ApplyFocus() {
 }
 
 QWidget* Mirror::TransientParent(const Window& window) const {
-  // The nearest one below it that is on the screen.
+  // The nearest one below it that is on the screen and does not stand aside itself.
   QWidget* parent = nullptr;
   for (const Window* shown : desk_->Shown()) {
     if (shown == &window) break;
+    if (!std::string_view(shown->beside).empty()) continue;
     WindowBinding* const binding = BindingOf(*shown);
     if (binding != nullptr && !binding->Widget().isHidden()) parent = &binding->Widget();
   }

@@ -27,7 +27,7 @@ QMessageBox::Icon Icon(BoxIcon icon) {
 
 BoxAnswer QtMessageBoxes::Show(const std::string& title, const std::string& text, BoxIcon icon,
                                BoxButtons buttons) {
-  const bool asks = buttons == BoxButtons::YesNo;
+  const bool asks = buttons != BoxButtons::OK;
   // This updates the windows: one that closes now must not close the box with it.
   const WaitScope wait(waits_);
   QWidget* const active = QApplication::activeWindow();
@@ -36,6 +36,7 @@ BoxAnswer QtMessageBoxes::Show(const std::string& title, const std::string& text
                   active != nullptr && active->isVisible() ? active : nullptr);
   box.setTextFormat(Qt::PlainText);
   if (asks) box.setEscapeButton(QMessageBox::No);
+  if (buttons == BoxButtons::NoByDefault) box.setDefaultButton(QMessageBox::No);
   if (onShown) QTimer::singleShot(0, &box, [&] { onShown(box); });
   const int answer = box.exec();
   if (!asks) return BoxAnswer::OK;
