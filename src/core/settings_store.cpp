@@ -21,10 +21,10 @@ void SettingsStore::CreateKey(Root root, const std::string& path) {
   registry_.CreateKey(root, path);
 }
 
-void SettingsStore::SetValue(Root root, const std::string& path, const std::string& name,
+bool SettingsStore::SetValue(Root root, const std::string& path, const std::string& name,
                              std::uint32_t type, const std::string& value) {
   const auto key = registry_.OpenKey(root, path, Access::SetValue);
-  if (key) SetValueOnHandle(*key, name, type, value);
+  return key && SetValueOnHandle(*key, name, type, value) == 0;
 }
 
 ResultCode SettingsStore::SetValueOnHandle(RegistryKey& key, const std::string& name,
@@ -37,10 +37,10 @@ ResultCode SettingsStore::SetValueOnHandle(RegistryKey& key, const std::string& 
   return key.Write(name, type, bytes);
 }
 
-void SettingsStore::SaveString(Root root, const std::string& path, const std::string& name,
+bool SettingsStore::SaveString(Root root, const std::string& path, const std::string& name,
                                const std::string& value) {
   if (!registry_.OpenKey(root, path, Access::Full)) CreateKey(root, path);
-  SetValue(root, path, name, value_type::kText, value);
+  return SetValue(root, path, name, value_type::kText, value);
 }
 
 std::string SettingsStore::GetString(Root root, const std::string& path, const std::string& name) {

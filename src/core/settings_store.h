@@ -13,26 +13,29 @@ namespace benevix {
 inline const std::string kSettingsPath = "Software\\Quorl\\Benevix";
 inline const std::string kFavoritesPath = kSettingsPath + "\\Favorites";
 
+// At a box of a window that stays open because nothing could be written.
+inline constexpr const char* kNotSavedNote = "Not saved: the settings cannot be written";
+
 using SettingsTexts = std::map<std::string, std::string>;
 
-// The program's settings: texts under a registry key. Failures are silent: what cannot be read is
-// empty, what cannot be written is skipped. Nothing is cached.
+// The program's settings: texts under a registry key. What cannot be read is empty, what cannot be
+// written is skipped. Nothing is cached.
 class SettingsStore {
  public:
   explicit SettingsStore(Registry& registry) : registry_(registry) {}
 
   void CreateKey(Root root, const std::string& path);
 
-  // Writes with SetValueOnHandle if the key exists.
-  void SetValue(Root root, const std::string& path, const std::string& name, std::uint32_t type,
+  // Writes with SetValueOnHandle if the key exists. False when nothing could be written.
+  bool SetValue(Root root, const std::string& path, const std::string& name, std::uint32_t type,
                 const std::string& value);
   // Writes a text with its terminating NUL or a 32-bit number (RuntimeError beyond 32 bits); any
   // other type writes nothing and returns 0.
   static ResultCode SetValueOnHandle(RegistryKey& key, const std::string& name, std::uint32_t type,
                                      const std::string& value);
 
-  // Creates the key first if it does not exist.
-  void SaveString(Root root, const std::string& path, const std::string& name,
+  // Creates the key first if it does not exist. False when nothing could be written.
+  bool SaveString(Root root, const std::string& path, const std::string& name,
                   const std::string& value);
   std::string GetString(Root root, const std::string& path, const std::string& name);
   // Reads a text, or a 32-bit number as text. Returns 0, or another code and leaves `value`.
@@ -52,8 +55,8 @@ class SettingsStore {
                      const std::function<void(SettingsTexts&)>& change);
 
   // In the program's own key of the user's branch.
-  void SaveUserString(const std::string& name, const std::string& value) {
-    SaveString(Root::CurrentUser, kSettingsPath, name, value);
+  bool SaveUserString(const std::string& name, const std::string& value) {
+    return SaveString(Root::CurrentUser, kSettingsPath, name, value);
   }
   std::string GetUserString(const std::string& name) {
     return GetString(Root::CurrentUser, kSettingsPath, name);

@@ -95,7 +95,7 @@ void Journal::AfterEvent() {
     if (chosen && fileFollows_) Write(AmendLine(standing_, fields));
     return;
   }
-  const std::string amended = fileFollows_ ? AmendLine(standing_, before) : std::string();
+  const std::string amended = Amended(before);
   timeline_.Note(Now(), std::move(name), fields, rows);
   unfinished_.reset();
   Write(amended + StepLine(*timeline_.ToUndo()));
@@ -162,7 +162,7 @@ std::map<int, int> Journal::PlacesInList(const RowStates& known) const {
 
 void Journal::Undo() {
   if (ToUndo() == nullptr) return;
-  const std::string amended = AmendLine(standing_, timeline_.Fields());
+  const std::string amended = Amended(timeline_.Fields());
   timeline_.Undo();
   Show(ChangedRows(*ToRedo()));
   Write(amended + UndoLine());
@@ -170,7 +170,7 @@ void Journal::Undo() {
 
 void Journal::Redo() {
   if (ToRedo() == nullptr) return;
-  const std::string amended = AmendLine(standing_, timeline_.Fields());
+  const std::string amended = Amended(timeline_.Fields());
   timeline_.Redo();
   Show(ChangedRows(*ToUndo()));
   Write(amended + RedoLine());
@@ -289,6 +289,10 @@ void Journal::ForgetUnrecorded() {
   } catch (const RuntimeError&) {
     // Told once more at the next start.
   }
+}
+
+std::string Journal::Amended(const SessionFields& fields) const {
+  return fileFollows_ ? AmendLine(standing_, fields) : std::string();
 }
 
 void Journal::Write(const std::string& lines) {

@@ -78,6 +78,9 @@ class Journal {
   void Show(const std::set<int>& rows);
   void ReturnMoney(const RowStates& missing);
 
+  // What the file must be told first of what changed without a step. Where it does not tell what
+  // came before, it is written anew, and there is nothing to add.
+  [[nodiscard]] std::string Amended(const SessionFields& fields) const;
   // Adds the lines to the file, or writes it anew when it does not tell what came before.
   void Write(const std::string& lines);
   void RemoveFile();

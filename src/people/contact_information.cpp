@@ -79,7 +79,10 @@ void ContactInformation::Save() {
     messages_.Show("First and Last Name is required");
     return;
   }
-  settings_.SaveUserString("UsrInfo", codec_.Scramble(JoinContact(window_)));
+  if (!settings_.SaveUserString("UsrInfo", codec_.Scramble(JoinContact(window_)))) {
+    window_.Text1[contact_field::kFullName].note = kNotSavedNote;
+    return;
+  }
   callbacks_.nameSaved(fullName);
   const ContactCaller caller = caller_;
   const bool complete = !fullName.empty() && !window_.Text1[contact_field::kEMail].text.empty();

@@ -54,8 +54,11 @@ void DonorsRanking::Command1_Click() {
     messages_.Show("Business Name is required");
     return;
   }
-  settings_.SaveUserString("RankOpt",
-                           codec_.Scramble(std::to_string(option) + "," + window_.Text1.text));
+  const std::string choice = std::to_string(option) + "," + window_.Text1.text;
+  if (!settings_.SaveUserString("RankOpt", codec_.Scramble(choice))) {
+    window_.Text1.note = kNotSavedNote;
+    return;
+  }
   desk_.Unload(window_);
 }
 

@@ -38,8 +38,10 @@ bool History::Holds(const std::string& transactionId) const {
   const std::string id = "Transaction ID: " + transactionId + " ";
   try {
     LineReader lines(environment_.files.Open(File()));
+    bool found = false;
     while (const auto line = lines.Next()) {
-      if (line->find(id) != std::string_view::npos) return true;
+      if (found && line->find_first_not_of('\r') == std::string_view::npos) return true;
+      found = found || line->find(id) != std::string_view::npos;
     }
   } catch (const RuntimeError&) {
     // Nobody can say that it is there.

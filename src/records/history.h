@@ -28,7 +28,8 @@ class History {
 
   // Whether every record is in the file.
   [[nodiscard]] bool IsWritten() const { return pending_.empty(); }
-  // Whether the file has a record of the transaction; false when it cannot be read.
+  // Whether the file has the whole record of the transaction, up to the empty line that ends it;
+  // false when it cannot be read.
   [[nodiscard]] bool Holds(const std::string& transactionId) const;
 
   // Shows the file; without one the guidance line says so.
