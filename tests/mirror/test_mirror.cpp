@@ -236,6 +236,13 @@ TEST_F(MirrorTest, TheYearToDateWindowStandsBesideItsFrameAndLeavesTheKeys) {
   EXPECT_EQ(Inside({-5, -5, 2000, 30}, screen).topLeft(), screen.topLeft());
 }
 
+TEST_F(MirrorTest, AMinimizedWindowComesToTheFrontAsItWas) {
+  QWidget& window = mirror.BindingOf(main)->Widget();
+  window.setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+  mirror.BringToFront();
+  EXPECT_EQ(window.windowState(), Qt::WindowMaximized | (window.windowState() & Qt::WindowActive));
+}
+
 TEST_F(MirrorTest, AmountsAreDrawnWholeAndAnAcceptedBudgetLarger) {
   auto& budget = Widget<QLineEdit>(main.Text1[0]);
   const double before = budget.font().pointSizeF();
