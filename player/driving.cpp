@@ -77,6 +77,7 @@ const std::vector<LineKind>& DrivingLines() {
   static const std::vector<LineKind> kinds = {
       {"start", [](ProgramRunner& runner, const Texts&) { runner.Start(); }},
       {"restart", [](ProgramRunner& runner, const Texts&) { runner.Restart(); }},
+      {"second", [](ProgramRunner& runner, const Texts&) { runner.StartSecond(); }},
       {"kill", [](ProgramRunner& runner, const Texts&) { runner.Kill(); }},
       {"click PATH", DoPlain<&FrontEnd::Click>},
       {"type PATH TEXT", DoWithText<&FrontEnd::Type>},

@@ -30,6 +30,18 @@ void ProgramRunner::Restart() {
   Launch();
 }
 
+void ProgramRunner::StartSecond() {
+  if (!IsRunning() || firstCopy_) throw CannotBeDone("there is no first copy, or a second one");
+  frontEnd_.Stop();
+  firstCopy_ = std::move(program_);
+  Launch();
+}
+
+void ProgramRunner::Kill() {
+  firstCopy_.reset();
+  Launch();
+}
+
 void ProgramRunner::Launch() {
   if (program_) frontEnd_.Stop();
   program_.reset();

@@ -27,8 +27,11 @@ class ProgramRunner {
   // Ends the program as closing the main window would and starts it again. One that has ended, or
   // still shows its splash, is only started.
   void Restart();
-  // Lets the program no time to end, as a power cut does, and starts it again.
-  void Kill() { Launch(); }
+  // Starts the program once more while it runs. The script goes on with the second copy; the first
+  // one keeps running, without its windows. Raises CannotBeDone when the program does not run.
+  void StartSecond();
+  // Lets the program, all its copies, no time to end, as a power cut does, and starts it again.
+  void Kill();
 
   [[nodiscard]] bool IsRunning() const { return program_ && !program_->TheDesk().Ended(); }
   [[nodiscard]] bool HasEnded() const { return program_ && program_->TheDesk().Ended(); }
@@ -49,6 +52,7 @@ class ProgramRunner {
   FrontEnd& frontEnd_;
   QtHttpClient client_;
   RecordingHttpClient http_;
+  std::unique_ptr<Program> firstCopy_;  // while the script is with the second one
   std::unique_ptr<Program> program_;
   bool finished_ = false;
   std::optional<std::string> navigated_;

@@ -7,15 +7,27 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "benevix/machine.h"
+#include "benevix/running_copy.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
 #include "mirror/mirror/qt_message_boxes.h"
 #include "mirror/mirror/window_layout.h"
+#include "platform/linux/program_folder.h"
 #include "program/program.h"
 
 namespace {
 
 using namespace benevix;
+
+constexpr auto kActivationToken = "XDG_ACTIVATION_TOKEN";
+
+// On Wayland only the token of a start by the user lets a window come to the front; the toolkit
+// looks for it where the desktop puts it for a program that starts.
+void BringToFront(Mirror& mirror, const QByteArray& token) {
+  if (!token.isEmpty()) qputenv(kActivationToken, token);
+  mirror.BringToFront();
+  qunsetenv(kActivationToken);
+}
 
 int RunOn(Machine& machine, Mirror& mirror) {
   const Environment environment = machine.TheEnvironment();
@@ -31,13 +43,17 @@ int RunOn(Machine& machine, Mirror& mirror) {
   return result;
 }
 
-int Run() {
+int Run(const QByteArray& token) {
+  const std::string executable = QCoreApplication::applicationFilePath().toStdString();
+  RunningCopy copy(ProgramFolder(executable), token);
+  if (copy.IsSecond()) return 0;
   const Scheme scheme = DesktopScheme();
   ApplyTheme(*qApp, scheme);
   Mirror mirror(scheme, Mirror::Timers::Run);
+  copy.onSecondStart = [&](const QByteArray& given) { BringToFront(mirror, given); };
   QtMessageBoxes boxes(mirror);
   try {
-    Machine machine(QCoreApplication::applicationFilePath().toStdString(), mirror, boxes);
+    Machine machine(executable, mirror, boxes);
     return RunOn(machine, mirror);
   } catch (const RuntimeError& error) {
     std::fprintf(stderr, "%s\n", ToUtf8(error.what()).c_str());
@@ -49,9 +65,10 @@ int Run() {
 }  // namespace
 
 int main(int argc, char** argv) {
+  const QByteArray token = qgetenv(kActivationToken);  // before the toolkit takes it
   const QApplication app(argc, argv);
   QApplication::setApplicationName("Benevix");
   QApplication::setWindowIcon(QIcon(":/images/benevix.svg"));
   QApplication::setQuitOnLastWindowClosed(false);
-  return Run();
+  return Run(token);
 }

@@ -8,6 +8,9 @@ struct RunValues {
   float DBVersion = 0;    // version of the organization list
   int YtdState = 0;       // 0 no year-to-date table in this run, 1 downloaded, 2 malformed
   int PlatformCode = 0;   // see GetPlatformCode
+  // False while another copy runs on the same program folder. The year-to-date table and the
+  // journal there are that one's then.
+  bool HoldsFolder = false;
 };
 
 // The code of the operating system's platform identifier; 0 for an unknown one.

@@ -67,12 +67,13 @@ Timeline Journal::PresentSession() const {
   return {Now(), ReadFields(places_), PresentRows()};
 }
 
-void Journal::Open() {
+void Journal::Open(bool holdsFile) {
+  holdsFile_ = holdsFile;
   places_.main.ListView1.writtenRows.clear();
   loads_ = List().loads;
   timeline_ = PresentSession();
   try {
-    if (!files_.Exists(file_)) return;
+    if (!holdsFile_ || !files_.Exists(file_)) return;
     JournalContents contents = ReadJournalText(files_.ReadAll(file_), timeline_.Fields());
     if (contents.session && IsUnfinished(*contents.session)) {
       unfinished_ = std::move(contents.session);
@@ -266,7 +267,7 @@ void Journal::Sent() {
   timeline_ = PresentSession();
   fileFollows_ = false;  // the session is written only if it is changed once more
   try {
-    if (sent_) files_.Replace(file_, SentLine(*sent_));
+    if (holdsFile_ && sent_) files_.Replace(file_, SentLine(*sent_));
   } catch (const RuntimeError& error) {
     Report(error);
   }
@@ -296,6 +297,7 @@ std::string Journal::Amended(const SessionFields& fields) const {
 }
 
 void Journal::Write(const std::string& lines) {
+  if (!holdsFile_) return;
   try {
     if (fileFollows_) {
       files_.Append(file_, lines);
@@ -313,6 +315,7 @@ void Journal::Write(const std::string& lines) {
 
 void Journal::RemoveFile() {
   fileFollows_ = false;
+  if (!holdsFile_) return;
   try {
     files_.Remove(file_);
   } catch (const RuntimeError& error) {

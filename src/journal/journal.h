@@ -26,8 +26,9 @@ class Journal {
   Journal(SessionPlaces places, Desk& desk, const OrganizationDatabase& database, Files& files,
           const Clock& clock, FilePath file, std::function<void(const std::string& reason)> report);
 
-  // Reads what the last run left in the file. To be called once the list stands.
-  void Open();
+  // Reads what the last run left in the file. To be called once the list stands. With a file that
+  // is another running copy's, the file is left alone and the steps stand in memory only.
+  void Open(bool holdsFile);
 
   // Notes a step if the event changed the session's money or rows.
   void AfterEvent();
@@ -100,6 +101,7 @@ class Journal {
   std::optional<Timeline> unfinished_;
   std::optional<SentNote> sent_;  // of this run
   std::optional<SentNote> unrecorded_;
+  bool holdsFile_ = false;
   bool fileFollows_ = false;  // the file tells where the timeline stands
   SessionFields standing_;    // where the file stands
   bool reported_ = false;

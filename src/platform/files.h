@@ -62,7 +62,9 @@ class Files {
   // `patience`. A file system without locks refuses nothing.
   [[nodiscard]] virtual std::unique_ptr<FolderLock> Lock(const FilePath& folder,
                                                          std::chrono::milliseconds patience) = 0;
-  // Deletes the temporary files of processes that ended while they wrote. Never raises.
+  // A name beside `path` for a temporary file that belongs to this process alone.
+  [[nodiscard]] virtual FilePath TemporaryName(const FilePath& path) const = 0;
+  // Deletes the temporary files of processes that have ended. Never raises.
   virtual void RemoveLeftovers(const FilePath& folder) = 0;
 };
 

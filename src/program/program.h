@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "controls/desk.h"
 #include "controls/input.h"
 #include "core/codec.h"
@@ -82,6 +84,8 @@ class Program {
   void frmSplash_Load();
   void Image2_Click(int index);  // of the splash: 0 enters, 1 leaves
   void frmBVX_Load();
+  // Against other copies of the program that run at the same time.
+  void TakeFolder();
   void LoadMainWindow();
   // Of a session that the last run sent without recording it.
   void TellUnrecorded();
@@ -109,6 +113,7 @@ class Program {
   Desk desk_;
   Input input_;
   RunValues run_;
+  std::unique_ptr<FolderLock> folderLock_;
   SessionValues values_;
   FeeRates rates_;
 

@@ -51,7 +51,17 @@ void Program::frmBVX_Load() {
   }
 }
 
+void Program::TakeFolder() {
+  try {
+    folderLock_ = environment_.files.Lock(environment_.info.folder, {});
+    run_.HoldsFolder = folderLock_ != nullptr;
+  } catch (const RuntimeError&) {
+    run_.HoldsFolder = true;  // where nothing can be locked, one copy still works as ever
+  }
+}
+
 void Program::LoadMainWindow() {
+  TakeFolder();
   const FilePath& folder = environment_.info.folder;
   for (const FilePath& own : {folder, folder / "Resources"}) {
     environment_.files.RemoveLeftovers(own);
@@ -76,7 +86,7 @@ void Program::LoadMainWindow() {
   wizard_.ReadShowAtStart();
   favorites_.LoadFavoritesMenu();
   database_.BuildCountriesMenu();
-  journal_.Open();
+  journal_.Open(run_.HoldsFolder);
 }
 
 void Program::frmBVX_Unload() {

@@ -6,6 +6,12 @@
 
 namespace benevix {
 
+// A second copy of the program has a table of its own, as each deletes its table at its end.
+FilePath YearToDate::File() const {
+  const FilePath file = environment_.info.Resource("ytd.dat");
+  return run_.HoldsFolder ? file : environment_.files.TemporaryName(file);
+}
+
 void YearToDate::DownloadYtd() {
   run_.YtdState = 0;
   try {

@@ -47,7 +47,7 @@ class YearToDate {
   // Searches one line of the copy for the selected row; `amounts` receives what follows its ID.
   [[nodiscard]] Lookup FindRecord(std::string_view text, std::string& amounts) const;
   void ShowAmounts(std::string_view amounts);
-  [[nodiscard]] FilePath File() const { return environment_.info.Resource("ytd.dat"); }
+  [[nodiscard]] FilePath File() const;
 
   Environment& environment_;
   ServerFiles& server_;

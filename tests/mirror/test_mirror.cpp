@@ -250,6 +250,13 @@ TEST_F(MirrorTest, TheYearToDateWindowStandsBesideItsFrameAndLeavesTheKeys) {
             mirror.BindingOf(main)->Widget().windowHandle());
 }
 
+TEST_F(MirrorTest, AMinimizedWindowComesToTheFrontAsItWas) {
+  QWidget& window = mirror.BindingOf(main)->Widget();
+  window.setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+  mirror.BringToFront();
+  EXPECT_EQ(window.windowState(), Qt::WindowMaximized | (window.windowState() & Qt::WindowActive));
+}
+
 TEST_F(MirrorTest, AmountsAreDrawnWholeAndAnAcceptedBudgetLarger) {
   auto& budget = Widget<QLineEdit>(main.Text1[0]);
   const double before = budget.font().pointSizeF();

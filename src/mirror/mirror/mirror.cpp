@@ -139,6 +139,21 @@ const QWidget* Mirror::Neighbour(const Window& window) const {
   return main->Widget().findChild<QWidget*>(QLatin1String(window.beside));
 }
 
+void Mirror::BringToFront() {
+  if (desk_ == nullptr) return;
+  QWidget* front = nullptr;
+  const auto raise = [&front](QWidget& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.raise();
+    if (!window.windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus)) front = &window;
+  };
+  for (const Window* shown : desk_->Shown()) {
+    if (WindowBinding* const binding = BindingOf(*shown)) raise(binding->Widget());
+  }
+  if (QWidget* const modal = QApplication::activeModalWidget()) raise(*modal);
+  if (front != nullptr) front->activateWindow();
+}
+
 void Mirror::Begin() {
   for (const auto& [window, binding] : bindings_) binding->ForgetPress();
   Sync();

@@ -29,6 +29,10 @@ class Mirror : public QObject, public Waits {
   void Attach(Desk& desk, Input& input, const WindowLayout* layout = nullptr);
   void Detach();
 
+  // Brings the windows to the front, also when they are minimized, and the one that can be worked
+  // in, or the question that waits for an answer, gets the keys.
+  void BringToFront();
+
   // Called when the program has ended.
   std::function<void()> onEnded = [] {};
 

@@ -321,6 +321,10 @@ std::unique_ptr<FolderLock> LinuxFiles::Lock(const FilePath& folder,
   return lock;
 }
 
+FilePath LinuxFiles::TemporaryName(const FilePath& path) const {
+  return FilePath(TemporaryFor(path.Utf8()));
+}
+
 void LinuxFiles::RemoveLeftovers(const FilePath& folder) {
   std::error_code ignored;
   for (fs::directory_iterator file(folder.Utf8(), ignored), end; file != end;

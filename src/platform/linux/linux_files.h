@@ -21,6 +21,7 @@ class LinuxFiles : public Files {
   void Link(const FilePath& target, const FilePath& link) override;
   [[nodiscard]] std::unique_ptr<FolderLock> Lock(const FilePath& folder,
                                                  std::chrono::milliseconds patience) override;
+  [[nodiscard]] FilePath TemporaryName(const FilePath& path) const override;
   void RemoveLeftovers(const FilePath& folder) override;
 };
 
