@@ -14,6 +14,14 @@ namespace benevix {
 // favorites and the contact details as they are stored.
 using Confirmed = std::vector<std::string>;
 
+inline const std::string kRows =
+    "[Peru]\r\n00000042 Water For All, Relief\r\n00000007 Maple & Health, Health\r\n"
+    "00000123 Savanna Schools, Education\r\n";
+inline const std::string kOldList = ";QUORL1.0000\r\n" + kRows;
+inline const std::string kNewList = ";QUORL2\r\n" + kRows + "00000124 Another, Education\r\n";
+// A world with the old list and a server that offers the new one; the donor is known.
+void Furnish(World& world);
+
 // Somebody who uses the program, in a world that outlives it.
 class Donor {
  public:
@@ -34,6 +42,7 @@ class Donor {
   // Balance, donations and deducted fees together are the Budget.
   [[nodiscard]] bool KeepsBooks();
   [[nodiscard]] bool HasEnded() { return program_->TheDesk().Ended(); }
+  [[nodiscard]] Program& TheProgram() { return *program_; }
   // Everything that the program said, in its message boxes and in the guidance line.
   [[nodiscard]] std::string Said();
 

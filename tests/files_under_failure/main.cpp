@@ -16,16 +16,9 @@
 
 #include "donor.h"
 #include "file_calls.h"
-#include "people/contact_information.h"
 
 namespace benevix {
 namespace {
-
-const std::string kRows =
-    "[Peru]\r\n00000042 Water For All, Relief\r\n00000007 Maple & Health, Health\r\n"
-    "00000123 Savanna Schools, Education\r\n";
-const std::string kOldList = ";QUORL1.0000\r\n" + kRows;
-const std::string kNewList = ";QUORL2\r\n" + kRows + "00000124 Another, Education\r\n";
 
 // What a run of the program tells after each step.
 struct Told {
@@ -57,26 +50,6 @@ std::vector<Told> ReadTold(std::istream& text) {
 std::string BytesOf(const World& world, const char* resource) {
   const FilePath file = world.info.Resource(resource);
   return world.files.Exists(file) ? world.files.ReadAll(file) : "";
-}
-
-void Furnish(World& world) {
-  world.files.Replace(world.info.Resource("sharedb.dat"), kOldList, Readers::Everyone);
-  std::filesystem::create_symlink("sharedb.dat", world.info.Resource("shareddb.dat").Utf8());
-  world.site.Put("53rv3r/status.txt", {.text = "server ok"});
-  world.site.Put("53rv3r/dbcurrver.dat", {.text = "2"});
-  world.site.Put("downloads/db2", {.text = kNewList});
-  world.site.Put("53rv3r/rates.dat", {.text = "2,3,2.9,0.3,5,a@pay.example,b@pay.example"});
-  world.site.Put("53rv3r/ctact.dat", {.text = "mail?,office@benevix.example"});
-  world.site.Put("mail", {.text = "Thank You"});
-  world.settings.Put("user", "ShowWiz", "False");
-  world.settings.Put("user", "BVXDB", "1.0000");
-  world.settings.Put("machine", "TimeOut", "30");
-  frmPersInfo contact;
-  const char* const details[] = {"Ann Lee", "1 Elm St", "Springfield",    "IL",
-                                 "62701",   "U.S.A.",   "ann@lee.example"};
-  for (int i = 0; i < contact_field::kCount; ++i) contact.Text1[i].text = details[i];
-  world.settings.Put("user", "UsrInfo",
-                     TextCodec(world.info.exeName).Scramble(JoinContact(contact)));
 }
 
 // One way, tried with different faults.

@@ -1,13 +1,11 @@
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include "../platform/temp_files.h"
 #include "base/number_text.h"
 #include "benevix-site/site.h"
 #include "database/organization_list.h"
 #include "platform/linux/linux_files.h"
-#include "platform/linux/linux_shell.h"
 #include "server/translation.h"
 
 namespace benevix {
@@ -108,19 +106,6 @@ TEST_F(ServedSite, TellsAboutEveryListedOrganization) {
   }
 }
 
-TEST_F(ServedSite, EachRequestGetsTheNextKindOfNews) {
-  std::string kinds;
-  for (int i = 0; i < 5; ++i) {
-    const std::string news = site_.Answer("/53rv3r/news.txt").body;
-    kinds += news.substr(0, 2);
-    EXPECT_EQ(news.find_first_of("<\r\n"), std::string::npos) << news;
-    if (news.starts_with("2,")) {
-      EXPECT_GT(news.substr(news.find('=') + 1), "1.0.0");
-    }
-  }
-  EXPECT_EQ(kinds, "1,3,2,0,1,");
-}
-
 TEST_F(ServedSite, TranslationsAreAcceptedByTheProgram) {
   const auto translated = [&](const std::string& languages, const std::string& page) {
     return TranslatedPage(
@@ -139,17 +124,6 @@ TEST_F(ServedSite, TranslationsAreAcceptedByTheProgram) {
         std::string("http://elsewhere.example/infoDB/101.dat")}) {
     EXPECT_EQ(site_.Answer("/parley?language=en/fr&url=" + elsewhere).status, 404) << elsewhere;
   }
-}
-
-TEST_F(ServedSite, TheUpdaterDeletesItself) {
-  const TempFolder folder;
-  const FilePath file(folder / "updater.exe");
-  LinuxFiles().Replace(file, site_.Answer("/downloads/updater.exe").body);
-  LinuxShell().StartProgram(file);
-  int status = 1;
-  wait(&status);
-  EXPECT_EQ(status, 0);
-  EXPECT_FALSE(LinuxFiles().Exists(file));
 }
 
 }  // namespace
