@@ -1,6 +1,6 @@
 #include "session/typed_amount.h"
 
-#include <regex>
+#include <algorithm>
 
 #include "base/number_text.h"
 #include "base/runtime_error.h"
@@ -18,10 +18,31 @@ TypedAmount ReadAmount(const std::string& text) {
   }
 }
 
+namespace {
+
+// How many digits the text begins with.
+std::size_t DigitsOf(std::string_view text) {
+  return std::min(text.find_first_not_of("0123456789"), text.size());
+}
+
+// Whether each comma of an amount stands before three digits, as in "$1,234,567.80".
+bool DividesThousands(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_of("0123456789.,"), text.size()));
+  const std::size_t first = DigitsOf(text);
+  if (first < 1 || first > 3 || text[0] == '0') return false;
+  text.remove_prefix(first);
+  while (text.starts_with(',')) {
+    text.remove_prefix(1);
+    if (DigitsOf(text) != 3) return false;
+    text.remove_prefix(3);
+  }
+  return text.find(',') == std::string_view::npos;
+}
+
+}  // namespace
+
 bool HasDecimalComma(std::string_view text) {
-  static const std::regex thousands("[^0-9.,]*[1-9][0-9]{0,2}(,[0-9]{3})+([^0-9,][^,]*)?");
-  return text.find(',') != std::string_view::npos &&
-         !std::regex_match(text.begin(), text.end(), thousands);
+  return text.find(',') != std::string_view::npos && !DividesThousands(text);
 }
 
 }  // namespace benevix
