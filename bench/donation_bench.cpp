@@ -26,6 +26,9 @@ class NoBoxes : public MessageBoxes {
                  BoxButtons /*buttons*/) override {
     throw std::runtime_error("an unexpected message: " + text);
   }
+  FilePath AskWhereToSave(const std::string& /*title*/, const std::string& /*name*/) override {
+    return {};
+  }
 };
 
 void Check(bool done, const char* action) {

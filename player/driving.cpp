@@ -66,6 +66,11 @@ void Answer(ProgramRunner& runner, const Texts& words) {
   }
 }
 
+void SaveAs(ProgramRunner& runner, const Texts& words) {
+  World& world = runner.TheWorld();
+  world.boxes.QueueFile(FilePath(world.ProgramFile(words[0])));
+}
+
 void Shot(ProgramRunner& runner, const Texts& words) {
   if (!runner.TheFrontEnd().Shot(words[0]))
     throw CannotBeDone("there is nothing to take a picture of");
@@ -89,8 +94,10 @@ const std::vector<LineKind>& DrivingLines() {
       {"hover PATH", DoPlain<&FrontEnd::Hover>},
       {"scroll PATH NUMBER", DoWithNumber<&FrontEnd::Scroll>},
       {"tick PATH [NUMBER]", DoWithNumber<&FrontEnd::Tick>},
+      {"arrive PATH TEXT", DoWithText<&FrontEnd::Arrive>},
       {"close FORM", Close},
       {"answer ANSWER ANSWER...", Answer},
+      {"save-as PATH", SaveAs},
       {"shot NAME", Shot},
   };
   return kinds;

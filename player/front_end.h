@@ -44,6 +44,8 @@ class FrontEnd {
   virtual bool Scroll(const Target& target, int value) = 0;
   // A timer that is not enabled, or no longer, does nothing.
   virtual bool Tick(const Target& target, int times) = 0;
+  // The page that a viewer shows leads to this address.
+  virtual bool Arrive(const Target& target, const std::string& address) = 0;
   virtual bool Close(Desk::Entry& window) = 0;
   virtual bool Shot(const std::string& name) = 0;
 

@@ -51,6 +51,10 @@ class QueuedAnswers : public MessageBoxes {
     const WaitScope wait(waits_);
     return answers_.Take({title, text, icon, buttons});
   }
+  FilePath AskWhereToSave(const std::string& /*title*/, const std::string& /*name*/) override {
+    const WaitScope wait(waits_);
+    return answers_.TakeFile();
+  }
 
  private:
   BoxAnswers& answers_;
@@ -131,6 +135,13 @@ class LogicFrontEnd : public FrontEnd {
     auto* const timer = target.control->As<Timer>();
     if (!timer || !target.window->loaded || program_->TheDesk().Ended()) return false;
     while (times-- > 0 && User().Tick(*timer)) continue;
+    return true;
+  }
+
+  bool Arrive(const Target& target, const std::string& address) override {
+    auto* const viewer = target.control->As<PageViewer>();
+    if (!viewer || !program_->TheDesk().IsUsable(*target.window, *viewer)) return false;
+    User().Arrived(*viewer, address);
     return true;
   }
 

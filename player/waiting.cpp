@@ -4,6 +4,7 @@
 #include <QDeadlineTimer>
 #include <QImage>
 #include <QPointer>
+#include <QUrl>
 #include <QWidget>
 
 namespace benevix {
@@ -50,6 +51,16 @@ bool WaitForPage(QWidget& window) {
     before = now;
     return stands;
   });
+}
+
+bool LeadPage(const QWidget& viewer, const QUrl& address, const std::function<bool()>& arrived) {
+  // By its name: the page's engine is a plug-in.
+  for (QWidget* const page : viewer.findChildren<QWidget*>()) {
+    if (!page->inherits("QWebEngineView")) continue;
+    page->setProperty("url", address);
+    return WaitUntil(arrived);
+  }
+  return false;
 }
 
 }  // namespace benevix

@@ -2,8 +2,12 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTest>
@@ -82,6 +86,18 @@ class ClickedBoxes : public MessageBoxes {
       }
     };
     return real_.Show(title, text, icon, buttons);
+  }
+
+  FilePath AskWhereToSave(const std::string& title, const std::string& name) override {
+    real_.onFileDialogShown = [this](QFileDialog& dialog) {
+      const FilePath file = answers_.TakeFile();
+      if (file.IsEmpty()) return dialog.reject();
+      dialog.findChild<QLineEdit*>()->setText(QString::fromStdString(file.Utf8()));
+      auto* const buttons = dialog.findChild<QDialogButtonBox*>();
+      QAbstractButton* const save = buttons->button(QDialogButtonBox::Save);
+      ClickAt(*save, save->rect().center());
+    };
+    return real_.AskWhereToSave(title, name);
   }
 
  private:
@@ -202,6 +218,13 @@ class WindowsFrontEnd : public FrontEnd {
     if (timer == nullptr || !target.window->loaded || program_->TheDesk().Ended()) return false;
     for (int i = 0; i < times && program_->TheInput().Tick(*timer); ++i) Settle();
     return true;
+  }
+
+  bool Arrive(const Target& target, const std::string& address) override {
+    QWidget* const widget = Reach(target);
+    const auto* const viewer = target.control->As<PageViewer>();
+    if (widget == nullptr || viewer == nullptr) return false;
+    return LeadPage(*widget, QUrl(ToQString(address)), [&] { return viewer->shown == address; });
   }
 
   bool Close(Desk::Entry& window) override {

@@ -59,10 +59,20 @@ class BoxAnswers {
     if (answer != BoxAnswer::OK) queue_.push_back(answer);
   }
 
+  // Where the user saves the next file; without one he saves none.
+  void QueueFile(FilePath file) { files_.push_back(std::move(file)); }
+  FilePath TakeFile() {
+    if (files_.empty()) return {};
+    FilePath file = std::move(files_.front());
+    files_.pop_front();
+    return file;
+  }
+
   Recorded<ShownBox> shown;
 
  private:
   std::deque<BoxAnswer> queue_;
+  std::deque<FilePath> files_;
 };
 
 // Records every address that is handed over, also when no answer comes.
@@ -81,16 +91,28 @@ class RecordingHttpClient : public HttpClient {
   Recorded<std::string>& requests_;
 };
 
+// A document is its lines here, on paper as in a file.
 class RecordingPrinter : public Printer {
  public:
-  void PrintLine(int column, const std::string& line) override {
-    if (off) throw RuntimeError("There is no printer");
-    lines.Add(std::string(static_cast<std::size_t>(column > 1 ? column - 1 : 0), ' ') + line);
+  [[nodiscard]] bool IsThere() const override { return !off; }
+  void Print(const PrintDocument& document) override {
+    if (off) throw RuntimeError(kNoPrinter);
+    for (const PrintLine& line : document) lines.Add(TextOf(line));
   }
-  void EndDoc() override {}
+  [[nodiscard]] std::string Pdf(const PrintDocument& document) const override {
+    std::string text;
+    for (const PrintLine& line : document) text += TextOf(line) + "\r\n";
+    return text;
+  }
 
   bool off = false;
   Recorded<std::string> lines;
+
+ private:
+  static std::string TextOf(const PrintLine& line) {
+    return std::string(static_cast<std::size_t>(line.column > 1 ? line.column - 1 : 0), ' ') +
+           line.text;
+  }
 };
 
 // The real shell on folders of its own; programs are recorded in place of being started.

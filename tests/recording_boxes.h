@@ -23,6 +23,10 @@ class RecordingBoxes : public MessageBoxes {
     return buttons == BoxButtons::OK ? BoxAnswer::OK : answer;
   }
 
+  FilePath AskWhereToSave(const std::string& /*title*/, const std::string& /*name*/) override {
+    return {};
+  }
+
   std::vector<Box> shown;
   BoxAnswer answer = BoxAnswer::No;
 };

@@ -203,12 +203,14 @@ struct MoneyBar : Control {
 struct PageViewer : Control {
   Page page;
   int navigations = 0;     // how often a page was asked for
+  std::string shown;       // the address that it shows by now; empty until the page stands
   bool canGoBack = false;  // the user came to what is shown by a link
   int backs = 0;           // how often the page before was asked for
 
   void Navigate2(Page to) {
     page = std::move(to);
     ++navigations;
+    shown.clear();
     canGoBack = false;
   }
 };

@@ -269,6 +269,11 @@ void Input::MovedOn(PageViewer& viewer, bool canGoBack) {
   Enter([] {});
 }
 
+void Input::Arrived(PageViewer& viewer, std::string address) {
+  viewer.shown = std::move(address);  // also while a handler waits
+  Enter([] {});
+}
+
 bool Input::Close(Window& window) {
   if (busy_ || !desk_.IsUsable(window)) return false;
   Enter([&] {

@@ -68,8 +68,9 @@ class Input {
   bool SelectRow(ListView& list, int row, MouseButton button, bool byKeyboard = false);
   bool Scroll(ScrollBar& bar, int value);
   bool Tick(Timer& timer);
-  // The user has moved on in the pages of the viewer.
+  // The user, or the page itself, has moved on in the pages of the viewer.
   void MovedOn(PageViewer& viewer, bool canGoBack);
+  void Arrived(PageViewer& viewer, std::string address);
 
   // The user closes the window by its frame.
   bool Close(Window& window);

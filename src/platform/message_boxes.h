@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "base/file_path.h"
+
 namespace benevix {
 
 enum class BoxIcon { None, Information, Question, Critical };
@@ -10,12 +12,15 @@ enum class BoxIcon { None, Information, Question, Critical };
 enum class BoxButtons { OK, YesNo, NoByDefault };
 enum class BoxAnswer { OK, Yes, No };
 
-// Modal message boxes: Show returns when the user has answered.
+// Modal message boxes: each returns when the user has answered.
 class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
   virtual BoxAnswer Show(const std::string& title, const std::string& text, BoxIcon icon,
                          BoxButtons buttons) = 0;
+  // Asks under which name a file shall be saved; `name`, with its ending, is proposed. Empty when
+  // the user wants none.
+  virtual FilePath AskWhereToSave(const std::string& title, const std::string& name) = 0;
 };
 
 }  // namespace benevix

@@ -86,6 +86,7 @@ Program::Program(const Environment& environment)
                    [this] { NewSession(); }),
       notice_(main_, charges_, server_, contact_, ranking_, lastSession_, journal_, environment_),
       history_(environment_, messages_, viewer_, main_),
+      paymentStates_(environment_, messages_, forms_.Get<frmInfo>().wb1),
       finalization_(main_, values_, desk_, paymentOptions_, notice_, viewer_, history_, journal_,
                     messages_, environment_.info.deployment),
       printing_(environment_, forms_.Get<frmWait>(), desk_, main_, finalization_) {
@@ -95,6 +96,7 @@ Program::Program(const Environment& environment)
     journal_.AfterEvent();
     charges_.Show();
     viewer_.ShowBack();
+    paymentStates_.AfterEvent();
     contact_.ShowWhatFollows();
     preview_.Show();
     journalCommands_.Show();

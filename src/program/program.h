@@ -26,6 +26,7 @@
 #include "records/finalization.h"
 #include "records/history.h"
 #include "records/last_session.h"
+#include "records/payment_states.h"
 #include "records/printing.h"
 #include "server/list_at_start.h"
 #include "server/list_update.h"
@@ -164,6 +165,7 @@ class Program {
   LastSession lastSession_;
   SessionNotice notice_;
   History history_;
+  PaymentStates paymentStates_;
   Finalization finalization_;
   Printing printing_;
 };

@@ -4,6 +4,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "controls/desk.h"
@@ -17,8 +18,8 @@
 
 namespace benevix {
 
-// The last session that was sent, stored in the setting `LastSession` as its date and then "," and
-// the options record of each organization.
+// Gives again what was given before: the last session that was sent, which is stored in the setting
+// `LastSession` as its date and then "," and the options record of each organization.
 class LastSession {
  public:
   // `newSession` puts the session that is going on away.
@@ -43,10 +44,23 @@ class LastSession {
   // Returns the date of the session that was recalled; empty if none was.
   std::string mnuRecallSession_Click();
 
+  // The same with an older session, which names its organizations in place of their IDs; those that
+  // are not in the list are named in a message. Gives false when the session that is going on
+  // stays.
+  bool GiveAgain(const std::string& date, const std::vector<OptionsRecord>& records);
+
  private:
-  // Returns the recalled total. Raises RuntimeError when the list file cannot be read, or for an
-  // amount beyond a currency, with the rows before it refilled.
-  Currency RefillRows(const std::vector<OptionsRecord>& records);
+  // Rows of the list and the options records of their donations.
+  using Donations = std::vector<std::pair<int, OptionsRecord>>;
+
+  // Puts the session that is going on away, after a question when something has been given in it.
+  bool Replace();
+  // Found by ID or by name; what is not in the list is left out. Raises RuntimeError when the list
+  // file cannot be read.
+  [[nodiscard]] Donations FindRows(std::vector<OptionsRecord> records) const;
+  // Makes them the session; without a word it stops at an amount beyond a currency, with the rows
+  // before it refilled.
+  void Refill(const Donations& donations);
   // The names of IDs that are the first field of a line of the list file: the line's second field.
   [[nodiscard]] std::map<std::string, std::string> NamesInFile(
       const std::set<std::string>& ids) const;

@@ -6,58 +6,43 @@
 #include "base/lines.h"
 #include "base/runtime_error.h"
 #include "core/date_text.h"
+#include "core/output.h"
 #include "records/history.h"
 #include "records/session_record.h"
 
 namespace benevix {
 
 void Printing::mnuPrntSession_Click() {
-  PrintReport([this] { PrintSession(finalization_.LastRecord()); });
+  PrintReport([this] { return SessionReport(finalization_.LastRecord()); }, "Session");
 }
 
 void Printing::mnuPrtHistory_Click() {
-  PrintReport([this] {
-    PrintPageHeading();
-    PrintHistory();
-    PrintDocumentEnd();
-  });
+  PrintReport([this] { return HistoryReport(); }, "Donation History");
 }
 
 std::string Printing::PrintMessage(const std::string& from, const std::string& to,
                                    const std::string& subject, const std::string& message) {
-  return PrintDocument([&] {
-    PrintPageHeading();
-    PrintLine("From: " + from);
-    PrintLine("To: " + to);
-    PrintLine("Subject: " + subject);
-    PrintLine("");
-    for (const std::string_view line : Lines(message)) PrintLine(std::string(line));
-    PrintDocumentEnd();
-  });
+  PrintDocument document = PageHeading();
+  document.push_back({"From: " + from});
+  document.push_back({"To: " + to});
+  document.push_back({"Subject: " + subject});
+  document.push_back({});
+  for (const std::string_view line : Lines(message)) document.push_back({std::string(line)});
+  AddEnd(document);
+  return PrintOrSave(environment_, document, "Message");
 }
 
-std::string Printing::PrintDocument(const std::function<void()>& body) {
-  std::string error;
+void Printing::PrintReport(const std::function<PrintDocument()>& make, const std::string& name) {
   try {
-    body();
-  } catch (const RuntimeError& failure) {
-    error = failure.what();
+    const PrintDocument document = make();
+    if (environment_.printer.IsThere()) PrintWaitNotice();
+    const std::string told = PrintOrSave(environment_, document, name);
+    if (told.empty()) return;
+    main_.Label6.caption = told;
+  } catch (const RuntimeError& error) {
+    main_.Label6.caption = error.what();
   }
-  // After an error, too, so that the next document does not continue this one.
-  environment_.printer.EndDoc();
-  return error;
-}
-
-void Printing::PrintReport(const std::function<void()>& body) {
-  PrintWaitNotice();
-  const std::string error = PrintDocument(body);
-  if (error.empty()) return;
   desk_.Unload(wait_);
-  main_.Label6.caption = error;
-}
-
-void Printing::PrintLine(const std::string& line, int column) {
-  environment_.printer.PrintLine(column, line);
 }
 
 void Printing::PrintWaitNotice() {
@@ -69,48 +54,50 @@ void Printing::PrintWaitNotice() {
   environment_.waits.DoEvents();
 }
 
-void Printing::PrintPageHeading() {
+PrintDocument Printing::PageHeading() const {
   constexpr int column = 40;
   const Deployment& deployment = environment_.info.deployment;
-  PrintLine(" -- " + deployment.product + "  " + deployment.copyright + " -- ", column);
-  PrintLine("");
-  PrintLine("");
+  return {{" -- " + deployment.product + "  " + deployment.copyright + " -- ", column}, {}, {}};
 }
 
-void Printing::PrintTitle(const std::string& title) {
+void Printing::AddTitle(PrintDocument& document, const std::string& title) const {
   constexpr int column = 50;
-  PrintLine(environment_.info.deployment.product + title, column);
-  PrintLine("");
-  PrintLine("");
+  document.push_back({environment_.info.deployment.product + title, column});
+  document.insert(document.end(), 2, {});
 }
 
-void Printing::PrintDocumentEnd() {
+void Printing::AddEnd(PrintDocument& document) const {
   const DateTime now = environment_.clock.Now();
   char seconds[8];
   std::snprintf(seconds, sizeof seconds, ":%02d", static_cast<int>(now.second));
-  PrintLine("");
-  PrintLine(" ------------------------- End Doc ------ " + DateText(now) + " @ " + TimeText(now) +
-            seconds + " ------------- " + environment_.info.deployment.serverBase +
-            " ------------- ");
+  document.push_back({});
+  document.push_back({" ------------------------- End Doc ------ " + DateText(now) + " @ " +
+                      TimeText(now) + seconds + " ------------- " +
+                      environment_.info.deployment.serverBase + " ------------- "});
 }
 
-void Printing::PrintSession(const SessionRecord& record) {
-  PrintPageHeading();
-  PrintTitle(" - Current Session");
-  PrintLine(HeadingLine(record.time));
-  PrintLine(TransactionLine(record));
-  for (const std::string& line : OrganizationLines(main_.ListView1)) PrintLine(line);
-  PrintLine(PaymentLine(record));
-  PrintDocumentEnd();
+PrintDocument Printing::SessionReport(const SessionRecord& record) const {
+  PrintDocument document = PageHeading();
+  AddTitle(document, " - Current Session");
+  document.push_back({HeadingLine(record.time)});
+  document.push_back({TransactionLine(record)});
+  for (const std::string& line : OrganizationLines(main_.ListView1)) document.push_back({line});
+  document.push_back({PaymentLine(record)});
+  AddEnd(document);
+  return document;
 }
 
-void Printing::PrintHistory() {
+PrintDocument Printing::HistoryReport() const {
   constexpr int column = 7;
-  PrintTitle(" - Sessions History");
   const FilePath file = environment_.info.Resource("history.dat");
   if (!environment_.files.Exists(file)) throw RuntimeError(kNoHistory);
+  PrintDocument document = PageHeading();
+  AddTitle(document, " - Sessions History");
   const std::string history = environment_.files.ReadAll(file);
-  for (const std::string_view line : Lines(history)) PrintLine(std::string(line), column);
+  for (const std::string_view line : Lines(history))
+    document.push_back({std::string(line), column});
+  AddEnd(document);
+  return document;
 }
 
 }  // namespace benevix

@@ -11,8 +11,8 @@
 
 namespace benevix {
 
-// Prints the session just finalized, the whole history, or a message, on the default printer. A
-// missing history or a printer error ends the printout, and the guidance line says so.
+// Prints the session just finalized, the whole history, or a message, on the default printer;
+// without one it can be saved as a PDF file. What went wrong is said in the guidance line.
 class Printing {
  public:
   Printing(Environment& environment, frmWait& wait, Desk& desk, frmBVX& main,
@@ -25,25 +25,21 @@ class Printing {
 
   void mnuPrntSession_Click();
   void mnuPrtHistory_Click();
-  // From, To, Subject, an empty line and the message's lines. Gives what went wrong, empty when
-  // nothing did.
+  // From, To, Subject, an empty line and the message's lines. Gives what the user should be told;
+  // empty when it was printed.
   std::string PrintMessage(const std::string& from, const std::string& to,
                            const std::string& subject, const std::string& message);
 
  private:
-  // Runs `body` and ends the document, also after a missing file or a printer error, which it
-  // gives.
-  std::string PrintDocument(const std::function<void()>& body);
-  // The same with a please-wait notice and the error in the guidance line.
-  void PrintReport(const std::function<void()>& body);
+  // With a please-wait notice. `make` may raise RuntimeError.
+  void PrintReport(const std::function<PrintDocument()>& make, const std::string& name);
   void PrintWaitNotice();
-  void PrintPageHeading();
-  void PrintDocumentEnd();
+  [[nodiscard]] PrintDocument PageHeading() const;
+  void AddTitle(PrintDocument& document, const std::string& title) const;
+  void AddEnd(PrintDocument& document) const;
   // With the current donations of the list.
-  void PrintSession(const SessionRecord& record);
-  void PrintHistory();
-  void PrintTitle(const std::string& title);
-  void PrintLine(const std::string& line, int column = 1);
+  [[nodiscard]] PrintDocument SessionReport(const SessionRecord& record) const;
+  [[nodiscard]] PrintDocument HistoryReport() const;
 
   Environment& environment_;
   frmWait& wait_;

@@ -5,6 +5,11 @@
 #include "forms/frmPayOpt.h"
 
 namespace benevix {
+namespace {
+
+const std::string kItemNumber = "&item_number=";
+
+}  // namespace
 
 float SecondsSinceMidnight(const DateTime& time) {
   return static_cast<float>(time.hour * 3600 + time.minute * 60 + time.second);
@@ -33,9 +38,16 @@ std::string PaymentRequest(const std::string& paymentBase, const std::string& se
                            const std::string& payee, const std::string& transactionId,
                            const std::string& amount) {
   return paymentBase + payee + "&item_name=Benevix - ID Transaction: " + transactionId +
-         "&item_number=" + transactionId + "&amount=" + amount +
-         "&no_shipping=1&return=" + serverBase + "thank.html&cancel_return=" + serverBase +
-         "cncl.html&no_note=1&tax=0&currency_code=USD";
+         kItemNumber + transactionId + "&amount=" + amount + "&no_shipping=1&return=" + serverBase +
+         kThankPage + "&cancel_return=" + serverBase + kCancelPage +
+         "&no_note=1&tax=0&currency_code=USD";
+}
+
+std::string TransactionPaidOn(std::string_view address) {
+  const auto begin = address.find(kItemNumber);
+  if (begin == std::string_view::npos) return {};
+  address.remove_prefix(begin + kItemNumber.size());
+  return std::string(address.substr(0, address.find('&')));
 }
 
 }  // namespace benevix

@@ -11,6 +11,12 @@ namespace {
 // Tab columns and texts.
 using PrintedLines = std::vector<std::pair<int, std::string>>;
 
+PrintDocument DocumentOf(const PrintedLines& lines) {
+  PrintDocument document;
+  for (const auto& [column, line] : lines) document.push_back({line, column});
+  return document;
+}
+
 class QtPrinterTest : public testing::Test {
  protected:
   void SetUp() override {
@@ -18,10 +24,7 @@ class QtPrinterTest : public testing::Test {
     service.SetPrinter("A4");
   }
 
-  void Print(const PrintedLines& lines) {
-    for (const auto& [column, line] : lines) printer.PrintLine(column, line);
-    printer.EndDoc();
-  }
+  void Print(const PrintedLines& lines) { printer.Print(DocumentOf(lines)); }
   // Prints the lines and expects them on the pages.
   PrintedPages ExpectPrinted(const PrintedLines& lines) {
     Print(lines);
@@ -98,14 +101,18 @@ TEST_F(QtPrinterTest, AdaptsToThePaper) {
 }
 
 TEST_F(QtPrinterTest, SeparatesDocumentsAndNeedsAPrinter) {
-  printer.EndDoc();  // none was begun
   ExpectPrinted({{1, "The first"}});
   Print({{1, "The second"}});
   PrintedPages second(service.Printed(2));
   ExpectLines(second, {{1, "The second"}});
   PrintService::RemovePrinters();
-  EXPECT_THROW(printer.PrintLine(1, "Nowhere"), RuntimeError);
-  printer.EndDoc();
+  EXPECT_FALSE(printer.IsThere());
+  const PrintedLines lines = {{7, "Nowhere"}, {1, std::string(200, 'm')}};
+  EXPECT_THROW(Print(lines), RuntimeError);
+  const std::string file = testing::TempDir() + "saved.pdf";
+  WriteFile(file, printer.Pdf(DocumentOf(lines)));
+  PrintedPages saved(file);
+  ExpectLines(saved, lines);
   service.SetPrinter("A4");
   Print({{0, "Here"}});  // column 0 counts as 1
   PrintedPages here(service.Printed());

@@ -67,8 +67,7 @@ TEST_F(ReportsTest, PrintsTheSessionAsInTheHistory) {
   ExpectFooter(pages);
 }
 
-TEST_F(ReportsTest, PrintsAMissingAndThenALongHistory) {
-  PrintHistory(1).ExpectEnd();
+TEST_F(ReportsTest, PrintsALongHistory) {
   std::string text;
   for (std::size_t i = 0; i < 200; ++i) {
     text += "-- 03-05-2003 @ 12:34\r\n             Organization: " + std::string(i, 'o') +
@@ -76,7 +75,7 @@ TEST_F(ReportsTest, PrintsAMissingAndThenALongHistory) {
   }
   text += std::string(3000, 'x') + "\r\n\nthe last line has no end, caf\xE9";
   WriteFile(fixture_.world.info.Resource("history.dat").Utf8(), text);
-  PrintedPages pages = PrintHistory(2);
+  PrintedPages pages = PrintHistory(1);
   EXPECT_GE(pages.Count(), 5U);
   for (const std::string_view line : Lines(text)) pages.ExpectLine(7, std::string(line));
   pages.ExpectLine(1, "");

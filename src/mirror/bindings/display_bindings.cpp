@@ -172,6 +172,9 @@ class PageViewerBinding : public WidgetBinding<PageViewer, QWidget> {
     host_.onCanGoBackChanged = [this](bool canGoBack) {
       context_.input.MovedOn(control_, canGoBack);
     };
+    host_.onShown = [this](const QUrl& address) {
+      context_.input.Arrived(control_, FromQString(address.toString(QUrl::FullyEncoded)));
+    };
   }
 
  private:

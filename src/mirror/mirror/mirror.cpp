@@ -2,8 +2,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
 #include <QEvent>
-#include <QMessageBox>
 #include <set>
 #include <string_view>
 
@@ -173,9 +173,8 @@ void Mirror::DoEvents() {
 bool Mirror::eventFilter(QObject* watched, QEvent* event) {
   if (IsSecondPress(*watched, *event)) return true;
   if (waits_ == 0 || !IsInput(event->type()) || !watched->isWidgetType()) return false;
-  const QWidget* const window = static_cast<QWidget*>(watched)->window();
-  // The program waits for the answer of this one.
-  if (qobject_cast<const QMessageBox*>(window) != nullptr) return false;
+  // The program waits for the answer of this one, and the toolkit keeps all others from input.
+  if (qobject_cast<const QDialog*>(QApplication::activeModalWidget()) != nullptr) return false;
   event->ignore();
   return true;
 }

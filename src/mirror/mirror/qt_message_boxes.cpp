@@ -1,7 +1,11 @@
 #include "mirror/mirror/qt_message_boxes.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include "mirror/look/texts.h"
@@ -23,6 +27,12 @@ QMessageBox::Icon Icon(BoxIcon icon) {
   return QMessageBox::NoIcon;
 }
 
+// The window that the box stands over; null when none is shown.
+QWidget* WindowBelow() {
+  QWidget* const active = QApplication::activeWindow();
+  return active != nullptr && active->isVisible() ? active : nullptr;
+}
+
 }  // namespace
 
 BoxAnswer QtMessageBoxes::Show(const std::string& title, const std::string& text, BoxIcon icon,
@@ -30,10 +40,8 @@ BoxAnswer QtMessageBoxes::Show(const std::string& title, const std::string& text
   const bool asks = buttons != BoxButtons::OK;
   // This updates the windows: one that closes now must not close the box with it.
   const WaitScope wait(waits_);
-  QWidget* const active = QApplication::activeWindow();
   QMessageBox box(Icon(icon), Drawn(title), Drawn(text),
-                  asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
-                  active != nullptr && active->isVisible() ? active : nullptr);
+                  asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, WindowBelow());
   box.setTextFormat(Qt::PlainText);
   if (asks) box.setEscapeButton(QMessageBox::No);
   if (buttons == BoxButtons::NoByDefault) box.setDefaultButton(QMessageBox::No);
@@ -41,6 +49,18 @@ BoxAnswer QtMessageBoxes::Show(const std::string& title, const std::string& text
   const int answer = box.exec();
   if (!asks) return BoxAnswer::OK;
   return answer == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
+}
+
+FilePath QtMessageBoxes::AskWhereToSave(const std::string& title, const std::string& name) {
+  const WaitScope wait(waits_);
+  const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  const QString proposed = ToQString(name);
+  QFileDialog dialog(WindowBelow(), Drawn(title), folder.filePath(proposed));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QFileInfo(proposed).suffix());
+  if (onFileDialogShown) QTimer::singleShot(0, &dialog, [&] { onFileDialogShown(dialog); });
+  if (dialog.exec() != QDialog::Accepted) return {};
+  return FilePath(dialog.selectedFiles().value(0).toStdString());
 }
 
 }  // namespace benevix

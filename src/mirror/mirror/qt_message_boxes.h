@@ -5,6 +5,7 @@
 #include "platform/message_boxes.h"
 #include "platform/waits.h"
 
+class QFileDialog;
 class QMessageBox;
 
 namespace benevix {
@@ -16,9 +17,11 @@ class QtMessageBoxes : public MessageBoxes {
 
   BoxAnswer Show(const std::string& title, const std::string& text, BoxIcon icon,
                  BoxButtons buttons) override;
+  FilePath AskWhereToSave(const std::string& title, const std::string& name) override;
 
   // Called once the box is on the screen.
   std::function<void(QMessageBox&)> onShown;
+  std::function<void(QFileDialog&)> onFileDialogShown;
 
  private:
   Waits& waits_;

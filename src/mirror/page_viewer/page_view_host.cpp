@@ -83,7 +83,10 @@ void PageViewHost::ShowPage(const QUrl& address) {
     return;
   }
   PageViewEvents events;
-  events.shown = [this](const QUrl& shown) { SetAddress(shown); };
+  events.shown = [this](const QUrl& shown) {
+    SetAddress(shown);
+    onShown(shown);
+  };
   events.canGoBackChanged = [this](bool canGoBack) { onCanGoBackChanged(canGoBack); };
   events.stopped = [this] {
     view_.reset();

@@ -25,6 +25,8 @@ class PageViewHost {
 
   // Called when the user has moved on and when GoBack leads nowhere any more.
   std::function<void(bool canGoBack)> onCanGoBackChanged = [](bool) {};
+  // Called with each address that is shown, the first one too.
+  std::function<void(const QUrl& address)> onShown = [](const QUrl&) {};
 
   // Shows a page in place of the one before. One that cannot be shown gives a notice, an empty one
   // an empty view.

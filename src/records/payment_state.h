@@ -1,0 +1,7 @@
+#pragma once
+
+namespace benevix {
+
+enum class PaymentState { NotKnown, Paid, Cancelled };
+
+}  // namespace benevix

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "controls/controls.h"
+#include "core/messages.h"
+#include "platform/environment.h"
+#include "records/payment_state.h"
+
+namespace benevix {
+
+// Whether the sessions that were sent have been paid, by their transaction IDs. The history does
+// not know it; this stands in a file beside it: one line "ID Paid", "ID Cancelled" or "ID
+// NotKnown", of which the last one holds.
+class PaymentStates {
+ public:
+  using States = std::map<std::string, PaymentState, std::less<>>;
+
+  PaymentStates(Environment& environment, Messages& messages, const PageViewer& viewer)
+      : environment_(environment), messages_(messages), viewer_(viewer) {}
+
+  // As the file is now; what it does not name, or cannot be read, is not known.
+  [[nodiscard]] States Read() const;
+
+  // Appends a line; when that fails, the user is told, and it gives false.
+  bool Set(const std::string& transaction, PaymentState state);
+
+  // When the payment page has come back to the server, its address tells how it ended.
+  void AfterEvent();
+
+ private:
+  [[nodiscard]] FilePath File() const { return environment_.info.Resource("payments.dat"); }
+
+  Environment& environment_;
+  Messages& messages_;
+  const PageViewer& viewer_;
+  std::string seenAddress_;
+};
+
+PaymentState StateOf(const PaymentStates::States& states, std::string_view transaction);
+
+}  // namespace benevix
