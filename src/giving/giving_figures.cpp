@@ -1,0 +1,98 @@
+#include "giving/giving_figures.h"
+
+#include <algorithm>
+
+namespace benevix {
+namespace {
+
+int MonthsSinceZero(const Day& day) {
+  return day.year * 12 + day.month - 1;
+}
+
+// The months of a range, or its years when it is longer than two of them.
+class Periods {
+ public:
+  explicit Periods(const DayRange& range)
+      : byYear_(MonthsSinceZero(range.to) - MonthsSinceZero(range.from) >= 24),
+        first_(IndexOf(range.from)),
+        periods_(static_cast<std::size_t>(std::max(0, IndexOf(range.to) - first_ + 1))) {
+    static constexpr const char* months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                             "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    int index = first_;
+    for (GivingPeriod& period : periods_) {
+      period.name = byYear_ ? std::to_string(index)
+                            : std::string(months[index % 12]) + " " + std::to_string(index / 12);
+      ++index;
+    }
+  }
+
+  void Add(const Day& day, Currency amount) {
+    periods_[static_cast<std::size_t>(IndexOf(day) - first_)].given += amount;
+  }
+  std::vector<GivingPeriod> Take() { return std::move(periods_); }
+
+ private:
+  [[nodiscard]] int IndexOf(const Day& day) const {
+    return byYear_ ? day.year : MonthsSinceZero(day);
+  }
+
+  bool byYear_;
+  int first_;
+  std::vector<GivingPeriod> periods_;
+};
+
+}  // namespace
+
+GivingFigures FiguresOf(const GivenHistory& history, const DayRange& range,
+                        const StateOfTransaction& stateOf) {
+  GivingFigures figures;
+  Periods periods(range);
+  std::vector<OrganizationGifts> organizations(history.Organizations().size());
+  const std::vector<GivenSession>& sessions = history.Sessions();
+  for (std::uint32_t index = 0; index < sessions.size(); ++index) {
+    const GivenSession& session = sessions[index];
+    if (!range.Has(session.day)) continue;
+    figures.sessions.push_back(index);
+    const PaymentState state = stateOf(history.Transaction(session));
+    if (state == PaymentState::Cancelled) continue;
+    ++figures.counted;
+    if (state == PaymentState::NotKnown) ++figures.notKnown;
+    figures.given += session.given;
+    figures.serviceFees += session.serviceFee;
+    figures.cardFees += session.cardFee;
+    figures.paid += session.paid;
+    periods.Add(session.day, session.given);
+    for (std::uint32_t i = session.firstGift; i < session.firstGift + session.gifts; ++i) {
+      const Gift& gift = history.Gifts()[i];
+      OrganizationGifts& sum = organizations[gift.organization];
+      ++sum.gifts;
+      if (gift.certificate) ++sum.certificates;
+      sum.total += gift.amount;
+      sum.last = std::max(sum.last, session.day);
+    }
+  }
+  for (std::uint32_t index = 0; index < organizations.size(); ++index) {
+    if (organizations[index].gifts == 0) continue;
+    figures.organizations.push_back(organizations[index]);
+    figures.organizations.back().organization = index;
+  }
+  std::stable_sort(figures.organizations.begin(), figures.organizations.end(),
+                   [](const auto& a, const auto& b) { return a.total > b.total; });
+  std::stable_sort(figures.sessions.begin(), figures.sessions.end(), [&](auto a, auto b) {
+    const GivenSession &left = sessions[a], &right = sessions[b];
+    return std::tie(right.day, right.hour, right.minute, b) <
+           std::tie(left.day, left.hour, left.minute, a);
+  });
+  figures.periods = periods.Take();
+  return figures;
+}
+
+std::optional<DayRange> WholeRange(const GivenHistory& history) {
+  const std::vector<GivenSession>& sessions = history.Sessions();
+  if (sessions.empty()) return std::nullopt;
+  const auto [first, last] = std::minmax_element(
+      sessions.begin(), sessions.end(), [](const auto& a, const auto& b) { return a.day < b.day; });
+  return DayRange{first->day, last->day};
+}
+
+}  // namespace benevix
