@@ -89,6 +89,7 @@ const std::vector<LineKind>& DrivingLines() {
       {"paste PATH TEXT", DoWithText<&FrontEnd::Paste>},
       {"press PATH KEY", DoWithText<&FrontEnd::Press>},
       {"select PATH NUMBER [right]", Select},
+      {"column PATH NUMBER", DoWithNumber<&FrontEnd::ClickColumn>},
       {"pick PATH TEXT", DoWithText<&FrontEnd::Pick>},
       {"leave PATH", DoPlain<&FrontEnd::Leave>},
       {"hover PATH", DoPlain<&FrontEnd::Hover>},

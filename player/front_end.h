@@ -38,6 +38,8 @@ class FrontEnd {
   // A key of words.h, or one character.
   virtual bool Press(const Target& target, const std::string& key) = 0;
   virtual bool Select(const Target& target, int row, MouseButton button) = 0;
+  // The heading of a table's column, from 0.
+  virtual bool ClickColumn(const Target& target, int column) = 0;
   virtual bool Pick(const Target& target, const std::string& entry) = 0;
   virtual bool Leave(const Target& target) = 0;
   virtual bool Hover(const Target& target) = 0;

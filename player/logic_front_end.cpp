@@ -107,8 +107,14 @@ class LogicFrontEnd : public FrontEnd {
   }
 
   bool Select(const Target& target, int row, MouseButton button) override {
+    if (auto* const table = target.control->As<Table>()) return User().SelectRow(*table, row);
     auto* const list = target.control->As<ListView>();
     return list && User().SelectRow(*list, row, button);
+  }
+
+  bool ClickColumn(const Target& target, int column) override {
+    auto* const table = target.control->As<Table>();
+    return table && User().ClickColumn(*table, column);
   }
 
   bool Pick(const Target& target, const std::string& entry) override {

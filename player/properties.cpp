@@ -86,6 +86,22 @@ struct Further {
     if (!cell || cell->row < 1 || cell->row > list->Count()) return std::nullopt;
     return list->SubItem(cell->row, cell->column);
   }
+  Text operator()(const Table* table) const {
+    if (property == "Count") return std::to_string(table->Count());
+    if (property == "Selected") return std::to_string(table->selected);
+    if (property == "Sorted") {
+      return std::to_string(table->sorted) + (table->descending ? " descending" : "");
+    }
+    const auto cell = CellIn(property);
+    if (!cell || cell->row < 1 || cell->row > table->Count()) return std::nullopt;
+    return table->rows->Text(cell->row, cell->column);
+  }
+  Text operator()(const Chart* chart) const {
+    if (property == "Count") return std::to_string(chart->marks.size());
+    const auto index = IndexIn(property, "Mark");
+    if (!index || *index < 1 || *index > static_cast<int>(chart->marks.size())) return std::nullopt;
+    return chart->marks[static_cast<std::size_t>(*index - 1)].text;
+  }
   Text operator()(const Shape* shape) const {
     if (property == "FillColor") return ColorText(shape->fillColor);
     if (property == "BorderColor") return ColorText(shape->borderColor);

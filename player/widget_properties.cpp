@@ -50,7 +50,7 @@ Text ReadList(const QTableView& view, const std::string& property, const Text& f
   if (property == "Count") return std::to_string(view.model()->rowCount());
   if (property == "Selected") return std::to_string(view.currentIndex().row() + 1);
   const auto cell = CellIn(property);
-  if (!cell) return fromStruct;
+  if (!cell || !view.model()->hasIndex(cell->row - 1, cell->column)) return fromStruct;
   return Shown(view.model()->index(cell->row - 1, cell->column).data().toString());
 }
 

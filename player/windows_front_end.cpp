@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -171,6 +172,17 @@ class WindowsFrontEnd : public FrontEnd {
     view->scrollTo(index);
     ClickAt(*view->viewport(), view->visualRect(index).center(),
             button == MouseButton::Right ? Qt::RightButton : Qt::LeftButton);
+    Settle();
+    return true;
+  }
+
+  bool ClickColumn(const Target& target, int column) override {
+    auto* const view = qobject_cast<QTableView*>(Reach(target));
+    if (view == nullptr) return false;
+    QHeaderView& header = *view->horizontalHeader();
+    const int left = header.sectionViewportPosition(column);
+    if (left < 0) return false;
+    ClickAt(*header.viewport(), {left + header.sectionSize(column) / 2, header.height() / 2});
     Settle();
     return true;
   }

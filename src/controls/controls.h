@@ -11,6 +11,7 @@
 #include "base/page.h"
 #include "controls/control.h"
 #include "controls/list_view.h"
+#include "controls/table.h"
 
 namespace benevix {
 
@@ -200,6 +201,22 @@ struct MoneyBar : Control {
   std::string remark;  // behind the parts' names
 };
 
+// Amounts as a picture: columns in the order of time, or shares of a whole, one below the other.
+struct Chart : Control {
+  enum class Kind { Columns, Shares };
+  struct Mark {
+    std::string name;
+    Currency amount;
+    std::string text;  // all that the mark says, for users who rest the mouse on it or hear it
+    friend bool operator==(const Mark&, const Mark&) = default;
+  };
+
+  explicit Chart(Kind ofKind = Kind::Columns) : kind(ofKind) {}
+
+  Kind kind;
+  std::vector<Mark> marks;
+};
+
 struct PageViewer : Control {
   Page page;
   int navigations = 0;     // how often a page was asked for
@@ -236,6 +253,6 @@ struct Window {
 using AnyControl =
     std::variant<TextBox*, Label*, Button*, OptionButton*, CheckBox*, ComboBox*, MenuItem*,
                  MenuArray*, Frame*, PictureBox*, Shape*, Line*, Timer*, ScrollBar*, ProgressBar*,
-                 MoneyBar*, PageViewer*, HttpControl*, ListView*>;
+                 MoneyBar*, Chart*, PageViewer*, HttpControl*, ListView*, Table*>;
 
 }  // namespace benevix

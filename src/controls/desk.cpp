@@ -123,7 +123,7 @@ bool Desk::TakesFocus(const NamedControl& control) {
   return control.As<TextBox>() != nullptr || control.As<Button>() != nullptr ||
          control.As<OptionButton>() != nullptr || control.As<CheckBox>() != nullptr ||
          control.As<ComboBox>() != nullptr || control.As<ListView>() != nullptr ||
-         control.As<ScrollBar>() != nullptr;
+         control.As<Table>() != nullptr || control.As<ScrollBar>() != nullptr;
 }
 
 void Desk::ChangeFocus(Entry& entry, Control* to) {

@@ -22,7 +22,8 @@ enum class Event {
   KeyUp,     // args.key is the key code
   GotFocus,
   LostFocus,
-  ItemClick,  // a row was chosen; args.button, args.byKeyboard
+  ItemClick,    // a row was chosen; args.button, args.byKeyboard
+  ColumnClick,  // the heading args.index of a table
   Tick,
   Scroll,
 };
@@ -38,7 +39,7 @@ inline constexpr int kEscape = 27;
 enum class MouseButton { Left = 1, Right = 2 };
 
 struct EventArgs {
-  int index = -1;  // of a menu array's element
+  int index = -1;  // of a menu array's element, or of a column
   int key = 0;
   std::string_view pasted = {};
   MouseButton button = MouseButton::Left;

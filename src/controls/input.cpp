@@ -250,6 +250,22 @@ bool Input::SelectRow(ListView& list, int row, MouseButton button, bool byKeyboa
   });
 }
 
+bool Input::SelectRow(Table& table, int row, bool byKeyboard) {
+  if (row < 1 || row > table.Count()) return false;
+  return Do(table, [&](Desk::Entry&) {
+    desk_.SetFocus(table);
+    table.selected = row;
+    Fire(table, Event::ItemClick, {.byKeyboard = byKeyboard});
+  });
+}
+
+bool Input::ClickColumn(Table& table, int column) {
+  if (!table.canBeSorted || column < 0 || column >= static_cast<int>(table.columns.size())) {
+    return false;
+  }
+  return Do(table, [&](Desk::Entry&) { Fire(table, Event::ColumnClick, {.index = column}); });
+}
+
 bool Input::Scroll(ScrollBar& bar, int value) {
   return Do(bar, [&](Desk::Entry&) {
     bar.value = value;

@@ -66,6 +66,8 @@ class Input {
   bool Pick(ComboBox& combo, int index);  // from 0
   // The row counts from 1.
   bool SelectRow(ListView& list, int row, MouseButton button, bool byKeyboard = false);
+  bool SelectRow(Table& table, int row, bool byKeyboard = false);
+  bool ClickColumn(Table& table, int column);  // from 0
   bool Scroll(ScrollBar& bar, int value);
   bool Tick(Timer& timer);
   // The user, or the page itself, has moved on in the pages of the viewer.

@@ -7,17 +7,9 @@
 #include <string>
 
 #include "controls/control.h"
+#include "controls/row_source.h"
 
 namespace benevix {
-
-// The rows of a list as they were loaded. Rows count from 1; column 0 is the item text, column n
-// sub-item n.
-class RowSource {
- public:
-  virtual ~RowSource() = default;
-  [[nodiscard]] virtual int Count() const = 0;
-  [[nodiscard]] virtual std::string Text(int row, int column) const = 0;
-};
 
 // A list with columns: the rows of its source, and over them the few cells that were written since.
 // So an event costs the same with three hundred rows and with two million.
@@ -26,6 +18,7 @@ struct ListView : Control {
   using Cells = std::array<std::string, kColumns>;
 
   std::array<std::string, kColumns> columns;  // captions
+  // As they were loaded; column 0 is the item text, column n sub-item n.
   std::shared_ptr<const RowSource> rows;
   std::map<int, Cells> cells;  // by row; an empty text shows the source's
   int selected = 0;            // row, 0 for none

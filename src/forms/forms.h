@@ -9,6 +9,7 @@
 #include "forms/frmPayOpt.h"
 #include "forms/frmPersInfo.h"
 #include "forms/frmPrefsTranslate.h"
+#include "forms/frmReport.h"
 #include "forms/frmSplash.h"
 #include "forms/frmSrch.h"
 #include "forms/frmTellAFriend.h"
@@ -35,7 +36,7 @@ class Forms {
 
  private:
   std::tuple<frmBVX, frmSplash, frmPayOpt, frmInfo, frmPersInfo, frmDonRankg, frmWait, frmWizard,
-             frmYtdTag, frmMail, frmTellAFriend, frmPrefsTranslate, frmSrch>
+             frmYtdTag, frmMail, frmTellAFriend, frmPrefsTranslate, frmSrch, frmReport>
       forms_;
 };
 

@@ -57,6 +57,7 @@ struct frmBVX : Window {
     }
     EnableOrganizationCommands(false);
     Unfinished.visible = false;
+    PastGifts.visible = false;
     for (Button* button : {&ContinueUnfinished, &StartAfresh}) button->holder = "Unfinished";
     mnuAddFees.checked = true;
     mnuDirectCurr.checked = true;
@@ -88,6 +89,7 @@ struct frmBVX : Window {
     mnuPrntSession.shortcut = "Ctrl+P";
     mnuHistory.shortcut = "Ctrl+H";
     mnuPrtHistory.shortcut = "Ctrl+Shift+P";
+    mnuReport.shortcut = "Ctrl+Shift+R";
     mnuUpdateList.shortcut = "F5";
     mnuExit.shortcut = "Ctrl+Q";
     mnuCls.shortcut = "Ctrl+Shift+Del";
@@ -146,6 +148,8 @@ struct frmBVX : Window {
   CheckBox Check2{"Request Certificate", "Tells charity you want a notification for tax purposes",
                   "Frame7"};
   Frame Frame9{"YTD Status"};
+  Frame PastGifts{"Your gifts here"};  // to the selected organization, in earlier sessions
+  Label PastGiftsText{"", {}, "PastGifts"};
 
   // The session that the last run left unfinished.
   PictureBox Unfinished;
@@ -174,6 +178,7 @@ struct frmBVX : Window {
   MenuItem mnuPrntSession{"Print this session", "TFile", true};
   MenuItem mnuHistory{"History", "TFile"};
   MenuItem mnuPrtHistory{"Print History", "TFile"};
+  MenuItem mnuReport{"Giving Report...", "TFile"};
   MenuItem mnuUpdateList{"Update List", "TFile", true};
   MenuItem mnuExit{"E&xit", "TFile", true};
 
@@ -262,6 +267,8 @@ void visit(frmBVX& window, F&& f) {
   f("Check2", window.Check2);
   f("Frame9", window.Frame9);
   f("iLbl", window.iLbl);
+  f("PastGifts", window.PastGifts);
+  f("PastGiftsText", window.PastGiftsText);
   f("Command1(1)", window.Command1);
   f("ContinueNote", window.ContinueNote);
   f("Label6", window.Label6);
@@ -293,6 +300,7 @@ void visit(frmBVX& window, F&& f) {
   f("mnuPrntSession", window.mnuPrntSession);
   f("mnuHistory", window.mnuHistory);
   f("mnuPrtHistory", window.mnuPrtHistory);
+  f("mnuReport", window.mnuReport);
   f("mnuUpdateList", window.mnuUpdateList);
   f("mnuExit", window.mnuExit);
   f("TEdit", window.TEdit);

@@ -38,8 +38,9 @@ std::string TakeRow(std::string_view& text) {
 void AddGift(PrintDocument& document, const std::string& day, std::string_view name,
              Currency amount, std::string_view transaction) {
   const std::string sum = RightAligned(Format(amount, kSumPattern));
-  document.push_back({Padded(Padded(day, kNameColumn) + TakeRow(name), kAmountColumn) + sum + "  " +
-                      std::string(transaction)});
+  std::string line = Padded(Padded(day, kNameColumn) + TakeRow(name), kAmountColumn) + sum;
+  if (!transaction.empty()) line += "  " + std::string(transaction);
+  document.push_back({line});
   while (!name.empty()) document.push_back({TakeRow(name), kNameColumn});
 }
 

@@ -19,6 +19,7 @@ void Program::ConnectEvents() {
   ConnectMainWindow();
   ConnectSessionMenus();
   ConnectOtherMenus();
+  ConnectReport();
   ConnectPayment();
   ConnectViewer();
   ConnectContact();
@@ -161,6 +162,37 @@ void Program::ConnectOtherMenus() {
              [this](EventArgs& args) { help_.qhelp1_Click(args.index); });
   on(main_.mnuSubmitList, [this] { help_.mnuSubmitList_Click(); });
   on(main_.whatisBtn1, [this] { help_.whatisBtn1_Click(); });
+}
+
+void Program::ConnectReport() {
+  frmReport& report = forms_.Get<frmReport>();
+  events_.On(main_.mnuReport, Event::Click, Plain([this] { givingReport_.mnuReport_Click(); }));
+  events_.On(report.Option1, Event::Click,
+             [this](int index, EventArgs&) { givingReport_.Option1_Click(index); });
+  events_.On(report.Text1, Event::KeyPress, [](int, EventArgs& args) {
+    const bool isOfDate = (args.key >= '0' && args.key <= '9') || args.key == '-';
+    if (!isOfDate && args.key != keys::kBackspace) args.key = 0;
+  });
+  events_.On(report.Text1, Event::KeyUp,
+             [this](int, EventArgs& args) { givingReport_.Text1_KeyUp(args); });
+  events_.On(report.Text1, Event::LostFocus,
+             [this](int, EventArgs&) { givingReport_.Text1_LostFocus(); });
+  events_.On(report.Goal, Event::KeyPress,
+             [](EventArgs& args) { MainWindow::Text1_KeyPress(args); });
+  events_.On(report.Goal, Event::Paste, [](EventArgs& args) { MainWindow::Text1_Paste(args); });
+  events_.On(report.Goal, Event::KeyUp,
+             [this](EventArgs& args) { givingReport_.Goal_KeyUp(args); });
+  events_.On(report.Goal, Event::LostFocus, Plain([this] { givingReport_.Goal_LostFocus(); }));
+  events_.On(report.Organizations, Event::ColumnClick,
+             [this](EventArgs& args) { givingReport_.Organizations_ColumnClick(args.index); });
+  events_.On(report.Sessions, Event::ItemClick,
+             [this](EventArgs& args) { givingReport_.Sessions_ItemClick(args); });
+  events_.On(report.Sessions, Event::KeyUp,
+             [this](EventArgs& args) { givingReport_.Sessions_KeyUp(args); });
+  events_.On(report.Option2, Event::Click,
+             [this](int index, EventArgs&) { givingReport_.Option2_Click(index); });
+  events_.On(report.Command1, Event::Click,
+             [this](int index, EventArgs&) { givingReport_.Command1_Click(index); });
 }
 
 void Program::ConnectPayment() {

@@ -89,7 +89,16 @@ Program::Program(const Environment& environment)
       paymentStates_(environment_, messages_, forms_.Get<frmInfo>().wb1),
       finalization_(main_, values_, desk_, paymentOptions_, notice_, viewer_, history_, journal_,
                     messages_, environment_.info.deployment),
-      printing_(environment_, forms_.Get<frmWait>(), desk_, main_, finalization_) {
+      printing_(environment_, forms_.Get<frmWait>(), desk_, main_, finalization_),
+      pastGifts_(main_, environment_, paymentStates_),
+      givingReport_(forms_.Get<frmReport>(), desk_, environment_, settings_, paymentStates_,
+                    {forms_.Get<frmPersInfo>(),
+                     [this](const std::string& date, const std::vector<OptionsRecord>& gifts) {
+                       const bool given = lastSession_.GiveAgain(date, gifts);
+                       if (given) journal_.NameStep("Recalled the session of " + date);
+                       return given;
+                     },
+                     [this] { pastGifts_.Read(); }}) {
   forms_.ForEach([this](auto& form) { desk_.Add(form); });
   ConnectEvents();
   input_.derive = [this] {
@@ -99,9 +108,11 @@ Program::Program(const Environment& environment)
     paymentStates_.AfterEvent();
     contact_.ShowWhatFollows();
     preview_.Show();
+    pastGifts_.Show();
     journalCommands_.Show();
     requests_.EndAction();
   };
+  history_.onWritten = paymentStates_.onNoted = [this] { HistoryChanged(); };
   input_.onError = [this](const RuntimeError& error) {
     messages_.Show(error.what(), BoxIcon::Critical);
   };
@@ -114,6 +125,11 @@ void Program::NewSession() {
   database_.BuildCountriesMenu();
   favorites_.LoadFavoritesMenu();
   ShowHint(main_, hint::kTypeBudget);
+}
+
+void Program::HistoryChanged() {
+  pastGifts_.Read();
+  givingReport_.Refresh();
 }
 
 void Program::ContactSaved(ContactCaller caller) {

@@ -11,6 +11,8 @@
 #include "core/settings_store.h"
 #include "database/organization_database.h"
 #include "forms/forms.h"
+#include "giving/giving_report.h"
+#include "giving/past_gifts.h"
 #include "help/help.h"
 #include "help/information_viewer.h"
 #include "help/wizard.h"
@@ -92,6 +94,8 @@ class Program {
   void TellUnrecorded();
   void frmBVX_Unload();
 
+  // The history or what is known of its payments has changed.
+  void HistoryChanged();
   void ContactSaved(ContactCaller caller);
   void DownloadUpdater();
 
@@ -101,6 +105,7 @@ class Program {
   void ConnectMainWindow();
   void ConnectSessionMenus();
   void ConnectOtherMenus();
+  void ConnectReport();
   void ConnectPayment();
   void ConnectViewer();
   void ConnectContact();
@@ -168,6 +173,9 @@ class Program {
   PaymentStates paymentStates_;
   Finalization finalization_;
   Printing printing_;
+
+  PastGifts pastGifts_;
+  GivingReport givingReport_;
 };
 
 }  // namespace benevix

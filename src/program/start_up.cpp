@@ -87,6 +87,7 @@ void Program::LoadMainWindow() {
   favorites_.LoadFavoritesMenu();
   database_.BuildCountriesMenu();
   journal_.Open(run_.HoldsFolder);
+  pastGifts_.Read();
 }
 
 void Program::frmBVX_Unload() {

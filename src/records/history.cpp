@@ -27,6 +27,7 @@ void History::TryToWrite(const std::string& ifNot) {
   try {
     environment_.files.Append(File(), pending_);
     pending_.clear();
+    onWritten();
   } catch (const RuntimeError& error) {
     messages_.Show("The session could not be written to the history. " + ifNot + "\r\n" +
                        std::string(error.what()),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "core/messages.h"
@@ -18,6 +19,9 @@ class History {
  public:
   History(Environment& environment, Messages& messages, InformationViewer& viewer, frmBVX& main)
       : environment_(environment), messages_(messages), viewer_(viewer), main_(main) {}
+
+  // Called when records were written.
+  std::function<void()> onWritten = [] {};
 
   // Appends the session's record in one write and returns it with its time. A failed write is
   // reported to the user, and the record is written with the next one.

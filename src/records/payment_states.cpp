@@ -69,8 +69,9 @@ void PaymentStates::AfterEvent() {
   const std::string transaction = TransactionPaidOn(viewer_.page.web);
   if (transaction.empty()) return;
   const std::string& server = environment_.info.deployment.serverBase;
-  if (IsPage(seenAddress_, server + kThankPage)) Set(transaction, PaymentState::Paid);
-  if (IsPage(seenAddress_, server + kCancelPage)) Set(transaction, PaymentState::Cancelled);
+  const bool isPaid = IsPage(seenAddress_, server + kThankPage);
+  if (!isPaid && !IsPage(seenAddress_, server + kCancelPage)) return;
+  if (Set(transaction, isPaid ? PaymentState::Paid : PaymentState::Cancelled)) onNoted();
 }
 
 }  // namespace benevix

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -19,6 +20,9 @@ class PaymentStates {
 
   PaymentStates(Environment& environment, Messages& messages, const PageViewer& viewer)
       : environment_(environment), messages_(messages), viewer_(viewer) {}
+
+  // Called when the page on which a payment ended has told how.
+  std::function<void()> onNoted = [] {};
 
   // As the file is now; what it does not name, or cannot be read, is not known.
   [[nodiscard]] States Read() const;

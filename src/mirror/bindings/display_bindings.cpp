@@ -12,6 +12,7 @@
 #include "mirror/bindings/mnemonics.h"
 #include "mirror/bindings/mouse_filter.h"
 #include "mirror/bindings/widget_binding.h"
+#include "mirror/look/chart_widget.h"
 #include "mirror/look/money_bar_widget.h"
 #include "mirror/look/shape_widget.h"
 #include "mirror/look/texts.h"
@@ -164,6 +165,24 @@ class MoneyBarBinding : public WidgetBinding<MoneyBar, MoneyBarWidget> {
   }
 };
 
+class ChartBinding : public WidgetBinding<Chart, ChartWidget> {
+ public:
+  using WidgetBinding::WidgetBinding;
+
+ private:
+  void ApplyKind() override {
+    std::vector<ChartWidget::Mark> marks;
+    QStringList texts;
+    for (const Chart::Mark& mark : control_.marks) {
+      marks.push_back({ToQString(mark.name), ToQString(Format(mark.amount, kSumPattern)),
+                       std::max(mark.amount.ToDouble(), 0.0), ToQString(mark.text)});
+      texts << ToQString(mark.text);
+    }
+    widget_.setAccessibleDescription(texts.join(QStringLiteral("; ")));
+    widget_.SetMarks(control_.kind == Chart::Kind::Shares, std::move(marks));
+  }
+};
+
 class PageViewerBinding : public WidgetBinding<PageViewer, QWidget> {
  public:
   PageViewerBinding(PageViewer& viewer, QWidget& widget, BindingContext& context)
@@ -199,8 +218,8 @@ class PageViewerBinding : public WidgetBinding<PageViewer, QWidget> {
 std::unique_ptr<Binding> MakeDisplayBinding(const NamedControl& control, QWidget& widget,
                                             BindingContext& context) {
   return MakeFirst<LabelBinding, FrameBinding, PictureBinding, ShapeBinding, ScrollBarBinding,
-                   ProgressBarBinding, MoneyBarBinding, PageViewerBinding>(control, widget,
-                                                                           context);
+                   ProgressBarBinding, MoneyBarBinding, ChartBinding, PageViewerBinding>(
+      control, widget, context);
 }
 
 }  // namespace benevix

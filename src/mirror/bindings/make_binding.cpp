@@ -40,8 +40,8 @@ std::unique_ptr<Binding> MakeBinding(const NamedControl& control, QWidget& windo
   if (control.index >= 0) name += QLatin1Char('_') + QString::number(control.index);
   QWidget* const widget = window.findChild<QWidget*>(name);
   if (widget == nullptr) return nullptr;
-  for (const auto make :
-       {MakeTextBinding, MakeButtonBinding, MakeListBinding, MakeDisplayBinding}) {
+  for (const auto make : {MakeTextBinding, MakeButtonBinding, MakeListBinding, MakeTableBinding,
+                          MakeDisplayBinding}) {
     if (auto binding = make(control, *widget, context)) return binding;
   }
   return nullptr;

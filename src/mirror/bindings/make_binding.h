@@ -20,6 +20,8 @@ std::unique_ptr<Binding> MakeDisplayBinding(const NamedControl& control, QWidget
                                             BindingContext& context);
 std::unique_ptr<Binding> MakeListBinding(const NamedControl& control, QWidget& widget,
                                          BindingContext& context);
+std::unique_ptr<Binding> MakeTableBinding(const NamedControl& control, QWidget& widget,
+                                          BindingContext& context);
 std::unique_ptr<Binding> MakeTextBinding(const NamedControl& control, QWidget& widget,
                                          BindingContext& context);
 
