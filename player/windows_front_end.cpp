@@ -224,6 +224,21 @@ class WindowsFrontEnd : public FrontEnd {
            binding->Widget().grab().save(folder.filePath(ToQString(name) + ".png"));
   }
 
+  void Cover() override {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+      if (window->isVisible()) window->showMinimized();
+    }
+    Settle();
+  }
+  void BringToFront() override {
+    mirror_.BringToFront();
+    Settle();
+  }
+  [[nodiscard]] bool IsInFront() const override {
+    const QWidget* const window = QApplication::activeWindow();
+    return window != nullptr && !window->isMinimized();
+  }
+
   std::optional<std::string> Read(const Target& target, const std::string& property) override {
     return ReadWidgetProperty(*program_, mirror_.BindingOf(*target.window->window), target,
                               property, scheme_);

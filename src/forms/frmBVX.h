@@ -147,7 +147,7 @@ struct frmBVX : Window {
                   "Frame7"};
   Frame Frame9{"YTD Status"};
 
-  // The session that the last run left unfinished.
+  // The session that the last run left unfinished; without the buttons, that this one is not kept.
   PictureBox Unfinished;
   Label UnfinishedText{"", {}, "Unfinished"};
   Button ContinueUnfinished{"Continue It", "Go on with this session where it was left"};

@@ -69,6 +69,7 @@ Timeline Journal::PresentSession() const {
 
 void Journal::Open(bool holdsFile) {
   holdsFile_ = holdsFile;
+  tellsNotKept_ = !holdsFile;
   places_.main.ListView1.writtenRows.clear();
   loads_ = List().loads;
   timeline_ = PresentSession();
@@ -99,6 +100,7 @@ void Journal::AfterEvent() {
   const std::string amended = Amended(before);
   timeline_.Note(Now(), std::move(name), fields, rows);
   unfinished_.reset();
+  tellsNotKept_ = false;
   Write(amended + StepLine(*timeline_.ToUndo()));
 }
 
