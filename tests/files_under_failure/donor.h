@@ -31,7 +31,9 @@ class Donor {
   void Start();
   void Save(const std::string& address);
   void EnterBudget(const std::string& dollars);
-  void ChoosePayment();
+  void ChoosePayment(std::size_t method);
+  // To every question from now on.
+  void Answer(bool yes) { boxes_.answer = yes ? BoxAnswer::Yes : BoxAnswer::No; }
   void Donate(const std::string& id, const std::string& amount);
   void AddFavorite(const std::string& id);
   void RemoveFavorite(int index);
@@ -39,8 +41,8 @@ class Donor {
   void Continue();
 
   [[nodiscard]] Confirmed State();
-  // Balance, donations and deducted fees together are the Budget.
-  [[nodiscard]] bool KeepsBooks();
+  // The Budget less Balance, donations and deducted fees: 0 where the books are kept.
+  [[nodiscard]] Currency Unbooked();
   [[nodiscard]] bool HasEnded() { return program_->TheDesk().Ended(); }
   [[nodiscard]] Program& TheProgram() { return *program_; }
   // Everything that the program said, in its message boxes and in the guidance line.

@@ -31,7 +31,8 @@ std::string TextOf(Donor& donor) {
   std::string text;
   for (const std::string& part : donor.State()) text += part + '\1';
   text += donor.Said() + '\1' + std::to_string(fileCalls.count) + '\1';
-  return text + (donor.KeepsBooks() ? "1\1" : "0\1") + (donor.HasEnded() ? "1\1" : "0\1");
+  return text + (donor.Unbooked() == Currency() ? "1\1" : "0\1") +
+         (donor.HasEnded() ? "1\1" : "0\1");
 }
 
 std::vector<Told> ReadTold(std::istream& text) {
