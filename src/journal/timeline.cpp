@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <ranges>
+#include <utility>
 
 #include "journal/step_name.h"
 
@@ -62,9 +63,12 @@ void Timeline::Undo() {
 }
 
 void Timeline::Redo() {
-  const Step& step = steps_[done_++];
-  for (const auto* changes : {&step.fields, &step.later}) {
-    for (const FieldChange& change : *changes) fields_[change.field] = change.after;
+  Step& step = steps_[done_++];
+  // What changed since the undo without being a step is what stands before this one now.
+  for (auto* changes : {&step.fields, &step.later}) {
+    for (FieldChange& change : *changes) {
+      change.before = std::exchange(fields_[change.field], change.after);
+    }
   }
   for (const RowChange& change : step.rows) SetRow(change.row, change.after);
 }

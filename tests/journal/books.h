@@ -72,8 +72,8 @@ class Books {
       const Currency kept = now.donated > none ? none : last_.balance;
       if (now.budget == now.donated && now.balance == kept) return meet("a refused large Budget");
       // The Balance is counted anew without the fees that were deducted from it.
-      if (now.budget > last_.budget && now.balance == now.budget - now.donated)
-        return meet("a larger Budget while fees are deducted");
+      if (now.budget >= last_.budget && now.balance == now.budget - now.donated)
+        return meet("a Budget while fees are deducted");
     }
     // Leaves the Balance once, with the first donation by e-check, and stands in no row.
     const bool takes = now.sessionFeeTaken && !last_.sessionFeeTaken;
