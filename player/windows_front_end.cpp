@@ -142,7 +142,7 @@ class WindowsFrontEnd : public FrontEnd {
 
   bool Press(const Target& target, const std::string& key) override {
     QWidget* const widget = Desk::TakesFocus(*target.control) ? Reach(target) : nullptr;
-    if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
+    if (widget == nullptr || !GiveFocus(target, *widget)) return false;
     SendNamedKey(*widget, key);
     Settle();
     return true;
@@ -161,7 +161,7 @@ class WindowsFrontEnd : public FrontEnd {
 
   bool Pick(const Target& target, const std::string& entry) override {
     auto* const combo = qobject_cast<QComboBox*>(Reach(target));
-    if (combo == nullptr || !FocusByMouse(target, *combo)) return false;
+    if (combo == nullptr || !GiveFocus(target, *combo)) return false;
     combo->hidePopup();
     const int index = combo->findText(ToQString(entry), Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (index < 0) return false;
@@ -173,7 +173,7 @@ class WindowsFrontEnd : public FrontEnd {
 
   bool Leave(const Target& target) override {
     QWidget* const widget = Desk::TakesFocus(*target.control) ? Reach(target) : nullptr;
-    if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
+    if (widget == nullptr || !GiveFocus(target, *widget)) return false;
     const bool left = program_->TheInput().Leave(target.control->Base());
     Settle();
     return left;
@@ -280,7 +280,7 @@ class WindowsFrontEnd : public FrontEnd {
   // The widget with the focus and without a text; null when it cannot be reached.
   QWidget* Empty(const Target& target) {
     QWidget* const widget = Reach(target);
-    if (widget == nullptr || !FocusByMouse(target, *widget)) return nullptr;
+    if (widget == nullptr || !GiveFocus(target, *widget)) return nullptr;
     if (WidgetText(*widget) != QString()) {
       SendKey(*widget, Qt::Key_A, QString(), Qt::ControlModifier);
       SendKey(*widget, Qt::Key_Delete, QString());
@@ -288,10 +288,14 @@ class WindowsFrontEnd : public FrontEnd {
     return widget;
   }
 
-  bool FocusByMouse(const Target& target, QWidget& widget) {
+  bool GiveFocus(const Target& target, QWidget& widget) {
     const Desk& desk = program_->TheDesk();
     if (desk.FocusOf(*target.window->window) != &target.control->Base()) {
-      ClickAt(widget, widget.rect().center());
+      if (IsClickable(*target.control)) {
+        widget.setFocus(Qt::TabFocusReason);  // a click would do more
+      } else {
+        ClickAt(widget, widget.rect().center());
+      }
       Settle();
     }
     return desk.FocusOf(*target.window->window) == &target.control->Base();

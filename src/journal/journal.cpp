@@ -232,6 +232,7 @@ RowStates Journal::ContinueUnfinished() {
   }
   fileFollows_ = false;
   Write("");
+  desk_.SetFocus(main.ListView1);
   return missing;
 }
 
@@ -252,6 +253,7 @@ void Journal::ReturnMoney(const RowStates& missing) {
 void Journal::GiveUpUnfinished() {
   unfinished_.reset();
   RemoveFile();
+  desk_.SetFocus(places_.main.Text1[money_box::kBudget]);
 }
 
 void Journal::Sending(const std::string& transactionId) {

@@ -46,10 +46,10 @@ void Timeline::Note(std::string time, std::string name, const SessionFields& fie
 }
 
 void Timeline::Amend(const SessionFields& fields) {
-  if (done_ > 0) {
-    for (FieldChange& change : Difference(fields_, fields)) {
-      Add(steps_[done_ - 1].later, std::move(change));
-    }
+  for (FieldChange& change : Difference(fields_, fields)) {
+    // What was undone was done with the other choice: a donation in the other fee mode.
+    if (KindOf(change.field) == FieldKind::Choice) steps_.resize(done_);
+    if (done_ > 0) Add(steps_[done_ - 1].later, std::move(change));
   }
   fields_ = fields;
 }
