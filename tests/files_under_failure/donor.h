@@ -19,6 +19,8 @@ inline const std::string kRows =
     "00000123 Savanna Schools, Education\r\n";
 inline const std::string kOldList = ";QUORL1.0000\r\n" + kRows;
 inline const std::string kNewList = ";QUORL2\r\n" + kRows + "00000124 Another, Education\r\n";
+// Memory keeps what a killed process wrote as a disk does, and nothing waits for it.
+void KeepWorldsInMemory();
 // A world with the old list and a server that offers the new one; the donor is known.
 void Furnish(World& world);
 

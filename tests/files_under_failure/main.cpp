@@ -237,8 +237,7 @@ int Test(int seconds, unsigned seed) {
 }  // namespace benevix
 
 int main(int argc, char** argv) {
-  // Memory keeps what a killed process wrote as a disk does, and nothing waits for it.
-  if (access("/dev/shm", W_OK) == 0) setenv("TMPDIR", "/dev/shm", 0);
+  benevix::KeepWorldsInMemory();
   const QCoreApplication application(argc, argv);
   return benevix::Test(argc > 1 ? std::atoi(argv[1]) : 0,
                        argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1);

@@ -36,8 +36,9 @@ std::string Differences(const State& is, const State& was) {
 }
 
 TEST(JournalTest, EverythingIsUndoneRedoneAndContinued) {
+  KeepWorldsInMemory();
   std::size_t steps = 0;
-  for (unsigned seed = 10; seed <= 130; ++seed) {
+  for (unsigned seed = 10; seed < 80; ++seed) {
     SCOPED_TRACE(seed);
     World world;
     Furnish(world);
