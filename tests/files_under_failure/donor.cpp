@@ -121,17 +121,6 @@ Confirmed Donor::State() {
   return {session, favorites, program_->Codec().Unscramble(contact)};
 }
 
-Currency Donor::Unbooked() {
-  const SessionValues& values = program_->Values();
-  Currency unbooked = values.Budget - values.Balance - values.TotalDonated;
-  for (const auto& [row, cells] : Main().ListView1.cells) {
-    if (!Main().mnuDeductFees.checked) break;
-    unbooked -= Currency::FromText(cells[column::kFee]);
-    unbooked -= Currency::FromText(cells[column::kCardFee]);
-  }
-  return unbooked;
-}
-
 std::string Donor::Said() {
   std::string said = Main().Label6.caption + Main().Text1[money_box::kDonation].note +
                      program_->TheForms().Get<frmPersInfo>().Text1[0].note;

@@ -43,8 +43,6 @@ class Donor {
   void Continue();
 
   [[nodiscard]] Confirmed State();
-  // The Budget less Balance, donations and deducted fees: 0 where the books are kept.
-  [[nodiscard]] Currency Unbooked();
   [[nodiscard]] bool HasEnded() { return program_->TheDesk().Ended(); }
   [[nodiscard]] Program& TheProgram() { return *program_; }
   // Everything that the program said, in its message boxes and in the guidance line.

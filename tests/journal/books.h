@@ -4,8 +4,8 @@
 #include <set>
 #include <string>
 
-#include "../files_under_failure/donor.h"
 #include "database/organization_list.h"
+#include "program/program.h"
 
 namespace benevix {
 
@@ -14,15 +14,15 @@ namespace benevix {
 // entered, or goes with an undo.
 class Books {
  public:
-  explicit Books(Donor& donor) : last_(Read(donor)) {}
+  explicit Books(Program& program) : last_(Read(program)) {}
 
   // To be called after each event; gives what is wrong, empty when the books are kept.
-  std::string Follow(Donor& donor) {
-    const Money now = Read(donor);
+  std::string Follow(Program& program) {
+    const Money now = Read(program);
     const bool known =
         now.unbooked == Currency() || now.unbooked == last_.unbooked || known_.contains(now.Text());
     std::string fault = now.donated == now.inRows ? "" : "rows and total differ: " + now.Text();
-    if (!known && !IsException(now, donor.TheProgram())) {
+    if (!known && !IsException(now, program)) {
       fault += "from " + last_.Text() + " to " + now.Text();
     }
     known_.insert(now.Text());
@@ -35,7 +35,8 @@ class Books {
 
  private:
   struct Money {
-    Currency budget, balance, donated, inRows, unbooked;
+    Currency budget, balance, donated, inRows;
+    Currency unbooked;  // of the Budget, neither left nor donated nor deducted as fees
     bool sessionFeeTaken = false;
     std::map<int, ListView::Cells> rows;
 
@@ -47,20 +48,21 @@ class Books {
     }
   };
 
-  static Money Read(Donor& donor) {
-    const SessionValues& values = donor.TheProgram().Values();
-    Money money{values.Budget,
-                values.Balance,
-                values.TotalDonated,
-                {},
-                donor.Unbooked(),
-                values.SessionFeeTaken,
-                {}};
-    money.rows = donor.TheProgram().TheForms().Get<frmBVX>().ListView1.cells;
+  static Money Read(Program& program) {
+    const SessionValues& values = program.Values();
+    const frmBVX& main = program.TheForms().Get<frmBVX>();
+    Money money{values.Budget,          values.Balance,      values.TotalDonated, {}, {},
+                values.SessionFeeTaken, main.ListView1.cells};
+    money.unbooked = values.Budget - values.Balance - values.TotalDonated;
     for (const auto& [row, cells] : money.rows) {
       money.inRows += Currency::FromText(cells[column::kAmount]);
+      if (main.mnuDeductFees.checked) money.unbooked -= Fees(cells);
     }
     return money;
+  }
+
+  static Currency Fees(const ListView::Cells& cells) {
+    return Currency::FromText(cells[column::kFee]) + Currency::FromText(cells[column::kCardFee]);
   }
 
   bool IsException(const Money& now, Program& program) const {
@@ -93,9 +95,7 @@ class Books {
 
   [[nodiscard]] Currency FormerFees(int row) const {
     const auto former = last_.rows.find(row);
-    if (former == last_.rows.end()) return {};
-    const ListView::Cells& cells = former->second;
-    return Currency::FromText(cells[column::kFee]) + Currency::FromText(cells[column::kCardFee]);
+    return former == last_.rows.end() ? Currency() : Fees(former->second);
   }
 
   Money last_;

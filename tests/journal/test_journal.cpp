@@ -7,6 +7,7 @@
 #include <optional>
 #include <random>
 
+#include "../files_under_failure/donor.h"
 #include "books.h"
 
 namespace benevix {
@@ -47,8 +48,8 @@ TEST(JournalTest, EverythingIsUndoneRedoneAndContinued) {
     std::optional<Books> books;
     for (const auto& step : RandomWay(random)) {
       step(donor);
-      if (!books) books.emplace(donor);
-      EXPECT_EQ(books->Follow(donor), "");
+      if (!books) books.emplace(donor.TheProgram());
+      EXPECT_EQ(books->Follow(donor.TheProgram()), "");
     }
 
     // Back to where the session began, and there again: each state as it was.
@@ -56,7 +57,7 @@ TEST(JournalTest, EverythingIsUndoneRedoneAndContinued) {
       std::vector<State> passed = {StateOf(donor.TheProgram())};
       while (donor.TheProgram().TheForms().Get<frmBVX>().mnuUndo.enabled) {
         donor.Choose(&frmBVX::mnuUndo);
-        EXPECT_EQ(books->Follow(donor), "");
+        EXPECT_EQ(books->Follow(donor.TheProgram()), "");
         passed.push_back(StateOf(donor.TheProgram()));
       }
       return passed;
