@@ -79,7 +79,7 @@ void RunningCopy::Listen(const QString& address) {
   if (!server_.listen(address)) lock_.reset();  // nobody has to wait for it
 }
 
-void RunningCopy::Answer(QLocalSocket& socket) {
+void RunningCopy::Answer(QLocalSocket& socket) const {
   if (!socket.canReadLine()) return;
   onSecondStart(socket.readLine(kLongestToken + 1).trimmed());
   socket.write("\n");

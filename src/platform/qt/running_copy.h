@@ -35,7 +35,7 @@ class RunningCopy {
 
  private:
   void Listen(const QString& address);
-  void Answer(QLocalSocket& socket);
+  void Answer(QLocalSocket& socket) const;
 
   std::unique_ptr<FolderLock> lock_;
   QLocalServer server_;
