@@ -76,12 +76,19 @@ void Shot(ProgramRunner& runner, const Texts& words) {
     throw CannotBeDone("there is nothing to take a picture of");
 }
 
+void StartAgain(ProgramRunner& runner, const Texts& /*words*/) {
+  runner.TheFrontEnd().Cover();
+  if (!runner.StartAgain()) throw Mismatch{"the second start to end,", "two copies"};
+  if (!runner.TheFrontEnd().IsInFront()) throw Mismatch{"windows in front,", "covered ones"};
+}
+
 }  // namespace
 
 const std::vector<LineKind>& DrivingLines() {
   static const std::vector<LineKind> kinds = {
       {"start", [](ProgramRunner& runner, const Texts&) { runner.Start(); }},
       {"restart", [](ProgramRunner& runner, const Texts&) { runner.Restart(); }},
+      {"start-again", StartAgain, false, true},
       {"second", [](ProgramRunner& runner, const Texts&) { runner.StartSecond(); }},
       {"kill", [](ProgramRunner& runner, const Texts&) { runner.Kill(); }},
       {"click PATH", DoPlain<&FrontEnd::Click>},

@@ -51,6 +51,11 @@ class FrontEnd {
   virtual bool Close(Desk::Entry& window) = 0;
   virtual bool Shot(const std::string& name) = 0;
 
+  // Another program covers the windows until they are brought to the front.
+  virtual void Cover() = 0;
+  virtual void BringToFront() = 0;
+  [[nodiscard]] virtual bool IsInFront() const = 0;
+
   // The property's text; nothing when there is no such property, row or element.
   virtual std::optional<std::string> Read(const Target& target, const std::string& property) = 0;
 

@@ -155,6 +155,10 @@ class LogicFrontEnd : public FrontEnd {
 
   bool Shot(const std::string& /*name*/) override { return true; }
 
+  void Cover() override { isInFront_ = false; }
+  void BringToFront() override { isInFront_ = true; }
+  [[nodiscard]] bool IsInFront() const override { return isInFront_; }
+
   std::optional<std::string> Read(const Target& target, const std::string& property) override {
     return ReadProperty(program_->TheDesk(), target, property);
   }
@@ -257,6 +261,7 @@ class LogicFrontEnd : public FrontEnd {
   CountedWaits waits_;
   QueuedAnswers boxes_;
   std::map<const TextBox*, Seen> seen_;
+  bool isInFront_ = true;
 };
 
 }  // namespace

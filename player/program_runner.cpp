@@ -1,5 +1,8 @@
 #include "player/program_runner.h"
 
+#include <QEventLoop>
+#include <QThread>
+
 #include "player/script.h"
 #include "player/words.h"
 
@@ -17,6 +20,7 @@ ProgramRunner::~ProgramRunner() {
 
 void ProgramRunner::Start() {
   if (IsRunning()) throw CannotBeDone("the program runs already");
+  TakeTurn();
   Launch();
 }
 
@@ -27,19 +31,42 @@ void ProgramRunner::Restart() {
     if (desk.IsLoaded(main)) program_->TheInput().Enter([&] { desk.Unload(main); });
     AfterLine();
   }
+  TakeTurn();
   Launch();
+}
+
+bool ProgramRunner::StartAgain() {
+  if (!IsRunning() || !runningCopy_) throw CannotBeDone("the program does not run, or twice");
+  bool ends = false;
+  const std::unique_ptr<QThread> start(
+      QThread::create([&] { ends = RunningCopy(world_.files, world_.Meeting(), "").IsSecond(); }));
+  QEventLoop loop;  // in which the running copy answers
+  QObject::connect(start.get(), &QThread::finished, &loop, &QEventLoop::quit);
+  start->start();
+  loop.exec();
+  start->wait();
+  return ends;
 }
 
 void ProgramRunner::StartSecond() {
   if (!IsRunning() || firstCopy_) throw CannotBeDone("there is no first copy, or a second one");
   frontEnd_.Stop();
+  runningCopy_.reset();
   firstCopy_ = std::move(program_);
   Launch();
 }
 
 void ProgramRunner::Kill() {
   firstCopy_.reset();
+  TakeTurn();
   Launch();
+}
+
+void ProgramRunner::TakeTurn() {
+  runningCopy_.reset();
+  if (firstCopy_) return;
+  runningCopy_ = std::make_unique<RunningCopy>(world_.files, world_.Meeting(), "");
+  runningCopy_->onSecondStart = [this](const QByteArray&) { frontEnd_.BringToFront(); };
 }
 
 void ProgramRunner::Launch() {

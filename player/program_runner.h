@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/qt/qt_http_client.h"
+#include "platform/qt/running_copy.h"
 #include "player/front_end.h"
 #include "player/world.h"
 #include "program/program.h"
@@ -27,8 +28,12 @@ class ProgramRunner {
   // Ends the program as closing the main window would and starts it again. One that has ended, or
   // still shows its splash, is only started.
   void Restart();
-  // Starts the program once more while it runs. The script goes on with the second copy; the first
-  // one keeps running, without its windows. Raises CannotBeDone when the program does not run.
+  // Starts the program once more while it runs, as a user would. False when two copies would run.
+  // Raises CannotBeDone when the program does not run, or when two copies do.
+  bool StartAgain();
+  // Starts the program once more while it runs, where the copies do not find each other. The script
+  // goes on with the second copy; the first one keeps running, without its windows. Raises
+  // CannotBeDone when the program does not run.
   void StartSecond();
   // Lets the program, all its copies, no time to end, as a power cut does, and starts it again.
   void Kill();
@@ -47,12 +52,15 @@ class ProgramRunner {
 
  private:
   void Launch();
+  // Becomes the copy that a second start finds, except beside a first copy.
+  void TakeTurn();
 
   World& world_;
   FrontEnd& frontEnd_;
   QtHttpClient client_;
   RecordingHttpClient http_;
   std::unique_ptr<Program> firstCopy_;  // while the script is with the second one
+  std::unique_ptr<RunningCopy> runningCopy_;
   std::unique_ptr<Program> program_;
   bool finished_ = false;
   std::optional<std::string> navigated_;

@@ -159,7 +159,7 @@ class WindowsFrontEnd : public FrontEnd {
 
   bool Press(const Target& target, const std::string& key) override {
     QWidget* const widget = Desk::TakesFocus(*target.control) ? Reach(target) : nullptr;
-    if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
+    if (widget == nullptr || !GiveFocus(target, *widget)) return false;
     SendNamedKey(*widget, key);
     Settle();
     return true;
@@ -189,7 +189,7 @@ class WindowsFrontEnd : public FrontEnd {
 
   bool Pick(const Target& target, const std::string& entry) override {
     auto* const combo = qobject_cast<QComboBox*>(Reach(target));
-    if (combo == nullptr || !FocusByMouse(target, *combo)) return false;
+    if (combo == nullptr || !GiveFocus(target, *combo)) return false;
     combo->hidePopup();
     const int index = combo->findText(ToQString(entry), Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (index < 0) return false;
@@ -201,7 +201,7 @@ class WindowsFrontEnd : public FrontEnd {
 
   bool Leave(const Target& target) override {
     QWidget* const widget = Desk::TakesFocus(*target.control) ? Reach(target) : nullptr;
-    if (widget == nullptr || !FocusByMouse(target, *widget)) return false;
+    if (widget == nullptr || !GiveFocus(target, *widget)) return false;
     const bool left = program_->TheInput().Leave(target.control->Base());
     Settle();
     return left;
@@ -259,6 +259,21 @@ class WindowsFrontEnd : public FrontEnd {
            binding->Widget().grab().save(folder.filePath(ToQString(name) + ".png"));
   }
 
+  void Cover() override {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+      if (window->isVisible()) window->showMinimized();
+    }
+    Settle();
+  }
+  void BringToFront() override {
+    mirror_.BringToFront();
+    Settle();
+  }
+  [[nodiscard]] bool IsInFront() const override {
+    const QWidget* const window = QApplication::activeWindow();
+    return window != nullptr && !window->isMinimized();
+  }
+
   std::optional<std::string> Read(const Target& target, const std::string& property) override {
     return ReadWidgetProperty(*program_, mirror_.BindingOf(*target.window->window), target,
                               property, scheme_);
@@ -300,7 +315,7 @@ class WindowsFrontEnd : public FrontEnd {
   // The widget with the focus and without a text; null when it cannot be reached.
   QWidget* Empty(const Target& target) {
     QWidget* const widget = Reach(target);
-    if (widget == nullptr || !FocusByMouse(target, *widget)) return nullptr;
+    if (widget == nullptr || !GiveFocus(target, *widget)) return nullptr;
     if (WidgetText(*widget) != QString()) {
       SendKey(*widget, Qt::Key_A, QString(), Qt::ControlModifier);
       SendKey(*widget, Qt::Key_Delete, QString());
@@ -308,10 +323,14 @@ class WindowsFrontEnd : public FrontEnd {
     return widget;
   }
 
-  bool FocusByMouse(const Target& target, QWidget& widget) {
+  bool GiveFocus(const Target& target, QWidget& widget) {
     const Desk& desk = program_->TheDesk();
     if (desk.FocusOf(*target.window->window) != &target.control->Base()) {
-      ClickAt(widget, widget.rect().center());
+      if (IsClickable(*target.control)) {
+        widget.setFocus(Qt::TabFocusReason);  // a click would do more
+      } else {
+        ClickAt(widget, widget.rect().center());
+      }
       Settle();
     }
     return desk.FocusOf(*target.window->window) == &target.control->Base();

@@ -20,7 +20,7 @@ std::string WithSlashes(std::string text) {
 World::World()
     : settings(Inside("settings")),
       shell(FilePath(Inside("programs")), FilePath(Inside("desktop"))) {
-  for (const char* folder : {"program/Resources", "programs", "desktop"}) {
+  for (const char* folder : {"program/Resources", "programs", "desktop", "runtime"}) {
     std::filesystem::create_directories(PathOf(Inside(folder)));
   }
   info.folder = FilePath(Inside("program"));

@@ -7,6 +7,7 @@
 
 #include "platform/linux/linux_files.h"
 #include "platform/program_info.h"
+#include "platform/qt/running_copy.h"
 #include "platform/random_numbers.h"
 #include "player/world_clock.h"
 #include "player/world_records.h"
@@ -47,6 +48,11 @@ class World {
   // of slash, as the system wants it.
   [[nodiscard]] std::string ProgramFile(const std::string& path) const;
   [[nodiscard]] std::string ShellFile(const std::string& folder, const std::string& path) const;
+
+  // Where the copies of the program find each other.
+  [[nodiscard]] MeetingPlace Meeting() const {
+    return {folder_.filePath("runtime"), QString::fromStdString(info.folder.Utf8())};
+  }
 
   // What the next start of the program is told.
   ProgramInfo info;

@@ -3,10 +3,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <array>
 
-#include "base/runtime_error.h"
 #include "core/codec.h"
 #include "core/settings_store.h"
 #include "people/contact_information.h"
@@ -32,16 +30,14 @@ RunFolder::RunFolder(const QString& path) : path_(path) {
 }
 
 void RunFolder::UseSite(const QString& address) const {
-  QSaveFile file(path_ + "/deployment.ini");
   const Deployment values = DeploymentOn(address.toStdString());
-  const QByteArray bytes = QByteArray::fromStdString(
-      "ServerBase=" + values.serverBase + "\nPaymentBase=" + values.paymentBase +
-      "\nMail=" + values.mail + "\nTranslationName=" + values.translationName +
-      "\nTranslationBase=" + values.translationBase + "\nCopyright=" + values.copyright +
-      "\nProduct=" + values.product + "\n");
-  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-    throw RuntimeError(file.fileName().toStdString() + ": " + file.errorString().toStdString());
-  }
+  const std::string text = "ServerBase=" + values.serverBase +
+                           "\nPaymentBase=" + values.paymentBase + "\nMail=" + values.mail +
+                           "\nTranslationName=" + values.translationName +
+                           "\nTranslationBase=" + values.translationBase +
+                           "\nCopyright=" + values.copyright + "\nProduct=" + values.product + "\n";
+  const FilePath file((path_ + "/deployment.ini").toStdString());
+  LinuxFiles().Replace(file, text, Readers::Everyone);
 }
 
 void RunFolder::EnsureContact() const {

@@ -7,12 +7,13 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "benevix/machine.h"
-#include "benevix/running_copy.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
 #include "mirror/mirror/qt_message_boxes.h"
 #include "mirror/mirror/window_layout.h"
+#include "platform/linux/linux_files.h"
 #include "platform/linux/program_folder.h"
+#include "platform/qt/running_copy.h"
 #include "program/program.h"
 
 namespace {
@@ -45,7 +46,11 @@ int RunOn(Machine& machine, Mirror& mirror) {
 
 int Run(const QByteArray& token) {
   const std::string executable = QCoreApplication::applicationFilePath().toStdString();
-  RunningCopy copy(ProgramFolder(executable), token);
+  LinuxFiles files;
+  RunningCopy copy(
+      files,
+      {qEnvironmentVariable("XDG_RUNTIME_DIR"), QString::fromStdString(ProgramFolder(executable))},
+      token);
   if (copy.IsSecond()) return 0;
   const Scheme scheme = DesktopScheme();
   ApplyTheme(*qApp, scheme);

@@ -151,7 +151,7 @@ struct frmBVX : Window {
   Frame PastGifts{"Your gifts here"};  // to the selected organization, in earlier sessions
   Label PastGiftsText{"", {}, "PastGifts"};
 
-  // The session that the last run left unfinished.
+  // The session that the last run left unfinished; without the buttons, that this one is not kept.
   PictureBox Unfinished;
   Label UnfinishedText{"", {}, "Unfinished"};
   Button ContinueUnfinished{"Continue It", "Go on with this session where it was left"};

@@ -69,6 +69,7 @@ Timeline Journal::PresentSession() const {
 
 void Journal::Open(bool holdsFile) {
   holdsFile_ = holdsFile;
+  tellsNotKept_ = !holdsFile;
   places_.main.ListView1.writtenRows.clear();
   loads_ = List().loads;
   timeline_ = PresentSession();
@@ -99,6 +100,7 @@ void Journal::AfterEvent() {
   const std::string amended = Amended(before);
   timeline_.Note(Now(), std::move(name), fields, rows);
   unfinished_.reset();
+  tellsNotKept_ = false;
   Write(amended + StepLine(*timeline_.ToUndo()));
 }
 
@@ -230,6 +232,7 @@ RowStates Journal::ContinueUnfinished() {
   }
   fileFollows_ = false;
   Write("");
+  desk_.SetFocus(main.ListView1);
   return missing;
 }
 
@@ -250,6 +253,7 @@ void Journal::ReturnMoney(const RowStates& missing) {
 void Journal::GiveUpUnfinished() {
   unfinished_.reset();
   RemoveFile();
+  desk_.SetFocus(places_.main.Text1[money_box::kBudget]);
 }
 
 void Journal::Sending(const std::string& transactionId) {

@@ -49,6 +49,9 @@ class Journal {
   // their rows.
   RowStates ContinueUnfinished();
   void GiveUpUnfinished();
+  // The file is another running copy's, so that this copy's session does not survive its end. Until
+  // the first step.
+  [[nodiscard]] bool TellsNotKept() const { return tellsNotKept_; }
 
   // The notice of the session is about to be sent under this ID. Until it is known whether it was,
   // and until its record stands in the history, the file tells so.
@@ -102,6 +105,7 @@ class Journal {
   std::optional<SentNote> sent_;  // of this run
   std::optional<SentNote> unrecorded_;
   bool holdsFile_ = false;
+  bool tellsNotKept_ = false;
   bool fileFollows_ = false;  // the file tells where the timeline stands
   SessionFields standing_;    // where the file stands
   bool reported_ = false;

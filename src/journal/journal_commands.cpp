@@ -7,6 +7,9 @@
 namespace benevix {
 namespace {
 
+constexpr const char* kNotKept =
+    "The program runs twice. A session that this copy leaves unfinished is not kept.";
+
 // "&" marks a letter in a caption; two stand for one.
 std::string WithoutMarks(const std::string& text) {
   std::string caption;
@@ -37,8 +40,13 @@ void JournalCommands::Show() {
   Name(main_.mnuUndo, "Undo", journal_.ToUndo());
   Name(main_.mnuRedo, "Redo", journal_.ToRedo());
   const Timeline* const unfinished = journal_.Unfinished();
-  main_.Unfinished.visible = unfinished != nullptr;
-  main_.UnfinishedText.caption = unfinished == nullptr ? std::string() : Describe(*unfinished);
+  std::string& text = main_.UnfinishedText.caption;
+  text = unfinished != nullptr ? Describe(*unfinished) : "";
+  if (journal_.TellsNotKept()) text = kNotKept;
+  main_.Unfinished.visible = !text.empty();
+  for (Button* button : {&main_.ContinueUnfinished, &main_.StartAfresh}) {
+    button->visible = unfinished != nullptr;
+  }
 }
 
 void JournalCommands::ContinueUnfinished_Click() {

@@ -7,7 +7,7 @@
 namespace benevix {
 
 // What the main window offers of the journal: Undo and Redo, and the strip with a session that the
-// last run left unfinished.
+// last run left unfinished, or which tells that a second copy does not keep its own.
 class JournalCommands {
  public:
   JournalCommands(frmBVX& main, Journal& journal, Messages& messages)

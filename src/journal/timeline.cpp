@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <ranges>
+#include <utility>
 
 #include "journal/step_name.h"
 
@@ -45,10 +46,10 @@ void Timeline::Note(std::string time, std::string name, const SessionFields& fie
 }
 
 void Timeline::Amend(const SessionFields& fields) {
-  if (done_ > 0) {
-    for (FieldChange& change : Difference(fields_, fields)) {
-      Add(steps_[done_ - 1].later, std::move(change));
-    }
+  for (FieldChange& change : Difference(fields_, fields)) {
+    // What was undone was done with the other choice: a donation in the other fee mode.
+    if (KindOf(change.field) == FieldKind::Choice) steps_.resize(done_);
+    if (done_ > 0) Add(steps_[done_ - 1].later, std::move(change));
   }
   fields_ = fields;
 }
@@ -62,9 +63,12 @@ void Timeline::Undo() {
 }
 
 void Timeline::Redo() {
-  const Step& step = steps_[done_++];
-  for (const auto* changes : {&step.fields, &step.later}) {
-    for (const FieldChange& change : *changes) fields_[change.field] = change.after;
+  Step& step = steps_[done_++];
+  // What changed since the undo without being a step is what stands before this one now.
+  for (auto* changes : {&step.fields, &step.later}) {
+    for (FieldChange& change : *changes) {
+      change.before = std::exchange(fields_[change.field], change.after);
+    }
   }
   for (const RowChange& change : step.rows) SetRow(change.row, change.after);
 }

@@ -61,7 +61,7 @@ class Timeline {
   // dropped. Without a name the step is called by what it changed.
   void Note(std::string time, std::string name, const SessionFields& fields,
             const std::map<int, std::optional<RowState>>& rows);
-  // Something that is no step led to `fields`.
+  // Something that is no step led to `fields`. What was undone is dropped if it was a choice.
   void Amend(const SessionFields& fields);
 
   // The step that would be undone or redone next; null without one.

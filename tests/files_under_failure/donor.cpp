@@ -1,11 +1,17 @@
 #include "donor.h"
 
+#include <cstdlib>
 #include <filesystem>
+#include <unistd.h>
 
 #include "database/organization_list.h"
 #include "people/contact_information.h"
 
 namespace benevix {
+
+void KeepWorldsInMemory() {
+  if (access("/dev/shm", W_OK) == 0) setenv("TMPDIR", "/dev/shm", 0);
+}
 
 void Furnish(World& world) {
   world.files.Replace(world.info.Resource("sharedb.dat"), kOldList, Readers::Everyone);
@@ -50,10 +56,10 @@ void Donor::EnterBudget(const std::string& dollars) {
   Enter(Main().Text1[money_box::kBudget], dollars);
 }
 
-void Donor::ChoosePayment() {
+void Donor::ChoosePayment(std::size_t method) {
   auto& payment = program_->TheForms().Get<frmPayOpt>();
   if (!program_->TheDesk().IsShown(payment)) return;
-  Input().Choose(payment.Option1[0]);
+  Input().Choose(payment.Option1[method]);
   Input().Click(payment.Command1[0]);
 }
 
@@ -115,16 +121,6 @@ Confirmed Donor::State() {
   return {session, favorites, program_->Codec().Unscramble(contact)};
 }
 
-bool Donor::KeepsBooks() {
-  const SessionValues& values = program_->Values();
-  Currency sum = values.Balance + values.TotalDonated;
-  for (const auto& [row, cells] : Main().ListView1.cells) {
-    if (!Main().mnuDeductFees.checked) break;
-    sum += Currency::FromText(cells[column::kFee]) + Currency::FromText(cells[column::kCardFee]);
-  }
-  return sum == values.Budget;
-}
-
 std::string Donor::Said() {
   std::string said = Main().Label6.caption + Main().Text1[money_box::kDonation].note +
                      program_->TheForms().Get<frmPersInfo>().Text1[0].note;
@@ -142,7 +138,7 @@ Way FixedWay() {
       [](Donor& donor) { donor.RemoveFavorite(0); },
       [](Donor& donor) { donor.Choose(&frmBVX::mnuDeductFees); },
       [](Donor& donor) { donor.EnterBudget("500"); },
-      &Self::ChoosePayment,
+      [](Donor& donor) { donor.ChoosePayment(0); },
       [](Donor& donor) { donor.Choose(&frmBVX::mnuPercentBal); },
       [](Donor& donor) { donor.Donate("42", "20"); },
       [](Donor& donor) { donor.Choose(&frmBVX::mnuDirectCurr); },
@@ -172,7 +168,10 @@ Way RandomWay(std::mt19937& random) {
   Way way = {&Donor::Start};
   while (way.size() < 25) {
     const std::string id = std::vector<std::string>{"42", "7", "123"}[random() % 3];
-    const std::string amount = std::to_string(upTo(90));
+    const std::string amount = std::to_string(upTo(upTo(1) == 0 ? 9 : 90));
+    const std::string budget = upTo(4) == 0 ? "9999" : amount;  // the program asks about that
+    const auto method = static_cast<std::size_t>(upTo(2));
+    const bool yes = upTo(2) > 0;
     const auto command = commands[random() % commands.size()];
     switch (upTo(11)) {
       case 0:
@@ -182,8 +181,9 @@ Way RandomWay(std::mt19937& random) {
         way.emplace_back(&Donor::Continue);
         break;
       case 2:
-        way.emplace_back([=](Donor& donor) { donor.EnterBudget(amount); });
-        way.emplace_back(&Donor::ChoosePayment);
+        way.emplace_back([=](Donor& donor) { donor.Answer(yes); });
+        way.emplace_back([=](Donor& donor) { donor.EnterBudget(budget); });
+        way.emplace_back([=](Donor& donor) { donor.ChoosePayment(method); });
         break;
       case 3:
         way.emplace_back([=](Donor& donor) { donor.AddFavorite(id); });

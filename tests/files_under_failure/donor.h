@@ -19,6 +19,8 @@ inline const std::string kRows =
     "00000123 Savanna Schools, Education\r\n";
 inline const std::string kOldList = ";QUORL1.0000\r\n" + kRows;
 inline const std::string kNewList = ";QUORL2\r\n" + kRows + "00000124 Another, Education\r\n";
+// Memory keeps what a killed process wrote as a disk does, and nothing waits for it.
+void KeepWorldsInMemory();
 // A world with the old list and a server that offers the new one; the donor is known.
 void Furnish(World& world);
 
@@ -31,7 +33,9 @@ class Donor {
   void Start();
   void Save(const std::string& address);
   void EnterBudget(const std::string& dollars);
-  void ChoosePayment();
+  void ChoosePayment(std::size_t method);
+  // To every question from now on.
+  void Answer(bool yes) { boxes_.answer = yes ? BoxAnswer::Yes : BoxAnswer::No; }
   void Donate(const std::string& id, const std::string& amount);
   void AddFavorite(const std::string& id);
   void RemoveFavorite(int index);
@@ -39,8 +43,6 @@ class Donor {
   void Continue();
 
   [[nodiscard]] Confirmed State();
-  // Balance, donations and deducted fees together are the Budget.
-  [[nodiscard]] bool KeepsBooks();
   [[nodiscard]] bool HasEnded() { return program_->TheDesk().Ended(); }
   [[nodiscard]] Program& TheProgram() { return *program_; }
   // Everything that the program said, in its message boxes and in the guidance line.

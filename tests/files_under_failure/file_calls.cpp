@@ -31,11 +31,18 @@ bool IsOurs(int file) {
   return fileCalls.watched && file >= 0 && file < 1024 && ours[static_cast<std::size_t>(file)];
 }
 
+enum class Needs { Nothing, Room };
+
+bool IsHit(long call, Needs needs) {
+  if (fileCalls.fault == Fault::FullDisk) return call >= fileCalls.at && needs == Needs::Room;
+  return fileCalls.fault != Fault::None && call == fileCalls.at;
+}
+
 template <class Place>
-bool Fails(Place place) {
-  if (!IsOurs(place) || ++fileCalls.count != fileCalls.at) return false;
-  if (fileCalls.kills) _exit(kKilled);
-  errno = EIO;
+bool Fails(Place place, Needs needs = Needs::Nothing) {
+  if (!IsOurs(place) || !IsHit(++fileCalls.count, needs)) return false;
+  if (fileCalls.fault == Fault::Kill) _exit(kKilled);
+  errno = fileCalls.fault == Fault::FullDisk ? ENOSPC : EIO;
   return true;
 }
 
@@ -51,7 +58,8 @@ int open(const char* path, int flags, ...) {
   va_start(rest, flags);
   const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
   va_end(rest);
-  if (Fails(path)) return -1;
+  const bool creates = (flags & O_CREAT) != 0 && faccessat(AT_FDCWD, path, F_OK, 0) != 0;
+  if (Fails(path, creates ? Needs::Room : Needs::Nothing)) return -1;
   const int file = Real<int(const char*, int, ...)>("open")(path, flags, mode);
   if (file >= 0 && file < 1024) ours[static_cast<std::size_t>(file)] = IsOurs(path);
   return file;
@@ -65,8 +73,8 @@ int close(int file) {
 // Half of the bytes get there.
 ssize_t write(int file, const void* bytes, std::size_t size) {
   const auto real = Real<ssize_t(int, const void*, std::size_t)>("write");
-  if (IsOurs(file) && fileCalls.count + 1 == fileCalls.at) real(file, bytes, size / 2);
-  return Fails(file) ? -1 : real(file, bytes, size);
+  if (IsOurs(file) && IsHit(fileCalls.count + 1, Needs::Room)) real(file, bytes, size / 2);
+  return Fails(file, Needs::Room) ? -1 : real(file, bytes, size);
 }
 
 ssize_t read(int file, void* bytes, std::size_t size) {
@@ -78,10 +86,10 @@ ssize_t pread(int file, void* bytes, std::size_t size, off_t at) {
              : Real<ssize_t(int, void*, std::size_t, off_t)>("pread")(file, bytes, size, at);
 }
 int fsync(int file) {
-  return Fails(file) ? -1 : Real<int(int)>("fsync")(file);
+  return Fails(file, Needs::Room) ? -1 : Real<int(int)>("fsync")(file);
 }
 int fdatasync(int file) {
-  return Fails(file) ? -1 : Real<int(int)>("fdatasync")(file);
+  return Fails(file, Needs::Room) ? -1 : Real<int(int)>("fdatasync")(file);
 }
 int ftruncate(int file, off_t size) noexcept {
   return Fails(file) ? -1 : Real<int(int, off_t)>("ftruncate")(file, size);
@@ -102,9 +110,10 @@ int unlink(const char* path) noexcept {
   return Fails(path) ? -1 : Real<int(const char*)>("unlink")(path);
 }
 int rename(const char* from, const char* to) noexcept {
-  return Fails(to) ? -1 : Real<int(const char*, const char*)>("rename")(from, to);
+  return Fails(to, Needs::Room) ? -1 : Real<int(const char*, const char*)>("rename")(from, to);
 }
 int symlink(const char* target, const char* link) noexcept {
-  return Fails(link) ? -1 : Real<int(const char*, const char*)>("symlink")(target, link);
+  return Fails(link, Needs::Room) ? -1
+                                  : Real<int(const char*, const char*)>("symlink")(target, link);
 }
 }

@@ -4,13 +4,20 @@
 
 namespace benevix {
 
+enum class Fault {
+  None,
+  Kill,      // of the process, in the middle of the call
+  Failure,   // of this call alone
+  FullDisk,  // from this call on: what needs room on the disk fails
+};
+
 // The calls of this process on files below a folder. While they are watched they are counted, and
-// the call with the number `at` fails, or kills the process in its middle.
+// the fault comes at the call with the number `at`.
 struct FileCalls {
   bool watched = false;
   std::string folder;
   long at = 0;
-  bool kills = false;
+  Fault fault = Fault::None;
   long count = 0;
 };
 extern FileCalls fileCalls;

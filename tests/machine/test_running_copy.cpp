@@ -7,8 +7,9 @@
 #include <csignal>
 #include <gtest/gtest.h>
 
-#include "benevix/running_copy.h"
+#include "platform/linux/linux_files.h"
 #include "platform/linux/program_folder.h"
+#include "platform/qt/running_copy.h"
 #include "platform/temp_files.h"
 
 namespace benevix {
@@ -23,7 +24,8 @@ class RunningCopyTest : public testing::Test {
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("XDG_ACTIVATION_TOKEN", "token");
-    programFolder_ = ProgramFolder(BENEVIX_PROGRAM);
+    place_ = {qEnvironmentVariable("XDG_RUNTIME_DIR"),
+              QString::fromStdString(ProgramFolder(BENEVIX_PROGRAM))};
   }
   [[nodiscard]] bool IsListening() const {
     const QDir runtime(QString::fromStdString(folder_ / ""));
@@ -32,7 +34,8 @@ class RunningCopyTest : public testing::Test {
   }
 
   TempFolder folder_;
-  std::string programFolder_;
+  LinuxFiles files_;
+  MeetingPlace place_;
 };
 
 TEST_F(RunningCopyTest, ASecondStartEndsAndOneThatIsDeadOrHangsBlocksNothing) {
@@ -40,17 +43,17 @@ TEST_F(RunningCopyTest, ASecondStartEndsAndOneThatIsDeadOrHangsBlocksNothing) {
   QElapsedTimer watch;
   first.start(BENEVIX_PROGRAM, QStringList());
   for (watch.start(); !IsListening() && watch.elapsed() < 20'000;) QThread::msleep(10);
-  EXPECT_TRUE(RunningCopy(programFolder_, "").IsSecond());
-  EXPECT_FALSE(RunningCopy(folder_ / "another", "").IsSecond());
+  EXPECT_TRUE(RunningCopy(files_, place_, "").IsSecond());
+  EXPECT_FALSE(RunningCopy(files_, {place_.runtimeFolder, "another"}, "").IsSecond());
   const auto process = static_cast<pid_t>(first.processId());
   kill(process, SIGSTOP);
   watch.start();
-  EXPECT_FALSE(RunningCopy(programFolder_, "").IsSecond());
+  EXPECT_FALSE(RunningCopy(files_, place_, "").IsSecond());
   EXPECT_LT(watch.elapsed(), 3000);
   kill(process, SIGKILL);
   first.waitForFinished();
 
-  RunningCopy copy(programFolder_, "");
+  RunningCopy copy(files_, place_, "");
   QEventLoop loop;
   QByteArray told;
   copy.onSecondStart = [&](const QByteArray& token) { told = token; };
@@ -62,8 +65,7 @@ TEST_F(RunningCopyTest, ASecondStartEndsAndOneThatIsDeadOrHangsBlocksNothing) {
   EXPECT_EQ(second.exitCode(), 0);
   EXPECT_EQ(told, "token");
 
-  qunsetenv("XDG_RUNTIME_DIR");
-  EXPECT_FALSE(RunningCopy(programFolder_, "").IsSecond());
+  EXPECT_FALSE(RunningCopy(files_, {{}, place_.programFolder}, "").IsSecond());
 }
 
 }  // namespace

@@ -247,7 +247,9 @@ bool WindowBinding::FilterControl(const BoundControl& bound, QEvent& event) {
       return false;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-      return keys_.Filter(control, widget, static_cast<const QKeyEvent&>(event));
+      // A key that a button does not take goes on to the frame around it.
+      return widget_->focusWidget() == &widget &&
+             keys_.Filter(control, widget, static_cast<const QKeyEvent&>(event));
     case QEvent::ToolTip:
       return ShowTip(control, widget, static_cast<const QHelpEvent&>(event));
     default:

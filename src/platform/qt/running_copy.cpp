@@ -1,4 +1,4 @@
-#include "benevix/running_copy.h"
+#include "platform/qt/running_copy.h"
 
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
@@ -9,7 +9,6 @@
 #include <unistd.h>
 
 #include "base/runtime_error.h"
-#include "platform/linux/linux_files.h"
 
 namespace benevix {
 namespace {
@@ -25,10 +24,11 @@ QByteArray Display() {
 
 // Where the copies of this user, program folder and display meet, created when missing; empty when
 // there is no such place.
-QString MeetingFolder(const QString& programFolder) {
-  const QFileInfo runtime(qEnvironmentVariable("XDG_RUNTIME_DIR"));
+QString MeetingFolder(const MeetingPlace& place) {
+  const QFileInfo runtime(place.runtimeFolder);
   if (!runtime.isAbsolute() || !runtime.isDir() || runtime.ownerId() != geteuid()) return {};
-  const QByteArray key = QFileInfo(programFolder).absoluteFilePath().toUtf8() + '\n' + Display();
+  const QByteArray program = QFileInfo(place.programFolder).absoluteFilePath().toUtf8();
+  const QByteArray key = program + '\n' + Display();
   const QByteArray name = QCryptographicHash::hash(key, QCryptographicHash::Sha256).toHex();
   const QString folder = runtime.filePath() + "/benevix-" + name.left(16);
   return QDir().mkpath(folder) ? folder : QString();
@@ -49,14 +49,14 @@ bool BringToFront(const QString& address, const QByteArray& token, const QDeadli
 
 }  // namespace
 
-RunningCopy::RunningCopy(const std::string& programFolder, const QByteArray& token) {
-  const QString folder = MeetingFolder(QString::fromStdString(programFolder));
+RunningCopy::RunningCopy(Files& files, const MeetingPlace& place, const QByteArray& token) {
+  const QString folder = MeetingFolder(place);
   if (folder.isEmpty()) return;
   const QString address = folder + "/socket";
   const QDeadlineTimer deadline(kPatience);
   try {
     do {
-      lock_ = LinuxFiles().Lock(FilePath(folder.toStdString()), {});
+      lock_ = files.Lock(FilePath(folder.toStdString()), {});
       isSecond_ = !lock_ && BringToFront(address, token, deadline);
       if (!lock_ && !isSecond_) QThread::msleep(kInterval);
     } while (!lock_ && !isSecond_ && !deadline.hasExpired());
@@ -79,7 +79,7 @@ void RunningCopy::Listen(const QString& address) {
   if (!server_.listen(address)) lock_.reset();  // nobody has to wait for it
 }
 
-void RunningCopy::Answer(QLocalSocket& socket) {
+void RunningCopy::Answer(QLocalSocket& socket) const {
   if (!socket.canReadLine()) return;
   onSecondStart(socket.readLine(kLongestToken + 1).trimmed());
   socket.write("\n");
