@@ -6,6 +6,7 @@
 
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "benevix/command.h"
 #include "benevix/machine.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
@@ -70,6 +71,7 @@ int Run(const QByteArray& token) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (const auto status = benevix::RunCommand(argc, argv)) return *status;
   const QByteArray token = qgetenv(kActivationToken);  // before the toolkit takes it
   const QApplication app(argc, argv);
   QApplication::setApplicationName("Benevix");

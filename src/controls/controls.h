@@ -208,6 +208,7 @@ struct Chart : Control {
     std::string name;
     Currency amount;
     std::string text;  // all that the mark says, for users who rest the mouse on it or hear it
+    std::string share = {};  // of the whole, behind the amount: "12%"
     friend bool operator==(const Mark&, const Mark&) = default;
   };
 

@@ -20,7 +20,7 @@ struct Table : Control {
   struct Column {
     std::string caption;
     bool isNumber = false;  // stands at the right side
-    int width = 12;         // characters, at first
+    int width = 12;         // digits, at first; its caption has room, too
   };
 
   Table() = default;
@@ -34,6 +34,7 @@ struct Table : Control {
   [[nodiscard]] int Count() const { return rows ? rows->Count() : 0; }
 
   std::vector<Column> columns;
+  int widest = 0;            // the column that takes what room is left
   bool canBeSorted = false;  // by a click on a column's heading
   int sorted = -1;           // the column by which the rows are sorted, -1 for none
   bool descending = false;

@@ -30,6 +30,7 @@ struct frmReport : Window {
     Periods.holder = Shares.holder = Goal.holder = GoalUse.holder = "Content";
     Organizations.holder = Sessions.holder = Frame2.holder = "Content";
     Organizations.canBeSorted = true;
+    Sessions.widest = 2;
     Empty.visible = false;
     Unread.visible = false;
     Told.visible = false;
@@ -60,22 +61,24 @@ struct frmReport : Window {
   Table Organizations{"Ctrl+1 to Ctrl+5 sort by a column",
                       {{"Organization", false, 40},
                        {"Gifts", true, 8},
-                       {"Total", true, 14},
-                       {"Last", false, 13},
-                       {"Certificates", true, 14}}};
+                       {"Total", true, 10},
+                       {"Last", false, 10},
+                       {"Certificates", true, 4}}};
   Label Totals{"", {}, "Content"};
+  Label NotKnown{"", {}, "Content"};  // how many sessions nobody knows to be paid
   Label SessionsTitle{"Sessions", {}, "Content"};
   Table Sessions{"A click, or Enter, shows a session's gifts",
-                 {{"Date", false, 20},
-                  {"Transaction", false, 28},
+                 {{"Date", false, 10},
+                  {"Transaction", false, 23},
                   {"Organizations", false, 30},
-                  {"Given", true, 12},
-                  {"Fees", true, 10},
-                  {"Paid", true, 12},
-                  {"Method", false, 16},
-                  {"State", false, 13}}};
+                  {"Given", true, 9},
+                  {"Fees", true, 7},
+                  {"Paid", true, 9},
+                  {"Method", false, 13},
+                  {"State", false, 10}}};
   // Of the selected session.
-  Frame Frame2{"The selected session was"};
+  Frame Frame2{"State"};
+  Label Label2{"The selected session was", {}, "Frame2"};
   OptionButton Option2[3] = {OptionButton("Paid", {}, "Frame2"),
                              OptionButton("Cancelled", {}, "Frame2"),
                              OptionButton("Not known", {}, "Frame2")};
@@ -104,9 +107,11 @@ void visit(frmReport& window, F&& f) {
   f("OrganizationsTitle", window.OrganizationsTitle);
   f("Organizations", window.Organizations);
   f("Totals", window.Totals);
+  f("NotKnown", window.NotKnown);
   f("SessionsTitle", window.SessionsTitle);
   f("Sessions", window.Sessions);
   f("Frame2", window.Frame2);
+  f("Label2", window.Label2);
   f("Option2", window.Option2);
   f("Unread", window.Unread);
   f("Told", window.Told);

@@ -15,9 +15,13 @@ void AddText(std::string& line, std::string_view text) {
   constexpr std::string_view formulas = "=+-@\t\r";
   line += ",\"";
   if (!text.empty() && formulas.find(text[0]) != std::string_view::npos) line += '\'';
-  for (const char c : ToUtf8(text)) {
+  for (const char& c : text) {
     if (c == '"') line += '"';
-    line += c;
+    if (static_cast<unsigned char>(c) < 0x80) {
+      line += c;
+    } else {
+      line += ToUtf8({&c, 1});
+    }
   }
   line += '"';
 }
@@ -70,8 +74,9 @@ std::string GiftsCsv(const GivenHistory& history, const DayRange& range,
       csv += begin;
       AddText(csv, history.Organizations()[gift.organization]);
       AddAmount(csv, gift.amount);
-      AddText(csv, history.From(gift));
-      AddText(csv, history.Delivery(gift));
+      const GiftTexts texts = history.TextsOf(gift);
+      AddText(csv, texts.from);
+      AddText(csv, texts.delivery);
       csv += gift.proof ? ",yes" : ",no";
       csv += gift.certificate ? ",yes" : ",no";
       csv += end;

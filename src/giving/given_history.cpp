@@ -27,6 +27,10 @@ GivenHistory::GivenHistory(const Files& files, const FilePath& file) {
   ReadAll();
 }
 
+GivenHistory::GivenHistory(std::string_view records) : bytes_(records.begin(), records.end()) {
+  ReadAll();
+}
+
 void GivenHistory::ReadAll() {
   constexpr std::size_t isLong = std::size_t{1} << 20;  // worth a second thread
   const std::string_view text(bytes_.data(), bytes_.size());
@@ -81,16 +85,6 @@ GiftTexts GivenHistory::TextsOf(const Gift& gift) const {
   GiftTexts texts;
   texts.Read(line);
   return texts;
-}
-
-std::string_view GivenHistory::From(const Gift& gift) const {
-  return TextsOf(gift).from;
-}
-std::string_view GivenHistory::Delivery(const Gift& gift) const {
-  return TextsOf(gift).delivery;
-}
-std::string_view GivenHistory::AmountText(const Gift& gift) const {
-  return TextsOf(gift).amountText;
 }
 
 std::string PaymentMethod(std::string_view transaction) {

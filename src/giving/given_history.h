@@ -35,7 +35,17 @@ struct GivenSession {
 using GiftList = std::vector<Gift, LargeAllocator<Gift>>;
 
 class HistoryReader;
-struct GiftTexts;
+
+// The texts of a gift, as they stand in the history.
+struct GiftTexts {
+  std::string_view name, amountText;
+  std::string_view from, delivery;  // who the donor is said to be, and how the gift is delivered
+  Currency amount;
+  bool proof = false, certificate = false;
+
+  // False for a line, without its indent, that is no gift.
+  bool Read(std::string_view line);
+};
 
 // What the history says, read in one pass over its bytes, which stay in memory: texts are cut from
 // them when they are asked for. A line that is no part of a record, or is damaged, is counted and
@@ -45,6 +55,14 @@ class GivenHistory {
   GivenHistory() = default;
   // A file that does not exist is an empty history. Raises RuntimeError when it cannot be read.
   GivenHistory(const Files& files, const FilePath& file);
+  // Some of its records.
+  explicit GivenHistory(std::string_view records);
+  // Its names are views of its bytes.
+  GivenHistory(const GivenHistory&) = delete;
+  GivenHistory& operator=(const GivenHistory&) = delete;
+  GivenHistory(GivenHistory&&) = default;
+  GivenHistory& operator=(GivenHistory&&) = default;
+  ~GivenHistory() = default;
 
   // In the order of the file.
   [[nodiscard]] const std::vector<GivenSession>& Sessions() const { return sessions_; }
@@ -56,17 +74,12 @@ class GivenHistory {
   [[nodiscard]] std::string_view Transaction(const GivenSession& session) const {
     return {bytes_.data() + session.transaction, session.transactionSize};
   }
-  // Who the donor is said to be, and how the gift is delivered.
-  [[nodiscard]] std::string_view From(const Gift& gift) const;
-  [[nodiscard]] std::string_view Delivery(const Gift& gift) const;
-  // As it stands in the history.
-  [[nodiscard]] std::string_view AmountText(const Gift& gift) const;
+  [[nodiscard]] GiftTexts TextsOf(const Gift& gift) const;
 
  private:
   void ReadAll();
   // Puts what a reader has found behind what is there.
   void Add(HistoryReader&& part);
-  [[nodiscard]] GiftTexts TextsOf(const Gift& gift) const;
 
   std::vector<char, LargeAllocator<char>> bytes_;
   std::vector<GivenSession> sessions_;

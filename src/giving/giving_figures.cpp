@@ -29,6 +29,7 @@ class Periods {
   void Add(const Day& day, Currency amount) {
     periods_[static_cast<std::size_t>(IndexOf(day) - first_)].given += amount;
   }
+  [[nodiscard]] bool AreYears() const { return byYear_; }
   std::vector<GivingPeriod> Take() { return std::move(periods_); }
 
  private:
@@ -83,6 +84,7 @@ GivingFigures FiguresOf(const GivenHistory& history, const DayRange& range,
     return std::tie(right.day, right.hour, right.minute, b) <
            std::tie(left.day, left.hour, left.minute, a);
   });
+  figures.byYear = periods.AreYears();
   figures.periods = periods.Take();
   return figures;
 }

@@ -27,7 +27,8 @@ struct OrganizationGifts {
 
 // What was given in a range of days. Sessions that were cancelled count nowhere but in `sessions`.
 struct GivingFigures {
-  std::vector<GivingPeriod> periods;             // without a gap; years beyond two years
+  std::vector<GivingPeriod> periods;             // without a gap
+  bool byYear = false;                           // the periods are years, beyond two years
   std::vector<OrganizationGifts> organizations;  // the largest total first
   std::vector<std::uint32_t> sessions;           // the newest first
   Currency given, serviceFees, cardFees, paid;

@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "core/output.h"
 #include "giving/gifts_csv.h"
+#include "giving/report_pictures.h"
 #include "giving/statement.h"
 #include "session/typed_amount.h"
 
@@ -14,7 +15,6 @@ namespace benevix {
 namespace {
 
 constexpr const char* kGoalSetting = "YearGoal";
-constexpr std::size_t kLargest = 5;  // organizations with a share of their own
 
 std::string Sum(Currency amount) {
   return Format(amount, kSumPattern);
@@ -29,11 +29,6 @@ std::optional<Day> TypedDay(std::string_view text) {
   text = Trim(text);
   const auto day = ReadDay(text);
   return day ? day : ReadIsoDay(text);
-}
-
-Chart::Mark ShareOf(const std::string& name, Currency amount, Currency whole) {
-  const double percent = whole > Currency() ? amount.ToDouble() / whole.ToDouble() * 100 : 0;
-  return {name, amount, name + ": " + Sum(amount) + " (" + FormatDouble(percent, "##0") + "%)"};
 }
 
 }  // namespace
@@ -69,10 +64,17 @@ void GivingReport::Read() {
 
 void GivingReport::Refresh() {
   if (!desk_.IsShown(window_)) return;
-  const int selected = window_.Sessions.selected;
+  // The history only grows, so a session keeps its index while its row changes.
+  const int row = window_.Sessions.selected;
+  const auto& before = report_->figures.sessions;
+  const auto selected = row == 0 ? 0 : before[static_cast<std::size_t>(rows_->SessionAt(row))];
+  unfolded_ = -1;
   Read();
   ShowFigures();
-  ShowSessions(std::min(selected, rows_->Count()));
+  const auto& sessions = report_->figures.sessions;
+  const auto found = std::find(sessions.begin(), sessions.end(), selected);
+  const bool isThere = row != 0 && found != sessions.end();
+  ShowSessions(isThere ? static_cast<int>(found - sessions.begin()) + 1 : 0);
 }
 
 void GivingReport::Option1_Click(int index) {
@@ -81,6 +83,7 @@ void GivingReport::Option1_Click(int index) {
   if (index == report_range::kLastYear) range_ = WholeYear(year - 1);
   if (index == report_range::kAll) range_ = WholeRange(report_->history).value_or(WholeYear(year));
   ShowRange();
+  if (index == report_range::kFromTo) desk_.SetFocus(window_.Text1[0]);
 }
 
 void GivingReport::Text1_KeyUp(const EventArgs& args) {
@@ -135,61 +138,28 @@ void GivingReport::ShowFigures() {
   window_.Unread.visible = unread > 0;
   window_.Unread.caption = Number(unread, "line") + " of the history could not be read";
   const GivingFigures& figures = report_->figures;
-  window_.Totals.caption = "Given " + Sum(figures.given) + "      Service fees " +
-                           Sum(figures.serviceFees) + "      Card fees " + Sum(figures.cardFees) +
-                           "      Paid " + Sum(figures.paid);
-  if (figures.notKnown > 0) {
-    window_.Totals.caption += "      It is not known whether " +
-                              Number(figures.notKnown, "session") +
-                              (figures.notKnown == 1 ? " was paid" : " were paid");
-  }
-  ShowPictures();
+  window_.Totals.caption = figures.sessions.empty()
+                               ? "No gifts in these days"
+                               : "Given " + Sum(figures.given) + "      Service fees " +
+                                     Sum(figures.serviceFees) + "      Card fees " +
+                                     Sum(figures.cardFees) + "      Paid " + Sum(figures.paid);
+  window_.NotKnown.visible = figures.notKnown > 0;
+  window_.NotKnown.caption = "It is not known whether " + Number(figures.notKnown, "session") +
+                             (figures.notKnown == 1 ? " was paid" : " were paid");
+  ShowPeriods(window_, figures, range_);
+  ShowShares(window_.Shares, *report_);
   ShowGoal();
   Sort();
 }
 
-void GivingReport::ShowPictures() {
-  const GivingFigures& figures = report_->figures;
-  window_.Periods.marks.clear();
-  bool areYears = true;
-  for (const GivingPeriod& period : figures.periods) {
-    areYears = areYears && period.name.size() == 4;
-    window_.Periods.marks.push_back(
-        {period.name, period.given, period.name + ": " + Sum(period.given)});
-  }
-  window_.PeriodsTitle.caption = areYears ? "By year" : "By month";
-  window_.Shares.marks.clear();
-  Currency rest = figures.given;
-  for (const OrganizationGifts& gifts : figures.organizations) {
-    if (window_.Shares.marks.size() == kLargest) break;
-    window_.Shares.marks.push_back(
-        ShareOf(std::string(report_->history.Organizations()[gifts.organization]), gifts.total,
-                figures.given));
-    rest -= gifts.total;
-  }
-  if (figures.organizations.size() > kLargest) {
-    const auto others = static_cast<int>(figures.organizations.size() - kLargest);
-    window_.Shares.marks.push_back(ShareOf(Number(others, "other"), rest, figures.given));
-  }
-}
-
 void GivingReport::ShowGoal() {
   const TypedAmount goal = ReadAmount(window_.Goal.text);
-  window_.GoalTitle.caption = "My goal for " + std::to_string(ThisYear());
-  window_.GoalUse.parts.clear();
-  window_.GoalUse.visible = goal.number.value_or(0) > 0;
-  if (!window_.GoalUse.visible) return;
-  const Currency given =
+  const auto given =
       FiguresOf(report_->history, WholeYear(ThisYear()), [this](std::string_view transaction) {
         return StateOf(report_->states, transaction);
       }).given;
-  const Currency whole = Currency::FromDouble(*goal.number);
-  const Currency missing = std::max(whole - given, Currency());
-  using Use = MoneyBar::Part::Use;
-  window_.GoalUse.parts = {{Use::Given, "Given", given}, {Use::Left, "Missing", missing}};
-  window_.GoalUse.remark = missing == Currency() ? "Reached" : "of " + Sum(whole);
-  window_.GoalUse.toolTip =
-      "Given " + Sum(given) + " of " + Sum(whole) + ", " + Sum(missing) + " missing";
+  window_.GoalTitle.caption = "My goal for " + std::to_string(ThisYear());
+  benevix::ShowGoal(window_.GoalUse, given, Currency::FromDouble(goal.number.value_or(0)));
 }
 
 void GivingReport::Goal_KeyUp(const EventArgs& args) {
@@ -356,10 +326,10 @@ void GivingReport::GiveAgain() {
   std::vector<OptionsRecord> gifts;
   for (std::uint32_t i = session->firstGift; i < session->firstGift + session->gifts; ++i) {
     const Gift& gift = history.Gifts()[i];
-    gifts.push_back({std::string(history.Organizations()[gift.organization]),
-                     std::string(history.AmountText(gift)), std::string(history.Delivery(gift)),
-                     std::string(history.From(gift)), gift.certificate ? "1" : "0",
-                     gift.proof ? "1" : "0"});
+    const GiftTexts texts = history.TextsOf(gift);
+    gifts.push_back({std::string(texts.name), std::string(texts.amountText),
+                     std::string(texts.delivery), std::string(texts.from),
+                     gift.certificate ? "1" : "0", gift.proof ? "1" : "0"});
   }
   const std::string date = DayText(session->day);
   if (others_.giveAgain(date, gifts)) desk_.Unload(window_);

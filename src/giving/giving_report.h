@@ -57,7 +57,6 @@ class GivingReport {
   void Read();
   void ShowRange();
   void ShowFigures();
-  void ShowPictures();
   void ShowGoal();
   void ShowSessions(int selected);
   void ShowSelected();

@@ -10,16 +10,6 @@
 
 namespace benevix {
 
-// The texts of a gift's line.
-struct GiftTexts {
-  std::string_view name, amountText, from, delivery;
-  Currency amount;
-  bool proof = false, certificate = false;
-
-  // False for a line, without its indent, that is no gift.
-  bool Read(std::string_view line);
-};
-
 // The indexes of names. Open addressing: the names of a million gifts are looked up one by one.
 class Names {
  public:

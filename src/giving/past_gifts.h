@@ -2,8 +2,10 @@
 
 #include <functional>
 #include <future>
+#include <map>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "forms/frmBVX.h"
 #include "giving/given_history.h"
@@ -19,8 +21,10 @@ class PastGifts {
   PastGifts(frmBVX& main, Environment& environment, const PaymentStates& states)
       : main_(main), environment_(environment), states_(states) {}
 
-  // The history or what is known of its payments has changed, or the program has started.
+  // Reads the whole history: the program has started, or another payment is known.
   void Read();
+  // These records were written to the history.
+  void Add(const std::string& records);
 
   // Shows the card for the selected organization; an index that is not ready shows nothing.
   void Show();
@@ -28,12 +32,13 @@ class PastGifts {
  private:
   struct Sum {
     int gifts = 0;
-    Currency total, lastYear;  // of the year of the last gift
+    Currency total;
+    std::map<int, Currency> years;
     Day last;
   };
   using Index = std::unordered_map<std::string, Sum>;
 
-  static Index IndexOf(const GivenHistory& history, const PaymentStates::States& states);
+  static void AddTo(Index& index, const GivenHistory& history, const TransactionStates& states);
   [[nodiscard]] std::string TextOf(const std::string& organization) const;
 
   frmBVX& main_;
@@ -41,6 +46,8 @@ class PastGifts {
   const PaymentStates& states_;
   Index index_;
   std::future<Index> coming_;
+  // Readings that are no longer of use: waiting for their end would hold the window.
+  std::vector<std::future<Index>> dropped_;
 };
 
 }  // namespace benevix

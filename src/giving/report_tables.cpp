@@ -1,7 +1,6 @@
 #include "giving/report_tables.h"
 
 #include "base/format.h"
-#include "core/date_text.h"
 #include "giving/gifts_csv.h"
 
 namespace benevix {
@@ -80,7 +79,7 @@ std::string SessionRows::Text(int row, int column) const {
 std::string SessionRows::SessionText(const GivenSession& session, int column) const {
   switch (column) {
     case 0:
-      return DayText(session.day) + " " + TimeText({0, 0, 0, session.hour, session.minute, 0});
+      return DayText(session.day);
     case 1:
       return std::string(report_->history.Transaction(session));
     case 2: {
@@ -107,13 +106,13 @@ std::string SessionRows::GiftText(const Gift& gift, int column) const {
   const GivenHistory& history = report_->history;
   switch (column) {
     case 1:
-      return "from " + std::string(history.From(gift));
+      return "from " + std::string(history.TextsOf(gift).from);
     case 2:
       return std::string(history.Organizations()[gift.organization]);
     case 3:
       return Sum(gift.amount);
     case 6:
-      return std::string(history.Delivery(gift));
+      return std::string(history.TextsOf(gift).delivery);
     case 7:
       return gift.certificate && gift.proof ? "Certificate, proof"
              : gift.certificate             ? "Certificate"

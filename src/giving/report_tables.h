@@ -11,7 +11,7 @@ namespace benevix {
 // What the report shows, kept by its tables while they are shown.
 struct ReportContents {
   GivenHistory history;
-  PaymentStates::States states;
+  TransactionStates states;
   GivingFigures figures;
 
   [[nodiscard]] PaymentState StateOf(const GivenSession& session) const {

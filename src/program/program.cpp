@@ -112,7 +112,14 @@ Program::Program(const Environment& environment)
     journalCommands_.Show();
     requests_.EndAction();
   };
-  history_.onWritten = paymentStates_.onNoted = [this] { HistoryChanged(); };
+  history_.onWritten = [this](const std::string& records) {
+    pastGifts_.Add(records);
+    givingReport_.Refresh();
+  };
+  paymentStates_.onNoted = [this] {
+    pastGifts_.Read();
+    givingReport_.Refresh();
+  };
   input_.onError = [this](const RuntimeError& error) {
     messages_.Show(error.what(), BoxIcon::Critical);
   };
@@ -125,11 +132,6 @@ void Program::NewSession() {
   database_.BuildCountriesMenu();
   favorites_.LoadFavoritesMenu();
   ShowHint(main_, hint::kTypeBudget);
-}
-
-void Program::HistoryChanged() {
-  pastGifts_.Read();
-  givingReport_.Refresh();
 }
 
 void Program::ContactSaved(ContactCaller caller) {

@@ -94,8 +94,6 @@ class Program {
   void TellUnrecorded();
   void frmBVX_Unload();
 
-  // The history or what is known of its payments has changed.
-  void HistoryChanged();
   void ContactSaved(ContactCaller caller);
   void DownloadUpdater();
 

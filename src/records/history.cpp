@@ -1,5 +1,7 @@
 #include "records/history.h"
 
+#include <utility>
+
 #include "base/runtime_error.h"
 #include "platform/line_reader.h"
 
@@ -26,8 +28,7 @@ void History::TryToWrite(const std::string& ifNot) {
   if (pending_.empty()) return;
   try {
     environment_.files.Append(File(), pending_);
-    pending_.clear();
-    onWritten();
+    onWritten(std::exchange(pending_, {}));
   } catch (const RuntimeError& error) {
     messages_.Show("The session could not be written to the history. " + ifNot + "\r\n" +
                        std::string(error.what()),

@@ -20,8 +20,8 @@ class History {
   History(Environment& environment, Messages& messages, InformationViewer& viewer, frmBVX& main)
       : environment_(environment), messages_(messages), viewer_(viewer), main_(main) {}
 
-  // Called when records were written.
-  std::function<void()> onWritten = [] {};
+  // Called with records that were written.
+  std::function<void(const std::string& records)> onWritten = [](const std::string&) {};
 
   // Appends the session's record in one write and returns it with its time. A failed write is
   // reported to the user, and the record is written with the next one.

@@ -16,6 +16,10 @@ constexpr std::array<Word, 3> kWords = {{{"Paid", PaymentState::Paid},
                                          {"Cancelled", PaymentState::Cancelled},
                                          {"NotKnown", PaymentState::NotKnown}}};
 
+FilePath FileOf(const Environment& environment) {
+  return environment.info.Resource("payments.dat");
+}
+
 // Whether the address is that of a page, whatever stands behind it.
 bool IsPage(std::string_view address, const std::string& page) {
   if (!BeginsWith(address, page)) return false;
@@ -25,16 +29,16 @@ bool IsPage(std::string_view address, const std::string& page) {
 
 }  // namespace
 
-PaymentState StateOf(const PaymentStates::States& states, std::string_view transaction) {
+PaymentState StateOf(const TransactionStates& states, std::string_view transaction) {
   const auto found = states.find(transaction);
   return found == states.end() ? PaymentState::NotKnown : found->second;
 }
 
-PaymentStates::States PaymentStates::Read() const {
-  States states;
+TransactionStates ReadPaymentStates(const Environment& environment) {
+  TransactionStates states;
   std::string bytes;
   try {
-    bytes = environment_.files.ReadAll(File());
+    bytes = environment.files.ReadAll(FileOf(environment));
   } catch (const RuntimeError&) {
     return states;
   }
@@ -52,7 +56,8 @@ bool PaymentStates::Set(const std::string& transaction, PaymentState state) {
   for (const auto& [word, meaning] : kWords) {
     if (meaning != state) continue;
     try {
-      environment_.files.Append(File(), transaction + " " + std::string(word) + "\r\n");
+      environment_.files.Append(FileOf(environment_),
+                                transaction + " " + std::string(word) + "\r\n");
     } catch (const RuntimeError& error) {
       messages_.Show("Whether the session " + transaction + " was paid could not be noted.\r\n" +
                          std::string(error.what()),

@@ -174,7 +174,9 @@ class ChartBinding : public WidgetBinding<Chart, ChartWidget> {
     std::vector<ChartWidget::Mark> marks;
     QStringList texts;
     for (const Chart::Mark& mark : control_.marks) {
-      marks.push_back({ToQString(mark.name), ToQString(Format(mark.amount, kSumPattern)),
+      std::string amount = Format(mark.amount, kSumPattern);
+      if (!mark.share.empty()) amount += "   " + mark.share;
+      marks.push_back({ToQString(mark.name), ToQString(amount),
                        std::max(mark.amount.ToDouble(), 0.0), ToQString(mark.text)});
       texts << ToQString(mark.text);
     }

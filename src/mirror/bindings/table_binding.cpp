@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QTableView>
+#include <algorithm>
 
 #include "mirror/bindings/make_binding.h"
 #include "mirror/bindings/widget_binding.h"
@@ -52,11 +53,22 @@ class TableModel : public QAbstractTableModel {
   }
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
     if (orientation != Qt::Horizontal) return {};
-    if (role == Qt::DisplayRole) return ToQString(ColumnOf(section).caption);
+    if (role == Qt::DisplayRole) return Heading(section);
+    if (role == Qt::AccessibleTextRole && section == table_.sorted) {
+      return ToQString(ColumnOf(section).caption) + (table_.descending
+                                                         ? QStringLiteral(", sorted descending")
+                                                         : QStringLiteral(", sorted ascending"));
+    }
     return role == Qt::TextAlignmentRole ? Alignment(section) : QVariant();
   }
 
  private:
+  // With an arrow by which the rows are sorted.
+  [[nodiscard]] QString Heading(int section) const {
+    const QString caption = ToQString(ColumnOf(section).caption);
+    if (section != table_.sorted) return caption;
+    return caption + QLatin1Char(' ') + QChar(table_.descending ? 0x25BE : 0x25B4);
+  }
   [[nodiscard]] const Table::Column& ColumnOf(int section) const {
     return table_.columns[static_cast<std::size_t>(section)];
   }
@@ -111,6 +123,13 @@ class TableBinding : public QObject, public WidgetBinding<Table, QTableView> {
       Copy();
       return true;
     }
+    // The view's own Home and End move within a row.
+    const bool isPlain = (key.modifiers() & ~Qt::KeypadModifier) == 0;
+    if (isPlain && (key.key() == Qt::Key_Home || key.key() == Qt::Key_End)) {
+      const int row = key.key() == Qt::Key_Home ? 1 : control_.Count();
+      context_.input.SelectRow(control_, row, true);
+      return true;
+    }
     const int column = key.key() - Qt::Key_1;
     const bool isColumn = column >= 0 && column < model_.columnCount();
     if (key.modifiers() == Qt::ControlModifier && isColumn) {
@@ -125,10 +144,19 @@ class TableBinding : public QObject, public WidgetBinding<Table, QTableView> {
     QHeaderView& header = *widget_.horizontalHeader();
     header.setHighlightSections(false);
     header.setSectionsClickable(control_.canBeSorted);
-    const int unit = widget_.fontMetrics().averageCharWidth();
+    constexpr int inset = 9;  // pixels, before and behind a text
+    const int digit = widget_.fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    QFont bold = widget_.font();
+    bold.setBold(true);
     for (int i = 0; i < model_.columnCount(); ++i) {
-      header.resizeSection(i, control_.columns[static_cast<std::size_t>(i)].width * unit);
+      const Table::Column& column = control_.columns[static_cast<std::size_t>(i)];
+      const QString caption = ToQString(column.caption) + QStringLiteral(" \u25be");
+      header.resizeSection(
+          i, std::max(column.width * digit, QFontMetrics(bold).horizontalAdvance(caption)) +
+                 2 * inset);
     }
+    header.setMinimumSectionSize(8 * digit);
+    header.setSectionResizeMode(control_.widest, QHeaderView::Stretch);
     widget_.verticalHeader()->hide();
     widget_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     widget_.verticalHeader()->setDefaultSectionSize(widget_.fontMetrics().height() + 8);
@@ -136,10 +164,6 @@ class TableBinding : public QObject, public WidgetBinding<Table, QTableView> {
 
   void ApplyKind() override {
     const bool isNew = model_.Refresh();
-    QHeaderView& header = *widget_.horizontalHeader();
-    header.setSortIndicatorShown(control_.sorted >= 0);
-    header.setSortIndicator(control_.sorted,
-                            control_.descending ? Qt::DescendingOrder : Qt::AscendingOrder);
     if (!isNew && widget_.currentIndex().row() + 1 == control_.selected) return;
     if (control_.selected == 0) {
       widget_.selectionModel()->clear();

@@ -83,8 +83,8 @@ void ChartWidget::PaintColumns(QPainter& painter) const {
     widest = std::max(widest, fontMetrics().horizontalAdvance(mark.name));
   }
   const double step = PlaceOf(0).width();
-  const auto every =
-      std::max<std::size_t>(1, static_cast<std::size_t>((widest + kGap) / step + 0.999));
+  const double shift = std::max((widest - step) / 2, 0.0);  // of the first and the last name
+  const auto every = static_cast<std::size_t>(std::max((widest + kGap + shift) / step, 0.0)) + 1;
   for (std::size_t i = 0; i < marks_.size(); ++i) {
     const QRectF place = PlaceOf(i);
     const double wide = std::min<double>(place.width() * 0.7, kWidest);
@@ -110,7 +110,8 @@ void ChartWidget::PaintColumns(QPainter& painter) const {
 
 void ChartWidget::PaintShares(QPainter& painter) const {
   const int line = fontMetrics().height();
-  const double largest = Largest();
+  double whole = 0;
+  for (const Mark& mark : marks_) whole += mark.value;
   for (std::size_t i = 0; i < marks_.size(); ++i) {
     const QRectF place = PlaceOf(i);
     const Mark& mark = marks_[i];
@@ -127,8 +128,8 @@ void ChartWidget::PaintShares(QPainter& painter) const {
     painter.save();
     painter.setClipPath(track);
     painter.fillPath(track, palette().mid());
-    if (largest > 0 && mark.value > 0) {
-      const double wide = std::max(mark.value / largest * width(), 3.0);
+    if (mark.value > 0) {
+      const double wide = std::max(mark.value / whole * width(), 3.0);
       painter.fillRect(QRectF(0, place.top() + line, wide, kBarHeight), palette().highlight());
     }
     painter.restore();
