@@ -166,8 +166,10 @@ class WindowsFrontEnd : public FrontEnd {
 
   bool Select(const Target& target, int row, MouseButton button) override {
     auto* const view = qobject_cast<QTableView*>(Reach(target));
-    if (view == nullptr || row < 1 || row > view->model()->rowCount()) return false;
-    const QModelIndex index = view->model()->index(row - 1, 1);
+    const auto* const list = target.control->As<ListView>();
+    if (view == nullptr || list == nullptr || row < 1 || row > list->Count()) return false;
+    const QModelIndex index = view->model()->index(list->PlaceOf(row) - 1, 1);
+    if (!index.isValid()) return false;
     view->scrollTo(index);
     ClickAt(*view->viewport(), view->visualRect(index).center(),
             button == MouseButton::Right ? Qt::RightButton : Qt::LeftButton);
