@@ -14,6 +14,14 @@ namespace {
 
 using Text = std::optional<std::string>;
 
+std::string RowsText(const ListView& list) {
+  std::string rows;
+  for (int place = 1; place <= list.ShownCount(); ++place) {
+    rows += (place == 1 ? "" : " ") + std::to_string(list.RowAt(place));
+  }
+  return rows;
+}
+
 Text OfWindow(const Desk& desk, const Desk::Entry& entry, const std::string& property) {
   const Window& window = *entry.window;
   if (property == "Caption") return window.caption;
@@ -82,6 +90,8 @@ struct Further {
     if (property == "Count") return std::to_string(list->Count());
     if (property == "Selected") return std::to_string(list->selected);
     if (property == "Top") return std::to_string(list->top);
+    if (property == "ShownRows") return RowsText(*list);
+    if (property == "EmptyText") return list->emptyText;
     const auto cell = CellIn(property);
     if (!cell || cell->row < 1 || cell->row > list->Count()) return std::nullopt;
     return list->SubItem(cell->row, cell->column);

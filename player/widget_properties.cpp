@@ -46,7 +46,21 @@ Text ReadAction(const QAction& action, const std::string& property, const Text& 
   return fromStruct;
 }
 
-Text ReadList(const QTableView& view, const std::string& property, const Text& fromStruct) {
+Text ReadList(const QTableView& view, const ListView& list, const std::string& property,
+              const Text& fromStruct) {
+  if (property == "Count" && !list.shownRows) return std::to_string(view.model()->rowCount());
+  if (property == "Selected" && list.PlaceOf(list.selected) > 0) {
+    const QModelIndex current = view.currentIndex();
+    return std::to_string(current.isValid() ? list.RowAt(current.row() + 1) : 0);
+  }
+  const auto* const emptyText = view.viewport()->findChild<QLabel*>();
+  if (property == "EmptyText") return emptyText->isHidden() ? "" : Shown(emptyText->text());
+  const auto cell = CellIn(property);
+  if (!cell || list.PlaceOf(cell->row) == 0) return fromStruct;
+  return Shown(view.model()->index(list.PlaceOf(cell->row) - 1, cell->column).data().toString());
+}
+
+Text ReadTable(const QTableView& view, const std::string& property, const Text& fromStruct) {
   if (property == "Count") return std::to_string(view.model()->rowCount());
   if (property == "Selected") return std::to_string(view.currentIndex().row() + 1);
   const auto cell = CellIn(property);
@@ -70,9 +84,6 @@ Text ReadWidget(const QWidget& widget, const std::string& property, const Text& 
     if (multiLine != nullptr) {
       return Shown(multiLine->toPlainText().replace(QLatin1String("\n"), QLatin1String("\r\n")));
     }
-  }
-  if (const auto* const view = qobject_cast<const QTableView*>(&widget)) {
-    return ReadList(*view, property, fromStruct);
   }
   if (const auto* const combo = qobject_cast<const QComboBox*>(&widget)) {
     return ReadCombo(*combo, property, fromStruct);
@@ -134,6 +145,15 @@ std::optional<std::string> ReadWidgetProperty(Program& program, WindowBinding* b
   if (action != nullptr) return ReadAction(*action, property, fromStruct);
   QWidget* const widget = binding->WidgetOf(target.control->Base());
   if (widget == nullptr) return fromStruct;
+  const auto* const view = qobject_cast<const QTableView*>(widget);
+  if (const auto* const list = target.control->As<ListView>(); list != nullptr && view != nullptr) {
+    const Text text = ReadList(*view, *list, property, fromStruct);
+    if (text != fromStruct) return text;
+  }
+  if (target.control->As<Table>() != nullptr && view != nullptr) {
+    const Text text = ReadTable(*view, property, fromStruct);
+    if (text != fromStruct) return text;
+  }
   if (property == "Note") return Shown(binding->NoteOf(*widget));
   const Text color = ReadWidgetColor(*target.control, *widget, property, scheme);
   return color ? color : ReadWidget(*widget, property, fromStruct);

@@ -167,8 +167,12 @@ class WindowsFrontEnd : public FrontEnd {
 
   bool Select(const Target& target, int row, MouseButton button) override {
     auto* const view = qobject_cast<QTableView*>(Reach(target));
-    if (view == nullptr || row < 1 || row > view->model()->rowCount()) return false;
-    const QModelIndex index = view->model()->index(row - 1, 1);
+    if (view == nullptr || row < 1) return false;
+    const auto* const list = target.control->As<ListView>();
+    if (list != nullptr && row > list->Count()) return false;
+    const int place = list != nullptr ? list->PlaceOf(row) : row;
+    const QModelIndex index = view->model()->index(place - 1, 1);
+    if (!index.isValid()) return false;
     view->scrollTo(index);
     ClickAt(*view->viewport(), view->visualRect(index).center(),
             button == MouseButton::Right ? Qt::RightButton : Qt::LeftButton);

@@ -242,7 +242,7 @@ bool Input::Pick(ComboBox& combo, int index) {
 }
 
 bool Input::SelectRow(ListView& list, int row, MouseButton button, bool byKeyboard) {
-  if (row < 1 || row > list.Count()) return false;
+  if (row < 1 || row > list.Count() || list.PlaceOf(row) == 0) return false;
   return Do(list, [&](Desk::Entry&) {
     desk_.SetFocus(list);
     list.selected = row;

@@ -64,7 +64,7 @@ class Input {
   bool Tab(Window& window, bool forward);
 
   bool Pick(ComboBox& combo, int index);  // from 0
-  // The row counts from 1.
+  // The row counts from 1; one that is not shown cannot be selected.
   bool SelectRow(ListView& list, int row, MouseButton button, bool byKeyboard = false);
   bool SelectRow(Table& table, int row, bool byKeyboard = false);
   bool ClickColumn(Table& table, int column);  // from 0

@@ -1,15 +1,21 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <memory>
 #include <set>
 #include <string>
+#include <vector>
 
+#include "base/large_memory.h"
 #include "controls/control.h"
 #include "controls/row_source.h"
 
 namespace benevix {
+
+// Rows of a list, in its order.
+using ShownRows = std::vector<int, LargeAllocator<int>>;
 
 // A list with columns: the rows of its source, and over them the few cells that were written since.
 // So an event costs the same with three hundred rows and with two million.
@@ -27,8 +33,28 @@ struct ListView : Control {
   int loads = 0;               // how often the rows were replaced
   int changes = 0;             // how often a text was written
   std::set<int> writtenRows;   // the rows written since this was last emptied
+  // A filter: the rows that are shown, null for all of them, the words that are marked in them, and
+  // what stands in the place of the rows when none is shown. The rows keep their numbers.
+  std::shared_ptr<const ShownRows> shownRows;
+  std::vector<std::string> markedWords;
+  std::string emptyText;
 
   [[nodiscard]] int Count() const { return rows ? rows->Count() : 0; }
+
+  [[nodiscard]] int ShownCount() const {
+    return shownRows ? static_cast<int>(shownRows->size()) : Count();
+  }
+  // The row at a place among those that are shown; places count from 1, too.
+  [[nodiscard]] int RowAt(int place) const {
+    return shownRows ? (*shownRows)[static_cast<std::size_t>(place - 1)] : place;
+  }
+  // The place of a row; 0 for a row that is not shown.
+  [[nodiscard]] int PlaceOf(int row) const {
+    if (!shownRows) return row;
+    const auto found = std::lower_bound(shownRows->begin(), shownRows->end(), row);
+    if (found == shownRows->end() || *found != row) return 0;
+    return static_cast<int>(found - shownRows->begin()) + 1;
+  }
 
   [[nodiscard]] std::string SubItem(int row, int column) const {
     const auto written = cells.find(row);
@@ -66,6 +92,7 @@ struct ListView : Control {
     selected = 0;
     top = 0;
     writtenRows.clear();
+    shownRows.reset();
     ++loads;
   }
 

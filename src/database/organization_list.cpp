@@ -162,6 +162,41 @@ std::optional<std::int32_t> OrganizationList::Id(int row) const {
   return OrganizationId(line);
 }
 
+const char* OrganizationList::PlaceInTexts(int row, const char* place, std::size_t size) const {
+  const char* const name =
+      bytes_.data() + lineStarts_[static_cast<std::size_t>(row - 1)] + kNameBegin;
+  if (place < name) return name;
+  const auto find = [&](char wanted, const char* end) {
+    return static_cast<const char*>(
+        std::memchr(name, wanted, static_cast<std::size_t>(end - name)));
+  };
+  // A comment between two rows belongs to neither.
+  if (find('\n', place) != nullptr) return place + 1;
+  const char* const comma = find(',', place + size);
+  if (comma == nullptr) return place;
+  return place <= comma ? place + 1 : std::max(place, comma + 2);
+}
+
+int OrganizationList::FindWord(const WordSearch& word, int from, int to) const {
+  const char* const bytes = bytes_.data();
+  const char* const end = bytes + bytes_.size();
+  const auto begin = [&](int row) {
+    return bytes + lineStarts_[static_cast<std::size_t>(row - 1)];
+  };
+  const char* const limit = to < Count() ? begin(to + 1) : end;
+  const char* at = from <= to ? begin(from) : limit;
+  // All rows are searched as one text; where the texts of a row lie matters only under a hit.
+  for (int row = from; at < limit;) {
+    const char* const found = word.Find(at, limit, end);
+    if (found == nullptr) return 0;
+    while (row < to && begin(row + 1) <= found) ++row;
+    const char* const place = PlaceInTexts(row, found, word.Size());
+    if (place == found) return row;
+    at = place;
+  }
+  return 0;
+}
+
 int OrganizationList::FindName(std::string_view word, int from) const {
   if (word.empty()) return 0;
   const int row = FindNameIn(word, from, Count());

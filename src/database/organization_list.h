@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/large_memory.h"
+#include "base/word_search.h"
 #include "controls/list_view.h"
 #include "platform/files.h"
 
@@ -43,6 +44,10 @@ class OrganizationList : public RowSource {
   // The ID of an organization, nothing for a heading; the row must be in range.
   [[nodiscard]] std::optional<std::int32_t> Id(int row) const;
 
+  // The first of the organizations from row `from` to `to`, with no heading between them, whose
+  // name or type contains the word; 0 without one.
+  [[nodiscard]] int FindWord(const WordSearch& word, int from, int to) const;
+
   // The first organization row from `from` on, then from row 1, whose name begins with the word,
   // ignoring case; 0 without one.
   [[nodiscard]] int FindName(std::string_view word, int from) const;
@@ -64,6 +69,9 @@ class OrganizationList : public RowSource {
   bool AddLine(std::size_t begin, std::size_t end, std::size_t lastComma);
   bool CheckOrganization(std::string_view line, std::size_t comma);
   [[nodiscard]] std::string_view Line(int row) const;
+  // `place`, behind the beginning of the row's line, when `size` bytes from there on belong to its
+  // name or its type; otherwise a place behind it up to which none does.
+  [[nodiscard]] const char* PlaceInTexts(int row, const char* place, std::size_t size) const;
   [[nodiscard]] int FindNameIn(std::string_view word, int from, int to) const;
 
   std::vector<char, LargeAllocator<char>> bytes_;

@@ -56,6 +56,7 @@ struct frmBVX : Window {
       item->enabled = false;
     }
     EnableOrganizationCommands(false);
+    ShowAll.visible = false;
     Unfinished.visible = false;
     PastGifts.visible = false;
     for (Button* button : {&ContinueUnfinished, &StartAfresh}) button->holder = "Unfinished";
@@ -83,6 +84,7 @@ struct frmBVX : Window {
   void SetShortcuts() {
     closesByEscape = false;
     ListView1.shortcut = "Ctrl+L";
+    Filter.shortcut = "Ctrl+E";
     Label12.shortcut = "Ctrl+Shift+N";
     iLbl.shortcut = "Ctrl+Shift+Y";
     mnuNew.shortcut = "Ctrl+N";
@@ -156,6 +158,11 @@ struct frmBVX : Window {
   Label UnfinishedText{"", {}, "Unfinished"};
   Button ContinueUnfinished{"Continue It", "Go on with this session where it was left"};
   Button StartAfresh{"Start Afresh", "Give this session up"};
+
+  // Which rows of the list are shown.
+  TextBox Filter{"Shows the organizations whose name, type or country has these words"};
+  CheckBox OnlyGiven{"Only those I give to", "Shows the organizations with a donation"};
+  Button ShowAll{"Show All", "Shows the whole list again"};
 
   ListView ListView1;
   // Tag "1" while Continue waits for the payment method.
@@ -255,6 +262,9 @@ void visit(frmBVX& window, F&& f) {
   f("UnfinishedText", window.UnfinishedText);
   f("ContinueUnfinished", window.ContinueUnfinished);
   f("StartAfresh", window.StartAfresh);
+  f("Filter", window.Filter);
+  f("OnlyGiven", window.OnlyGiven);
+  f("ShowAll", window.ShowAll);
   f("ListView1", window.ListView1);
   f("Frame1", window.Frame1);
   f("Option1", window.Option1);

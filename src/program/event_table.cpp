@@ -68,6 +68,9 @@ void Program::ConnectMainWindow() {
              [this](EventArgs& args) { listTyping_.ListView1_KeyPress(args); });
   events_.On(main_.ListView1, Event::KeyUp,
              [this](EventArgs& args) { listView_.ListView1_KeyUp(args); });
+  events_.On(main_.Filter, Event::KeyUp,
+             [this](EventArgs& args) { listFilter_.Filter_KeyUp(args); });
+  events_.On(main_.ShowAll, Event::Click, Plain([this] { listFilter_.ShowAll_Click(); }));
   events_.On(main_.Command1, Event::Click, Plain([this] { finalization_.Command1_Click(); }));
   events_.On(main_.Command1, Event::MouseUp, [this](EventArgs& args) {
     if (args.button == MouseButton::Right) ++main_.mnuWhatis.popUps;

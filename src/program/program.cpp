@@ -32,6 +32,7 @@ Program::Program(const Environment& environment)
       mainWindow_(main_, values_, budgetEntry_, donationEntry_),
       listView_(main_, values_, desk_, run_, [this] { yearToDate_.ShowYtd(); }),
       listTyping_(main_, database_, environment_.clock, listView_),
+      listFilter_(main_, database_, desk_),
       search_(forms_.Get<frmSrch>(), main_, database_,
               [this](int row) { listView_.Select(row, true); }),
       favorites_(main_, settings_, database_, listView_),
@@ -103,6 +104,7 @@ Program::Program(const Environment& environment)
   ConnectEvents();
   input_.derive = [this] {
     journal_.AfterEvent();
+    listFilter_.AfterEvent();
     charges_.Show();
     viewer_.ShowBack();
     paymentStates_.AfterEvent();

@@ -45,6 +45,7 @@
 #include "session/donation_entry.h"
 #include "session/edit_commands.h"
 #include "session/favorites.h"
+#include "session/list_filter.h"
 #include "session/list_typing.h"
 #include "session/list_view_events.h"
 #include "session/main_window.h"
@@ -133,6 +134,7 @@ class Program {
   MainWindow mainWindow_;
   ListViewEvents listView_;
   ListTyping listTyping_;
+  ListFilter listFilter_;
   Search search_;
   Favorites favorites_;
   EditCommands editCommands_;

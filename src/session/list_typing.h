@@ -22,6 +22,10 @@ class ListTyping {
   void ListView1_KeyPress(const EventArgs& args);
 
  private:
+  // Among the rows that are shown; 0 without one.
+  [[nodiscard]] int FindShown(const OrganizationList& list, const std::string& word,
+                              int from) const;
+
   const frmBVX& main_;
   const OrganizationDatabase& database_;
   const Clock& clock_;

@@ -1,5 +1,6 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QTableView>
 
@@ -10,6 +11,7 @@
 #include "mirror/bindings/list_model.h"
 #include "mirror/bindings/make_binding.h"
 #include "mirror/bindings/widget_binding.h"
+#include "mirror/look/texts.h"
 
 namespace benevix {
 namespace {
@@ -20,19 +22,24 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
       : WidgetBinding(list, view, context),
         model_(list, nullptr),
         delegate_(context.scheme),
+        emptyText_(view.viewport()),
         scrolls_(list.scrolls) {
     view.setModel(&model_);
     view.setItemDelegate(&delegate_);
     view.installEventFilter(this);
     view.viewport()->installEventFilter(this);
     LayOutColumns(view, list);
+    emptyText_.setAlignment(Qt::AlignCenter);
+    emptyText_.setTextFormat(Qt::PlainText);
+    emptyText_.setWordWrap(true);
+    emptyText_.hide();
     QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
                      [this](const QModelIndex& current) {
                        // The mouse chooses a row at its release.
                        if (context_.applying || pressed_ || !current.isValid()) return;
                        // When it gets the focus the view makes a row current without a choice.
                        if (!widget_.selectionModel()->isSelected(current)) return;
-                       SelectRowByKey(current.row() + 1, MouseButton::Left);
+                       SelectRowByKey(model_.RowOf(current), MouseButton::Left);
                      });
   }
 
@@ -43,19 +50,28 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
  private:
   void ApplyKind() override {
     model_.Refresh();
-    if (widget_.currentIndex().row() + 1 != control_.selected) {
-      if (control_.selected == 0) {
+    // A row that is not shown stays selected.
+    const QModelIndex selected = model_.IndexOf(control_.selected, column::kOrganization);
+    if (widget_.currentIndex().row() != selected.row()) {
+      if (!selected.isValid()) {
         widget_.selectionModel()->clear();
       } else {
         widget_.selectionModel()->setCurrentIndex(
-            model_.index(control_.selected - 1, column::kOrganization),
-            QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+            selected, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
       }
     }
     if (scrolls_ != control_.scrolls) {
       scrolls_ = control_.scrolls;
-      widget_.scrollTo(model_.index(control_.top - 1, 0), QAbstractItemView::PositionAtTop);
+      widget_.scrollTo(model_.IndexOf(control_.top, 0), QAbstractItemView::PositionAtTop);
     }
+    if (filtered_ != control_.shownRows) {
+      filtered_ = control_.shownRows;
+      if (selected.isValid()) widget_.scrollTo(selected);
+    }
+    delegate_.SetMarkedWords(control_.markedWords);
+    emptyText_.setText(ToQString(control_.emptyText));
+    emptyText_.setVisible(!control_.emptyText.empty());
+    emptyText_.setGeometry(widget_.viewport()->rect());
   }
 
   void SelectRowByKey(int row, MouseButton button) {
@@ -63,13 +79,14 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
   }
 
   bool FilterMouse(const QEvent& event) {
+    if (event.type() == QEvent::Resize) emptyText_.resize(widget_.viewport()->size());
     // Its first press has chosen the row, or was for something that stood before the list.
     if (event.type() == QEvent::MouseButtonDblClick) return true;
     if (event.type() == QEvent::MouseButtonPress) pressed_ = true;
     if (event.type() != QEvent::MouseButtonRelease || !pressed_) return false;
     pressed_ = false;
     const auto& mouse = static_cast<const QMouseEvent&>(event);
-    const int row = widget_.indexAt(mouse.position().toPoint()).row() + 1;
+    const int row = model_.RowOf(widget_.indexAt(mouse.position().toPoint()));
     const bool right = mouse.button() == Qt::RightButton;
     if (row > 0) {
       context_.input.SelectRow(control_, row, right ? MouseButton::Right : MouseButton::Left);
@@ -97,7 +114,9 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
     if ((key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != 0) return false;
     // The view's own Home and End move within a row.
     if (key.key() == Qt::Key_Home || key.key() == Qt::Key_End) {
-      SelectRowByKey(key.key() == Qt::Key_Home ? 1 : control_.Count(), MouseButton::Left);
+      const int last = model_.rowCount() - 1;
+      SelectRowByKey(model_.RowOf(model_.index(key.key() == Qt::Key_Home ? 0 : last, 0)),
+                     MouseButton::Left);
       return true;
     }
     // At a letter the view would look through all its rows; the program has a search of its own.
@@ -117,6 +136,8 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
 
   ListModel model_;
   ListDelegate delegate_;
+  QLabel emptyText_;  // over the viewport
+  std::shared_ptr<const ShownRows> filtered_;
   int scrolls_;
   bool pressed_ = false;
 };

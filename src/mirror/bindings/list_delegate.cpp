@@ -8,6 +8,7 @@
 
 #include "database/organization_list.h"
 #include "mirror/bindings/list_model.h"
+#include "mirror/look/texts.h"
 
 namespace benevix {
 namespace {
@@ -46,6 +47,9 @@ void ListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
   const QRect inside = option.rect.adjusted(kInset, 0, -kInset, 0);
   const QString text = cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, inside.width());
+  if (!selected && (index.column() == column::kOrganization || index.column() == column::kType)) {
+    PaintMarks(*painter, inside, text);
+  }
   painter->drawText(inside, static_cast<int>(cell.displayAlignment) | Qt::TextSingleLine, text);
 }
 
@@ -60,6 +64,25 @@ bool ListDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
   }
   QToolTip::showText(event->globalPos(), cell.text, view);
   return true;
+}
+
+void ListDelegate::SetMarkedWords(const std::vector<std::string>& words) {
+  marked_.clear();
+  for (const std::string& word : words) marked_ << ToQString(word);
+}
+
+void ListDelegate::PaintMarks(QPainter& painter, const QRect& rect, const QString& text) const {
+  const QFontMetrics metrics = painter.fontMetrics();
+  for (const QString& word : marked_) {
+    for (qsizetype at = 0; (at = text.indexOf(word, at, Qt::CaseInsensitive)) >= 0;
+         at += word.size()) {
+      const int left = metrics.horizontalAdvance(text.first(at));
+      const int right = metrics.horizontalAdvance(text.first(at + word.size()));
+      painter.fillRect(QRect(rect.left() + left, rect.center().y() - metrics.height() / 2,
+                             right - left, metrics.height()),
+                       colors_.marked);
+    }
+  }
 }
 
 // The text runs over the whole row: every cell draws the part of it that falls into the cell.
@@ -78,8 +101,9 @@ void ListDelegate::PaintHeading(QPainter& painter, const QStyleOptionViewItem& o
   const int start = view != nullptr ? view->columnViewportPosition(column::kCountry) : 0;
   const QRect row(start + kInset, option.rect.top(), option.rect.right() - start,
                   option.rect.height());
-  painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                   index.siblingAtColumn(column::kCountry).data().toString());
+  const QString country = index.siblingAtColumn(column::kCountry).data().toString();
+  if (!selected) PaintMarks(painter, row, country);
+  painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, country);
   painter.restore();
 }
 

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QStringList>
 #include <QStyledItemDelegate>
+#include <string>
+#include <vector>
 
 #include "mirror/look/theme.h"
 
@@ -15,6 +18,9 @@ class ListDelegate : public QStyledItemDelegate {
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
 
+  // Words that are marked where they stand in a name, a type or a country.
+  void SetMarkedWords(const std::vector<std::string>& words);
+
   // A text that is cut off is told whole, in place of the list's own tip.
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override;
@@ -23,7 +29,11 @@ class ListDelegate : public QStyledItemDelegate {
   void PaintHeading(QPainter& painter, const QStyleOptionViewItem& option,
                     const QModelIndex& index) const;
 
+  // Puts a ground below the marked words of a text that is drawn from `rect`'s left side.
+  void PaintMarks(QPainter& painter, const QRect& rect, const QString& text) const;
+
   ListColors colors_;
+  QStringList marked_;
 };
 
 }  // namespace benevix

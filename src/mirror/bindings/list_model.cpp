@@ -17,10 +17,11 @@ QVariant AlignmentOf(int column) {
 }  // namespace
 
 void ListModel::Refresh() {
-  if (list_.loads != loads_) {
+  if (list_.loads != loads_ || list_.shownRows != shownRows_) {
     beginResetModel();
     loads_ = list_.loads;
-    count_ = list_.Count();
+    shownRows_ = list_.shownRows;
+    count_ = list_.ShownCount();
     changes_ = list_.changes;
     endResetModel();
   } else if (list_.changes != changes_ && count_ > 0) {
@@ -43,7 +44,7 @@ ListModel::Kind ListModel::KindOf(int row) const {
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
-  const int row = index.row() + 1;
+  const int row = RowOf(index);
   switch (role) {
     case Qt::DisplayRole:
       return Drawn(list_.SubItem(row, index.column()));

@@ -19,6 +19,14 @@ class ListModel : public QAbstractTableModel {
   void Refresh();
 
   int rowCount(const QModelIndex& parent = {}) const override;
+  // The row of the list at an index, 0 for none, and the other way round.
+  [[nodiscard]] int RowOf(const QModelIndex& index) const {
+    return index.isValid() ? list_.RowAt(index.row() + 1) : 0;
+  }
+  [[nodiscard]] QModelIndex IndexOf(int row, int column) const {
+    return index(list_.PlaceOf(row) - 1, column);
+  }
+
   int columnCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
@@ -28,6 +36,7 @@ class ListModel : public QAbstractTableModel {
 
   const ListView& list_;
   int loads_ = 0;
+  std::shared_ptr<const ShownRows> shownRows_;
   int count_ = 0;
   int changes_ = 0;
 };

@@ -41,6 +41,7 @@ constexpr Tone kOnTint{0x083f3c, 0xd2f1ee};
 constexpr Tone kGiven{0xe6eaee, 0x2e353c};     // ground of boxes that no longer take an entry
 constexpr Tone kComputed{0xe8f1f1, 0x1c3030};  // ground of the Balance
 constexpr Tone kSand{0xf3efd8, 0x2f2d1e};      // ground of the fee modes
+constexpr Tone kMarked{0xfbe3a6, 0x544418};    // ground of a word that was searched for
 constexpr Tone kRed{0xb3201b, 0xff8f88};
 constexpr Tone kGreen{0x1f8f45, 0x4fc27a};
 constexpr Tone kLit{0xc47400, 0xffb84d};      // the news indicator with news
@@ -170,7 +171,8 @@ void ApplyTheme(QApplication& app, Scheme scheme) {
 
 ListColors ListColorsOf(Scheme scheme) {
   return {ColorOf(tone::kGiven, scheme), ColorOf(tone::kAccent, scheme),
-          ColorOf(tone::kTint, scheme), ColorOf(tone::kAccent, scheme)};
+          ColorOf(tone::kTint, scheme), ColorOf(tone::kAccent, scheme),
+          ColorOf(tone::kMarked, scheme)};
 }
 
 QColor UseColor(MoneyBar::Part::Use use, Scheme scheme) {

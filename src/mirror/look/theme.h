@@ -24,6 +24,7 @@ inline constexpr double kMoneyScale = 1.8;
 struct ListColors {
   QColor heading, headingText;
   QColor given, edge;  // ground of a row with a donation, and the bar at its edge
+  QColor marked;       // ground of a word that the filter has found
 };
 [[nodiscard]] ListColors ListColorsOf(Scheme scheme);
 
