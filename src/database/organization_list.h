@@ -47,6 +47,14 @@ class OrganizationList : public RowSource {
   // ignoring case; 0 without one.
   [[nodiscard]] int FindName(std::string_view word, int from) const;
 
+  // Where a word is found, ignoring case; 0 for nowhere.
+  struct Found {
+    int beginning = 0;  // the first row whose name or type begins with it
+    int part = 0;       // without one, the first from a given row on whose name contains it
+  };
+  // In one pass over the bytes. The word must not be empty.
+  [[nodiscard]] Found FindText(std::string_view word, int partFrom) const;
+
   // The rows of the country headings, in order.
   [[nodiscard]] const std::vector<int>& Headings() const { return headings_; }
   // The version of the last header line.
@@ -64,6 +72,9 @@ class OrganizationList : public RowSource {
   bool AddLine(std::size_t begin, std::size_t end, std::size_t lastComma);
   bool CheckOrganization(std::string_view line, std::size_t comma);
   [[nodiscard]] std::string_view Line(int row) const;
+  [[nodiscard]] std::string_view LineAt(std::size_t begin) const;
+  // The row whose line begins there; 0 for other lines, such as comments.
+  [[nodiscard]] int RowOf(std::size_t begin) const;
   [[nodiscard]] int FindNameIn(std::string_view word, int from, int to) const;
 
   std::vector<char, LargeAllocator<char>> bytes_;
