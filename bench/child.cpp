@@ -45,7 +45,7 @@ std::array<int, 2> Pipe() {
 
 }  // namespace
 
-double TimeToEnd(const Command& command) {
+double TimeToEnd(const Command& command, int status) {
   // A pipe, since grep stops at the first match when its output is /dev/null.
   const auto [output, childOutput] = Pipe();
   Streams streams;
@@ -55,10 +55,10 @@ double TimeToEnd(const Command& command) {
   close(childOutput);
   for (char c = 0; read(output, &c, 1) == 1;) continue;
   close(output);
-  int status = 0;
-  waitpid(process, &status, 0);
+  int ended = 0;
+  waitpid(process, &ended, 0);
   const double elapsed = watch.Milliseconds();
-  if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
+  if (!WIFEXITED(ended) || WEXITSTATUS(ended) != status) {
     throw std::runtime_error(command[0] + " failed");
   }
   return elapsed;

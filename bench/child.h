@@ -8,8 +8,9 @@ namespace benevix {
 
 using Command = std::vector<std::string>;
 
-// Runs a process and returns its time in milliseconds. Raises std::runtime_error when it fails.
-double TimeToEnd(const Command& command);
+// Runs a process and returns its time in milliseconds. Raises std::runtime_error when it ends with
+// another exit status.
+double TimeToEnd(const Command& command, int status = 0);
 
 // A process that writes a line when it is ready and exits at the end of its standard input.
 class ReadyChild {

@@ -9,6 +9,7 @@
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "base/word_search.h"
 
 namespace benevix {
 namespace {
@@ -38,6 +39,17 @@ bool IsPlainId(const char* digits) {
 
 std::int32_t OrganizationId(std::string_view line) {
   return ToInt32(std::trunc(Val(line.substr(0, kIdLength))));
+}
+
+struct OrganizationTexts {
+  std::string_view name, type;
+};
+
+OrganizationTexts TextsOf(std::string_view line) {
+  const std::string_view rest = line.size() > kNameBegin ? line.substr(kNameBegin) : "";
+  const auto comma = rest.find(',');
+  if (comma == std::string_view::npos) return {};
+  return {rest.substr(0, comma), comma + 2 < rest.size() ? rest.substr(comma + 2) : ""};
 }
 
 bool IsBlank(std::string_view line) {
@@ -134,7 +146,10 @@ bool OrganizationList::CheckOrganization(std::string_view line, std::size_t comm
 }
 
 std::string_view OrganizationList::Line(int row) const {
-  const std::size_t begin = lineStarts_[static_cast<std::size_t>(row - 1)];
+  return LineAt(lineStarts_[static_cast<std::size_t>(row - 1)]);
+}
+
+std::string_view OrganizationList::LineAt(std::size_t begin) const {
   const char* const text = bytes_.data() + begin;
   const void* const end = std::memchr(text, '\n', bytes_.size() - begin);
   const std::size_t length = end == nullptr
@@ -213,6 +228,48 @@ int OrganizationList::FindNameIn(std::string_view word, int from, int to) const 
   return 0;
 }
 
+int OrganizationList::RowOf(std::size_t begin) const {
+  const auto found = std::ranges::lower_bound(lineStarts_, begin);
+  const bool isRow = found != lineStarts_.end() && *found == begin;
+  return isRow ? static_cast<int>(found - lineStarts_.begin()) + 1 : 0;
+}
+
+OrganizationList::Found OrganizationList::FindText(std::string_view word, int partFrom) const {
+  const WordSearch search(word);
+  const std::string_view text(bytes_.data(), bytes_.size());
+  Found found;
+  std::size_t begin = 0;
+  std::size_t end = 0;  // of the line last looked at
+  OrganizationTexts texts;
+  const char* const last = text.data() + text.size();
+  const auto next = [&](std::size_t from) {
+    const char* const place = search.Find(text.data() + from, last, last);
+    return place == nullptr ? text.size() : static_cast<std::size_t>(place - text.data());
+  };
+  for (std::size_t at = next(0); at < text.size(); at = next(at + 1)) {
+    if (at >= end) {
+      begin = at == 0 ? 0 : text.rfind('\n', at - 1) + 1;  // npos + 1 is 0
+      end = std::min(text.find('\n', at), text.size() - 1) + 1;
+      texts = text[begin] == '[' ? OrganizationTexts() : TextsOf(LineAt(begin));
+    }
+    const char* const place = text.data() + at;
+    const auto room = [&](std::string_view in) {
+      return place >= in.data() && place + word.size() <= in.data() + in.size();
+    };
+    const bool inName = room(texts.name);
+    if ((inName && place == texts.name.data()) ||
+        (room(texts.type) && place == texts.type.data())) {
+      found.beginning = RowOf(begin);
+      if (found.beginning != 0) return found;
+    }
+    if (inName && found.part == 0) {
+      const int row = RowOf(begin);
+      if (row >= partFrom) found.part = row;
+    }
+  }
+  return found;
+}
+
 std::string_view OrganizationList::View(int row, int column) const {
   const std::string_view line = Line(row);
   if (line[0] == '[') {
@@ -220,11 +277,8 @@ std::string_view OrganizationList::View(int row, int column) const {
     return line.substr(1, line.size() - 2);
   }
   if (column != column::kOrganization && column != column::kType) return {};
-  const std::string_view rest = line.size() > kNameBegin ? line.substr(kNameBegin) : "";
-  const auto comma = rest.find(',');
-  if (comma == std::string_view::npos) return {};
-  if (column == column::kOrganization) return rest.substr(0, comma);
-  return comma + 2 < rest.size() ? rest.substr(comma + 2) : std::string_view();
+  const OrganizationTexts texts = TextsOf(line);
+  return column == column::kOrganization ? texts.name : texts.type;
 }
 
 }  // namespace benevix

@@ -52,6 +52,14 @@ class OrganizationList : public RowSource {
   // ignoring case; 0 without one.
   [[nodiscard]] int FindName(std::string_view word, int from) const;
 
+  // Where a word is found, ignoring case; 0 for nowhere.
+  struct Found {
+    int beginning = 0;  // the first row whose name or type begins with it
+    int part = 0;       // without one, the first from a given row on whose name contains it
+  };
+  // In one pass over the bytes. The word must not be empty.
+  [[nodiscard]] Found FindText(std::string_view word, int partFrom) const;
+
   // The rows of the country headings, in order.
   [[nodiscard]] const std::vector<int>& Headings() const { return headings_; }
   // The version of the last header line.
@@ -72,6 +80,9 @@ class OrganizationList : public RowSource {
   // `place`, behind the beginning of the row's line, when `size` bytes from there on belong to its
   // name or its type; otherwise a place behind it up to which none does.
   [[nodiscard]] const char* PlaceInTexts(int row, const char* place, std::size_t size) const;
+  [[nodiscard]] std::string_view LineAt(std::size_t begin) const;
+  // The row whose line begins there; 0 for other lines, such as comments.
+  [[nodiscard]] int RowOf(std::size_t begin) const;
   [[nodiscard]] int FindNameIn(std::string_view word, int from, int to) const;
 
   std::vector<char, LargeAllocator<char>> bytes_;

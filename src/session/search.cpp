@@ -1,18 +1,10 @@
 #include "session/search.h"
 
 #include <algorithm>
-#include <string_view>
 
 #include "base/text.h"
 
 namespace benevix {
-namespace {
-
-bool Contains(std::string_view text, std::string_view word) {
-  return std::search(text.begin(), text.end(), word.begin(), word.end(), SameLetter) != text.end();
-}
-
-}  // namespace
 
 void Search::Restart() {
   startRow_ = 1;
@@ -30,12 +22,7 @@ void Search::Command1_Click() {
 }
 
 int Search::Find(const std::string& word) {
-  if (window_.Option1[0].value) return FindCountry(word);
-  const int first = FindByBeginning(word);
-  if (first != 0) return first;
-  const int row = FindByNamePart(word);
-  if (row != 0) startRow_ = row + 1;
-  return row;
+  return window_.Option1[0].value ? FindCountry(word) : FindOrganization(word);
 }
 
 int Search::FindCountry(const std::string& word) const {
@@ -46,32 +33,34 @@ int Search::FindCountry(const std::string& word) const {
   return 0;
 }
 
-int Search::FindByBeginning(const std::string& word) const {
+int Search::FindOrganization(const std::string& word) {
   const OrganizationList& list = *database_.List();
-  // Only a digit or a minus can begin an ID.
-  const bool maybeId = word[0] == '-' || (word[0] >= '0' && word[0] <= '9');
-  int found = 0;
-  for (int row = 1; row <= list.Count() && found == 0; ++row) {
-    if (BeginsWith(list.View(row, column::kOrganization), word) ||
-        BeginsWith(list.View(row, column::kType), word) ||
-        (maybeId && BeginsWith(list.Text(row, column::kId), word))) {
-      found = row;
-    }
+  const OrganizationList::Found found = list.FindText(word, startRow_);
+  const int last = found.beginning != 0 ? found.beginning : list.Count();
+  int first = found.beginning;
+  for (const int other : {FindById(word, last), FindWritten(word)}) {
+    if (other != 0 && (first == 0 || other < first)) first = other;
   }
+  if (first != 0) return first;
+  if (found.part != 0) startRow_ = found.part + 1;
+  return found.part;
+}
+
+int Search::FindById(const std::string& word, int last) const {
+  // Only a digit or a minus can begin an ID.
+  if (word[0] != '-' && (word[0] < '0' || word[0] > '9')) return 0;
+  for (int row = 1; row <= last; ++row) {
+    if (BeginsWith(database_.List()->Text(row, column::kId), word)) return row;
+  }
+  return 0;
+}
+
+int Search::FindWritten(const std::string& word) const {
   for (const auto& [row, cells] : main_.ListView1.cells) {
-    if (found != 0 && row >= found) break;
     if (std::any_of(cells.begin(), cells.end(),
                     [&](const std::string& cell) { return BeginsWith(cell, word); })) {
       return row;
     }
-  }
-  return found;
-}
-
-int Search::FindByNamePart(const std::string& word) const {
-  const OrganizationList& list = *database_.List();
-  for (int row = startRow_; row <= list.Count(); ++row) {
-    if (Contains(list.View(row, column::kOrganization), word)) return row;
   }
   return 0;
 }

@@ -23,10 +23,13 @@ class Search {
  private:
   [[nodiscard]] int Find(const std::string& word);
   [[nodiscard]] int FindCountry(const std::string& word) const;
-  // The first row with a sub-item that begins with the word.
-  [[nodiscard]] int FindByBeginning(const std::string& word) const;
-  // The first row from startRow_ on whose name contains the word.
-  [[nodiscard]] int FindByNamePart(const std::string& word) const;
+  // The first row with a sub-item that begins with the word; without one, the first row from
+  // startRow_ on whose name contains it, where the search goes on next time.
+  [[nodiscard]] int FindOrganization(const std::string& word);
+  // The first of the rows up to `last` whose ID begins with the word.
+  [[nodiscard]] int FindById(const std::string& word, int last) const;
+  // The first row with a written text that begins with the word.
+  [[nodiscard]] int FindWritten(const std::string& word) const;
 
   frmSrch& window_;
   const frmBVX& main_;
