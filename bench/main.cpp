@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QStandardPaths>
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
@@ -11,8 +12,10 @@
 
 #include "child.h"
 #include "database/organization_list.h"
+#include "database/row_filter.h"
 #include "donation_bench.h"
 #include "folder.h"
+#include "giving_bench.h"
 #include "make_list.h"
 #include "memory.h"
 #include "platform/linux/linux_files.h"
@@ -27,7 +30,8 @@ namespace fs = std::filesystem;
 constexpr int kOrganizations = 2'000'000;
 constexpr int kCountries = 250;
 constexpr int kGiven = 1000;
-constexpr int kGivenInBoth = 400;  // the shipped list has hardly more organizations
+constexpr int kGivenInBoth = 400;   // the shipped list has hardly more organizations
+constexpr int kSessions = 100'000;  // of the history, with ten gifts each
 constexpr int kRuns = 9;
 constexpr int kNothingFound = 1;  // the exit status of the search programs
 constexpr double kMegabyte = 1e6;
@@ -54,6 +58,31 @@ int Find(const std::string& file) {
   const double elapsed = watch.Milliseconds();
   if (found.beginning != 0 || found.part != 0) return 1;
   std::cout << elapsed << std::endl;
+  return 0;
+}
+
+// "--filter FILE": the same for the filter of the list: the first letter, and the slowest of the
+// further ones.
+int Filter(const std::string& file) {
+  const OrganizationList list(*LinuxFiles().Open(FilePath(file)));
+  double first = 0, further = 0;
+  for (const std::string word : {"and", "water", "zebra"}) {
+    ShownRows before;
+    for (std::size_t size = 1; size <= word.size(); ++size) {
+      const Stopwatch watch;
+      before = RowsWith(list, {word.substr(0, size)}, nullptr);
+      double& slowest = size == 1 ? first : further;
+      slowest = std::max(slowest, watch.Milliseconds());
+    }
+  }
+  std::cout << first << ' ' << further << std::endl;
+  return 0;
+}
+
+// "--report FOLDER": the same for the giving report of a program folder.
+int TellReport(const std::string& folder) {
+  const ReportTimes times = TimeReport(folder);
+  std::cout << times.shown << ' ' << times.csv << std::endl;
   return 0;
 }
 
@@ -87,7 +116,7 @@ void BenchDonations(Report& report, const fs::path& shipped, const fs::path& big
   const DonationTimes few = TimeDonationEntries(shipped.string(), kGivenInBoth);
   const DonationTimes many = TimeDonationEntries(big.string(), kGivenInBoth);
   const DonationTimes full = TimeDonationEntries(big.string(), kGiven);
-  report.Title("One donation entry");
+  report.Title("One donation entry, with its step in the journal");
   for (const DonationTimes& times : {few, many, full}) {
     report.Line(
         std::to_string(times.rows) + " rows, " + std::to_string(times.given) + " donations given",
@@ -115,6 +144,63 @@ void BenchFind(Report& report, const std::string& self, const std::string& list)
   report.Line("find", Median(finds), "ms");
   report.Line(name, Median(counts), "ms");
   report.Ratio("find / " + name, Median(finds) / Median(counts), hasRg ? 1 : 0.5);
+}
+
+// Two numbers that a child writes.
+struct Two {
+  explicit Two(const Command& command) {
+    const ReadyChild child(command);
+    std::size_t end = 0;
+    first = std::stod(child.Line(), &end);
+    second = std::stod(child.Line().substr(end));
+  }
+  double first = 0, second = 0;
+};
+
+void BenchFilter(Report& report, const std::string& self, const std::string& list) {
+  std::vector<double> first;
+  std::vector<double> further;
+  for (int run = 0; run < kRuns; ++run) {
+    const Two times({self, "--filter", list});
+    first.push_back(times.first);
+    further.push_back(times.second);
+  }
+  report.Title("Filter as you type, the rows found");
+  report.Line("first letter", Median(first), "ms");
+  report.Line("each further letter", Median(further), "ms");
+  report.Ratio("first letter / 50 ms", Median(first) / 50, 1);
+  report.Ratio("further letter / 16 ms", Median(further) / 16, 1);
+}
+
+void BenchGiving(Report& report, const std::string& self, const fs::path& folder) {
+  const fs::path history = folder / "Resources" / "history.dat";
+  MakeHistory(history, kSessions);
+  std::vector<double> shown;
+  std::vector<double> written;
+  std::vector<double> counts;
+  std::vector<double> without;
+  std::vector<double> with;
+  const std::string start = (fs::path(self).parent_path() / "bench-start").string();
+  for (int run = 0; run < kRuns; ++run) {
+    const Two times({self, "--report", folder.string()});
+    shown.push_back(times.first);
+    written.push_back(times.second);
+    counts.push_back(TimeToEnd({"wc", "-l", history.string()}));
+    with.push_back(ReadyChild({start, folder.string()}).Elapsed());
+    fs::rename(history, folder / "history");
+    without.push_back(ReadyChild({start, folder.string()}).Elapsed());
+    fs::rename(folder / "history", history);
+  }
+  report.Title("What was given: 100,000 sessions, 1,000,000 gifts");
+  report.Line("the history", static_cast<double>(fs::file_size(history)) / kMegabyte, "MB");
+  report.Line("report shown", Median(shown), "ms");
+  report.Line("CSV written", Median(written), "ms");
+  report.Line("wc -l", Median(counts), "ms");
+  report.Ratio("report shown / wc -l", Median(shown) / Median(counts), 6);
+  report.Line("CSV written / wc -l", Median(written) / Median(counts), "x");
+  report.Line("main window shown, with it", Median(with), "ms");
+  report.Line("main window shown, without", Median(without), "ms");
+  report.Ratio("what it costs at start / 100 ms", (Median(with) - Median(without)) / 100, 1);
 }
 
 struct Starts {
@@ -169,9 +255,11 @@ Report Bench(const std::string& self, const fs::path& resources) {
   MakeProgramFolder(big, list, resources);
   BenchLoad(report, self, list.string());
   BenchFind(report, self, list.string());
+  BenchFilter(report, self, list.string());
   BenchDonations(report, shipped, big);
   BenchStart(report, fs::path(self).parent_path(), shipped, big,
              static_cast<double>(fs::file_size(list)));
+  BenchGiving(report, self, shipped);
   return report;
 }
 
@@ -182,6 +270,11 @@ int main(int argc, char** argv) {
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     if (argc == 3 && std::string(argv[1]) == "--load") return Load(argv[2]);
     if (argc == 3 && std::string(argv[1]) == "--find") return Find(argv[2]);
+    if (argc == 3 && std::string(argv[1]) == "--filter") return Filter(argv[2]);
+    if (argc == 3 && std::string(argv[1]) == "--report") {
+      const QApplication app(argc, argv);
+      return TellReport(argv[2]);
+    }
     const bool json = argc == 3 && std::string(argv[1]) == "--json";
     if (argc != 1 && !json) throw std::runtime_error("usage: benevix-bench [--json FILE]");
     // Offscreen, so that results of different machines can be compared.
