@@ -19,7 +19,7 @@
 namespace benevix {
 namespace {
 
-constexpr int kFailed = 1, kNotUnderstood = 2;
+constexpr int kNotDone = 1, kNotUnderstood = 2;
 
 int Fail(int status, const std::string& reason) {
   std::fprintf(stderr, "benevix: %s\n", ToUtf8(reason).c_str());
@@ -127,7 +127,7 @@ std::optional<int> RunCommand(int argc, char** argv) {
     WriteGifts(machine.TheEnvironment(), parser.value(parser.isSet(csv) ? csv : pdf),
                parser.isSet(csv), days[0], days[1]);
   } catch (const RuntimeError& error) {
-    return Fail(kFailed, error.what());
+    return Fail(kNotDone, error.what());
   }
   return 0;
 }

@@ -1,9 +1,9 @@
 // The program's commands, run as a user does, without a display.
 
 #include <QProcess>
+#include <filesystem>
 #include <gtest/gtest.h>
 
-#include "platform/linux/program_folder.h"
 #include "platform/temp_files.h"
 
 namespace benevix {
@@ -14,18 +14,21 @@ class CommandTest : public testing::Test {
   CommandTest() {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char* folder : {"XDG_DATA_HOME", "XDG_CONFIG_HOME"}) {
-      qputenv(folder, QByteArray::fromStdString(folder_ / ""));
       environment.insert(folder, QString::fromStdString(folder_ / ""));
     }
     for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
       environment.remove(display);
     }
     program_.setProcessEnvironment(environment);
+    // An installation that stands in a folder of its own.
+    std::filesystem::create_directory(folder_ / "Resources");
+    std::filesystem::copy_file(BENEVIX_PROGRAM, folder_ / "benevix");
+    std::filesystem::copy_file(RESOURCES_FOLDER "/deployment.ini", folder_ / "deployment.ini");
     program_.setWorkingDirectory(QString::fromStdString(folder_ / ""));
   }
 
   int Run(const QStringList& arguments) {
-    program_.start(BENEVIX_PROGRAM, arguments);
+    program_.start(QString::fromStdString(folder_ / "benevix"), arguments);
     program_.waitForFinished();
     error_ = program_.readAllStandardError().toStdString();
     return program_.exitCode();
@@ -47,7 +50,7 @@ TEST_F(CommandTest, GiftsAreWrittenWithoutAWindow) {
                "             Organization: Water \xC9 -  Amount: $50.25 -  From: Ann -  Method: "
                "Pool\r\n             Payment: $50.25 - BVX Fee: $ . - CC Fee: $.\r\n\r\n";
   }
-  WriteFile(ProgramFolder(BENEVIX_PROGRAM) + "/Resources/history.dat", history);
+  WriteFile(folder_ / "Resources/history.dat", history);
   EXPECT_EQ(Run({"--export", "gifts.csv", "--from", "2003-03-06", "--to", "2004-12-31"}), 0)
       << error_;
   EXPECT_NE(ReadFile(table).find("2004-03-05,12:34,\"2004C\",\"Water \xC3\x89\",50.25"),
