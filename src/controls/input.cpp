@@ -46,8 +46,21 @@ void Input::Enter(const std::function<void()>& what) {
 
 bool Input::Do(const Control& control, const std::function<void(Desk::Entry&)>& what) {
   Desk::Entry& entry = desk_.Holding(control);
-  if (busy_ || !desk_.IsUsable(entry, control)) return false;
-  Enter([&] { what(entry); });
+  if (!desk_.IsUsable(entry, control)) return false;
+  const auto action = [&] { what(entry); };
+  if (busy_) return control.endsRequests && Interrupt(action);
+  Enter(action);
+  return true;
+}
+
+// Within the action that waits, which goes on when the request has ended.
+bool Input::Interrupt(const std::function<void()>& what) {
+  if (!desk_.IsRequesting() || desk_.Ended()) return false;
+  try {
+    what();
+  } catch (const ProgramEnded&) {
+    cancelRequest();  // its caller ends in turn
+  }
   return true;
 }
 
@@ -191,6 +204,7 @@ bool Input::Key(const Control& control, int key) {
   const Desk::Entry& entry = desk_.Holding(control);
   const int life = entry.loads;
   const bool done = Do(control, [&](Desk::Entry&) { Fire(control, Event::KeyUp, {.key = key}); });
+  if (!done && busy_) return Key(*entry.window, key);
   if (!done || !entry.loaded || entry.loads != life) return done;
   const NamedControl& named = Named(entry, control);
   if (key == keys::kEnter && named.As<Button>() != nullptr) {
@@ -202,7 +216,8 @@ bool Input::Key(const Control& control, int key) {
 }
 
 bool Input::Key(Window& window, int key) {
-  return AnswerKey(desk_.Find(window), key);
+  if (AnswerKey(desk_.Find(window), key)) return true;
+  return busy_ && key == keys::kEscape && Interrupt(cancelRequest);
 }
 
 bool Input::AnswerKey(const Desk::Entry& entry, int key) {
@@ -275,11 +290,14 @@ void Input::Arrived(PageViewer& viewer, std::string address) {
 }
 
 bool Input::Close(Window& window) {
-  if (busy_ || !desk_.IsUsable(window)) return false;
-  Enter([&] {
+  const auto action = [&] {
     EventArgs args;
     if (!events_.Fire(window, Event::Close, args)) desk_.Unload(window);
-  });
+  };
+  // Also while another window keeps the user's attention: nobody can close that one now.
+  if (busy_) return window.endsRequests && desk_.IsShown(window) && Interrupt(action);
+  if (!desk_.IsUsable(window)) return false;
+  Enter(action);
   return true;
 }
 

@@ -90,6 +90,7 @@ struct frmBVX : Window {
     mnuPrtHistory.shortcut = "Ctrl+Shift+P";
     mnuUpdateList.shortcut = "F5";
     mnuExit.shortcut = "Ctrl+Q";
+    endsRequests = mnuExit.endsRequests = true;
     mnuCls.shortcut = "Ctrl+Shift+Del";
     mnuCorrect.shortcut = "F2";
     mnuUndo.shortcut = "Ctrl+Z";

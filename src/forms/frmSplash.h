@@ -10,6 +10,7 @@ struct frmSplash : Window {
 
   frmSplash() {
     caption = "Benevix";
+    endsRequests = Image2[1].endsRequests = true;
     Image2[0].shortcut = kEnterShortcut;
     Image2[1].shortcut = kEscapeShortcut;
   }

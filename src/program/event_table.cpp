@@ -221,6 +221,12 @@ void Program::ConnectSmallWindows() {
                wait.Timer1.enabled = false;
                desk_.Unload(wait);
              }));
+  const auto cancel = Plain([this, &wait] {
+    requests_.Cancel();
+    desk_.Unload(wait);
+  });
+  events_.On(wait.Command1, Event::Click, cancel);
+  events_.On(wait, Event::Close, cancel);
 
   frmWizard& wizard = forms_.Get<frmWizard>();
   events_.On(wizard, Event::Load, Plain([this] { wizard_.Form_Load(); }));

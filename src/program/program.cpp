@@ -102,6 +102,7 @@ Program::Program(const Environment& environment)
     journalCommands_.Show();
     requests_.EndAction();
   };
+  input_.cancelRequest = [this] { requests_.Cancel(); };
   input_.onError = [this](const RuntimeError& error) {
     messages_.Show(error.what(), BoxIcon::Critical);
   };

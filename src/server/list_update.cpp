@@ -10,6 +10,7 @@ namespace benevix {
 std::string ListUpdate::Download(const std::string& path, HttpOptions options) {
   WaitNotice notice(wait_);
   options.limit = kDownloadLimit;
+  options.isLong = true;
   options.progress = notice.Progress();
   return server_.FetchServerText(path, options);
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <functional>
+
 #include "platform/http_client.h"
 #include "platform/waits.h"
-
-class QUrl;
 
 namespace benevix {
 
@@ -17,9 +17,11 @@ class QtHttpClient : public HttpClient {
 
   // Errors read "<host>: <reason>".
   std::string OpenURL(const std::string& address, const HttpOptions& options) override;
+  void Cancel() override { cancel_(); }
 
  private:
   Waits& waits_;
+  std::function<void()> cancel_ = [] {};
 };
 
 }  // namespace benevix
