@@ -138,6 +138,10 @@ class RecordingShell : public LinuxShell {
   }
   [[nodiscard]] std::string ShortcutExtension() const override { return ".lnk"; }
   void StartProgram(const FilePath& file) override { started.Add(file.Utf8()); }
+  bool OpenInBrowser(const std::string& address) override {
+    started.Add(address);
+    return true;
+  }
 
   Recorded<std::string> started;
 

@@ -178,6 +178,7 @@ void Program::ConnectViewer() {
   frmInfo& info = forms_.Get<frmInfo>();
   events_.On(info, Event::Load, Plain([this] { viewer_.Form_Load(); }));
   events_.On(info.Back, Event::Click, Plain([this] { viewer_.Back_Click(); }));
+  events_.On(info.Browser, Event::Click, Plain([this] { viewer_.Browser_Click(); }));
   events_.On(info.VScroll1, Event::Scroll, Plain([this] { viewer_.VScroll1_Scroll(); }));
   events_.On(info.Label3, Event::Click, Plain([this] { translation_.Label3_Click(); }));
 

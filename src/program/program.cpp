@@ -50,7 +50,7 @@ Program::Program(const Environment& environment)
                      BoxIcon::Critical);
                }),
       journalCommands_(main_, journal_, messages_),
-      viewer_(forms_.Get<frmInfo>(), desk_, environment_.waits),
+      viewer_(forms_.Get<frmInfo>(), desk_, messages_, environment_),
       help_(viewer_, main_, messages_, environment_.info),
       wizard_(forms_.Get<frmWizard>(), main_, desk_, settings_, environment_.info, help_),
       server_(environment_, main_, rates_, run_),
@@ -95,7 +95,7 @@ Program::Program(const Environment& environment)
   input_.derive = [this] {
     journal_.AfterEvent();
     charges_.Show();
-    viewer_.ShowBack();
+    viewer_.ShowWays();
     paymentStates_.AfterEvent();
     contact_.ShowWhatFollows();
     preview_.Show();
