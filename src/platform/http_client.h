@@ -20,6 +20,9 @@ struct HttpOptions {
   std::size_t limit = kResponseLimit;  // bytes
   bool needsOk = false;  // a response with a status other than 200 is returned as empty
   std::string purpose = "Contacting the server...";  // told to the user while he waits
+  // Called with each address before it is asked, those of redirects too; may raise RuntimeError,
+  // which ends the request.
+  std::function<void(const std::string& address)> onAddress = {};
   // Called once when the response is not complete after a moment. Raises nothing.
   std::function<void()> onSlow = {};
   // Called for each chunk received, with bytes; `total` is 0 when the server does not tell.

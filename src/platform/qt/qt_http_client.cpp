@@ -20,9 +20,10 @@ namespace benevix {
 namespace {
 
 constexpr int kMaxRedirects = 10;
-constexpr int kMoment = 300;          // milliseconds
-constexpr int kDefaultTimeout = 5;    // seconds
-constexpr int kMaxTimeout = 300'000;  // seconds; kTimeoutsInAll times as many milliseconds fit an int
+constexpr int kMoment = 300;        // milliseconds
+constexpr int kDefaultTimeout = 5;  // seconds
+constexpr int kMaxTimeout =
+    300'000;  // seconds; kTimeoutsInAll times as many milliseconds fit an int
 // Bytes to buffer and to read at a time. Qt may have more available; each chunk is reported.
 constexpr qint64 kChunk = qint64{1} << 20;
 
@@ -201,14 +202,19 @@ std::string QtHttpClient::OpenURL(const std::string& address, const HttpOptions&
   });
   if (!options.isLong) patience.start(longest);
   for (int redirects = 0; redirects <= kMaxRedirects; ++redirects) {
+    if (options.onAddress) options.onAddress(url.toEncoded().toStdString());
     Response response = Get(url, proxy, options, stop);
     if (response.redirect.isEmpty()) {
       constexpr int ok = 200;
       if (options.needsOk && response.status != ok) return {};
       return std::move(response.body);
     }
-    url = url.resolved(response.redirect);
-    CheckWebUrl(url);
+    const QUrl next = url.resolved(response.redirect);
+    CheckWebUrl(next);
+    if (url.scheme() == QStringLiteral("https") && next.scheme() != url.scheme()) {
+      Fail(url, "redirects from https to http");
+    }
+    url = next;
   }
   Fail(url, "too many redirects");
 }

@@ -10,7 +10,7 @@ namespace benevix {
 // HTTP/1.1 with Qt's network classes, in an event loop of the calling thread until the response is
 // complete. Requests are independent: no cache, cookies or persistent connections, and no proxy but
 // the given one. They are never retried, as some of them send mail. Follows up to ten redirects, to
-// http and https only.
+// http and https only, and never from https to http.
 class QtHttpClient : public HttpClient {
  public:
   explicit QtHttpClient(Waits& waits) : waits_(waits) {}
