@@ -125,6 +125,11 @@ const std::vector<LineKind>& SettingUpLines() {
       {"random FRACTION FRACTION...", Random},
       {"setting ROOT NAME [TEXT]", Setting},
       {"deployment NAME TEXT", SetDeployment},
+      {"installed PATH",
+       [](ProgramRunner& runner, const Texts& words) {
+         World& world = runner.TheWorld();
+         world.info.installed = FilePath(words[0]);
+       }},
       {"readonly machine", [](ProgramRunner& runner,
                               const Texts&) { runner.TheWorld().settings.MakeMachineReadonly(); }},
       {"contact NAME ADDRESS CITY STATE POSTAL COUNTRY EMAIL", Contact},

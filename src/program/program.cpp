@@ -56,8 +56,10 @@ Program::Program(const Environment& environment)
       server_(environment_, main_, rates_, run_),
       yearToDate_(environment_, server_, run_, main_, forms_.Get<frmYtdTag>(), desk_),
       news_(main_, viewer_, server_, messages_, environment_.info, [this] { DownloadUpdater(); }),
-      listUpdate_(environment_, server_, messages_, run_,
-                  {forms_.Get<frmWait>(), desk_, environment_.waits}),
+      downloads_(server_, {forms_.Get<frmWait>(), desk_, environment_.waits},
+                 environment_.info.deployment),
+      updater_(environment_, downloads_, messages_),
+      listUpdate_(environment_, server_, messages_, run_, downloads_),
       listAtStart_(listUpdate_, database_, environment_, messages_, run_),
       listUpdateCommand_(listUpdate_, main_, values_, messages_, database_, favorites_,
                          environment_.files),
@@ -123,7 +125,7 @@ void Program::ContactSaved(ContactCaller caller) {
 }
 
 void Program::DownloadUpdater() {
-  if (listUpdate_.DownloadUpdater()) desk_.End();
+  if (updater_.Download()) desk_.End();
 }
 
 }  // namespace benevix
