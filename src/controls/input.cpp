@@ -201,10 +201,10 @@ bool Input::Type(ListView& list, char typed) {
 }
 
 bool Input::Key(const Control& control, int key) {
+  if (busy_ && key == keys::kEscape) return Interrupt(cancelRequest);
   const Desk::Entry& entry = desk_.Holding(control);
   const int life = entry.loads;
   const bool done = Do(control, [&](Desk::Entry&) { Fire(control, Event::KeyUp, {.key = key}); });
-  if (!done && busy_) return Key(*entry.window, key);
   if (!done || !entry.loaded || entry.loads != life) return done;
   const NamedControl& named = Named(entry, control);
   if (key == keys::kEnter && named.As<Button>() != nullptr) {
@@ -216,8 +216,8 @@ bool Input::Key(const Control& control, int key) {
 }
 
 bool Input::Key(Window& window, int key) {
-  if (AnswerKey(desk_.Find(window), key)) return true;
-  return busy_ && key == keys::kEscape && Interrupt(cancelRequest);
+  if (busy_ && key == keys::kEscape) return Interrupt(cancelRequest);
+  return AnswerKey(desk_.Find(window), key);
 }
 
 bool Input::AnswerKey(const Desk::Entry& entry, int key) {

@@ -31,7 +31,7 @@ void Program::frmSplash_Load() {
                                 std::string(server    ? "the payment page"
                                             : payment ? "the server"
                                                       : "server and payment page") +
-                                " is not https. Others on the way can read what is sent.";
+                                " is not https.\r\nOthers on the way can read what is sent.";
 }
 
 void Program::Image2_Click(int index) {

@@ -143,7 +143,8 @@ void PageViewHost::ShowNotice(const QString& text) {
   column->setContentsMargins(32, 0, 32, 0);
   column->addStretch();
   column->addWidget(label);
-  if (!address_.isEmpty()) {
+  // The window itself leads from a page of the web to the browser.
+  if (address_.isLocalFile()) {
     auto* button = new QPushButton(QStringLiteral("&Open in the browser"), notice);
     QObject::connect(button, &QPushButton::clicked, label, [label, address = address_] {
       if (QDesktopServices::openUrl(address)) return;

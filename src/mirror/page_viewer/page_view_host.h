@@ -14,7 +14,7 @@ class QWidget;
 namespace benevix {
 
 // Shows pages in a widget of a window. The engine is loaded with the first page; where it is
-// missing or may not run, a notice offers the user's browser.
+// missing or may not run, a notice says so.
 class PageViewHost {
  public:
   // `hostLine` shows where the page comes from, and whether others on the way can change it.
