@@ -1,6 +1,7 @@
 #include "platform/signature.h"
 
 #include <memory>
+#include <openssl/err.h>
 #include <openssl/evp.h>
 #include <openssl/x509.h>
 #include <vector>
@@ -9,6 +10,15 @@ namespace benevix {
 namespace {
 
 using Key = std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)>;
+
+// What was wrong must not be taken for a fault of a connection, whose errors the library keeps in
+// the same place.
+struct ErrorsForgotten {
+  ErrorsForgotten() { ERR_set_mark(); }
+  ~ErrorsForgotten() { ERR_pop_to_mark(); }
+  ErrorsForgotten(const ErrorsForgotten&) = delete;
+  ErrorsForgotten& operator=(const ErrorsForgotten&) = delete;
+};
 
 const unsigned char* BytesOf(std::string_view text) {
   return reinterpret_cast<const unsigned char*>(text.data());
@@ -30,10 +40,12 @@ Key ReadKey(const std::string& base64) {
 }  // namespace
 
 bool IsPublicKey(const std::string& key) {
+  const ErrorsForgotten forget;
   return ReadKey(key) != nullptr;
 }
 
 bool IsSignedBy(const std::string& key, std::string_view bytes, std::string_view signature) {
+  const ErrorsForgotten forget;
   const Key read = ReadKey(key);
   const std::unique_ptr<EVP_MD_CTX, decltype(&EVP_MD_CTX_free)> context(EVP_MD_CTX_new(),
                                                                         EVP_MD_CTX_free);

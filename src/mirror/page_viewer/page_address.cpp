@@ -36,7 +36,7 @@ QString OriginText(const QUrl& address) {
   // Letters of other scripts stay encoded: some look like the letters of a well-known host.
   QString host = address.host(QUrl::FullyEncoded);
   if (address.port() >= 0) host += ':' + QString::number(address.port());
-  constexpr qsizetype longest = 60;
+  constexpr qsizetype longest = 40;
   if (host.size() > longest) host = QStringLiteral("…") + host.right(longest);
   return address.scheme() + "://" + host;
 }

@@ -107,6 +107,7 @@ void PageViewHost::MovedTo(const QUrl& address) {
     onShown(address);
     return;
   }
+  if (!view_) return;
   QWidget* const page = view_->Widget();
   page->hide();
   QTimer::singleShot(0, page, [this] {

@@ -84,7 +84,7 @@ Deployment ReadDeployment(const std::string& file) {
   const std::string paymentIn = values.OptionalText("PaymentIn");
   deployment.paymentInBrowser = paymentIn == "browser";
   if (!paymentIn.empty() && paymentIn != "viewer" && !deployment.paymentInBrowser) {
-    values.Refuse("PaymentIn", "\"viewer\" or \"browser\"");
+    values.Refuse("PaymentIn", "viewer or browser");
   }
   deployment.updateKey = values.OptionalText("UpdateKey");
   if (!deployment.updateKey.empty() && !IsPublicKey(deployment.updateKey)) {
