@@ -22,8 +22,8 @@ namespace {
 constexpr int kMaxRedirects = 10;
 constexpr int kMoment = 300;        // milliseconds
 constexpr int kDefaultTimeout = 5;  // seconds
-constexpr int kMaxTimeout =
-    300'000;  // seconds; kTimeoutsInAll times as many milliseconds fit an int
+// Seconds; kTimeoutsInAll times as many milliseconds fit an int.
+constexpr int kMaxTimeout = 300'000;
 // Bytes to buffer and to read at a time. Qt may have more available; each chunk is reported.
 constexpr qint64 kChunk = qint64{1} << 20;
 
@@ -43,6 +43,22 @@ struct Stop {
 
   QPointer<QNetworkReply> reply;  // under way
   std::string reason;             // empty while the request may go on
+};
+
+// As long as this object lives, `cancel` ends the request.
+class CancelScope {
+ public:
+  CancelScope(std::function<void()>& cancel, Stop& stop) : cancel_(cancel) {
+    cancel_ = [&stop] { stop.Now("cancelled"); };
+  }
+  ~CancelScope() {
+    cancel_ = [] {};
+  }
+  CancelScope(const CancelScope&) = delete;
+  CancelScope& operator=(const CancelScope&) = delete;
+
+ private:
+  std::function<void()>& cancel_;
 };
 
 // An empty request body that prevents retries. Qt sends a request up to three more times when the
@@ -188,8 +204,7 @@ std::string QtHttpClient::OpenURL(const std::string& address, const HttpOptions&
   const QNetworkProxy proxy = Proxy(options.proxy);
   const WaitScope wait(waits_);
   Stop stop;
-  cancel_ = [&stop] { stop.Now("cancelled"); };
-  const std::shared_ptr<void> done(nullptr, [this](void*) { cancel_ = [] {}; });
+  const CancelScope cancellable(cancel_, stop);
   QTimer moment;
   moment.setSingleShot(true);
   if (options.onSlow) QObject::connect(&moment, &QTimer::timeout, options.onSlow);
