@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "base/web_address.h"
 #include "player/paths.h"
 #include "player/program_runner.h"
 #include "player/properties.h"
@@ -182,7 +183,7 @@ void NoPrint(ProgramRunner& runner, const Texts&) {
 void Started(ProgramRunner& runner, const Texts& words) {
   Texts names;
   for (const std::string& file : runner.TheWorld().shell.started.All()) {
-    names.push_back(PathOf(file).filename().string());
+    names.push_back(IsWebAddress(file) ? file : PathOf(file).filename().string());
   }
   const bool started = std::find(names.begin(), names.end(), words[0]) != names.end();
   Want(started, "the start of " + Quoted(words[0]), names.empty() ? "none" : InOneLine(names));

@@ -58,6 +58,17 @@ void Close(ProgramRunner& runner, const Texts& words) {
   }
 }
 
+// While the program waits for the request that the next line makes.
+void Meanwhile(ProgramRunner& runner, const Texts& words) {
+  try {
+    const LineKind& kind = KindOf(words);
+    runner.Meanwhile(
+        [&runner, &kind, rest = Texts(words.begin() + 1, words.end())] { kind.run(runner, rest); });
+  } catch (const UnreadableLine& line) {
+    throw CannotBeDone(line.what());
+  }
+}
+
 void Answer(ProgramRunner& runner, const Texts& words) {
   for (const std::string& word : words) {
     runner.TheWorld().boxes.Queue(word == "Yes"  ? BoxAnswer::Yes
@@ -104,6 +115,7 @@ const std::vector<LineKind>& DrivingLines() {
       {"tick PATH [NUMBER]", DoWithNumber<&FrontEnd::Tick>},
       {"arrive PATH TEXT", DoWithText<&FrontEnd::Arrive>},
       {"close FORM", Close},
+      {"meanwhile COMMAND WORD...", Meanwhile},
       {"answer ANSWER ANSWER...", Answer},
       {"save-as PATH", SaveAs},
       {"shot NAME", Shot},

@@ -81,6 +81,7 @@ void PlayLine(const ScriptLine& line, ProgramRunner& runner, Report& report) {
   for (const std::string& word : line.words) words.push_back(runner.TheWorld().Fill(word));
   try {
     line.kind->run(runner, words);
+    runner.EndMeanwhile();
     if (line.kind->checks) report.Pass();
   } catch (const Mismatch& mismatch) {
     report.Fail(mismatch.expected, mismatch.got);

@@ -2,6 +2,7 @@
 
 #include <QEventLoop>
 #include <QThread>
+#include <utility>
 
 #include "player/script.h"
 #include "player/words.h"
@@ -79,6 +80,24 @@ void ProgramRunner::Launch() {
                   world_.clock, world_.random, world_.shell, world_.files, world_.printer});
   frontEnd_.Start(*program_);
   program_->Main();
+}
+
+void ProgramRunner::Meanwhile(std::function<void()> action) {
+  isNextLine_ = true;
+  http_.meanwhile = [this, action = std::move(action)] {
+    try {
+      action();
+    } catch (...) {
+      raised_ = std::current_exception();  // must not pass the toolkit's event loop
+    }
+  };
+}
+
+void ProgramRunner::EndMeanwhile() {
+  if (std::exchange(isNextLine_, false)) return;
+  const bool waits = std::exchange(http_.meanwhile, nullptr) != nullptr;
+  if (raised_) std::rethrow_exception(std::exchange(raised_, nullptr));
+  if (waits) throw CannotBeDone("the program did not wait");
 }
 
 Program& ProgramRunner::TheProgram() {

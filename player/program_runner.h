@@ -1,5 +1,7 @@
 #pragma once
 
+#include <exception>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -47,6 +49,12 @@ class ProgramRunner {
   // was sent.
   void AfterLine();
 
+  // The action is done while the program waits for a slow request of the script's next line.
+  void Meanwhile(std::function<void()> action);
+  // To be called after every line. Raises what the action has raised, and CannotBeDone when the
+  // program did not wait.
+  void EndMeanwhile();
+
   // The address that the page viewer was last sent to in the present run.
   [[nodiscard]] const std::optional<std::string>& Navigated() const { return navigated_; }
 
@@ -64,6 +72,8 @@ class ProgramRunner {
   std::unique_ptr<Program> program_;
   bool finished_ = false;
   std::optional<std::string> navigated_;
+  bool isNextLine_ = false;
+  std::exception_ptr raised_;
 };
 
 }  // namespace benevix

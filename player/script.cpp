@@ -24,6 +24,10 @@ bool FitsWord(const std::string& type, const std::string& word) {
     const auto value = DoubleIn(word);
     return value && *value >= 0 && *value < 1;
   }
+  if (type == "SECONDS") {
+    const auto value = DoubleIn(word);
+    return value && *value > 0;
+  }
   if (type == "MOMENT") return MomentIn(word).has_value();
   if (type == "ROOT") return IsOneOf(word, {"user", "machine", "favorites"});
   if (type == "FOLDER") return IsOneOf(word, {"programs", "desktop"});
@@ -48,21 +52,6 @@ bool Fits(std::span<const std::string> form, std::span<const std::string> words)
     words = words.subspan(1);
   }
   return words.empty();
-}
-
-// The kind of a line with these words, the command first. Raises UnreadableLine.
-const LineKind& KindOf(const Texts& words) {
-  std::string forms;
-  for (const auto* kinds : {&SettingUpLines(), &DrivingLines(), &CheckingLines()}) {
-    for (const LineKind& kind : *kinds) {
-      const Texts form = Words(kind.form);
-      if (form.front() != words.front()) continue;
-      if (Fits(form, words)) return kind;
-      forms += (forms.empty() ? "" : " or ") + std::string(kind.form);
-    }
-  }
-  if (forms.empty()) throw UnreadableLine("unknown command " + Quoted(words.front()));
-  throw UnreadableLine("should be: " + forms);
 }
 
 // The script's lines one after the other.
@@ -97,6 +86,20 @@ std::string TakeBody(Reader& reader) {
 }
 
 }  // namespace
+
+const LineKind& KindOf(const Texts& words) {
+  std::string forms;
+  for (const auto* kinds : {&SettingUpLines(), &DrivingLines(), &CheckingLines()}) {
+    for (const LineKind& kind : *kinds) {
+      const Texts form = Words(kind.form);
+      if (form.front() != words.front()) continue;
+      if (Fits(form, words)) return kind;
+      forms += (forms.empty() ? "" : " or ") + std::string(kind.form);
+    }
+  }
+  if (forms.empty()) throw UnreadableLine("unknown command " + Quoted(words.front()));
+  throw UnreadableLine("should be: " + forms);
+}
 
 std::vector<ScriptLine> ReadScript(const std::string& file) {
   Reader reader(file);

@@ -24,8 +24,8 @@ struct Mismatch {
 // One kind of script line.
 struct LineKind {
   // The command and its words: lower case stands for itself, [X] may be left out, X... stands for
-  // any number; NUMBER, FRACTION, MOMENT, ROOT, FOLDER, ANSWER and KEY must be such, any other
-  // upper-case word takes any text.
+  // any number; NUMBER, FRACTION, SECONDS, MOMENT, ROOT, FOLDER, ANSWER and KEY must be such, any
+  // other upper-case word takes any text.
   std::string_view form;
   // Takes the words behind the command, {...} filled in. Raises CannotBeDone, Mismatch.
   void (*run)(ProgramRunner& runner, const std::vector<std::string>& words);
@@ -37,6 +37,9 @@ struct LineKind {
 const std::vector<LineKind>& SettingUpLines();
 const std::vector<LineKind>& DrivingLines();
 const std::vector<LineKind>& CheckingLines();
+
+// The kind of a line with these words, the command first. Raises UnreadableLine.
+const LineKind& KindOf(const std::vector<std::string>& words);
 
 // The line "call": takes the routine, its arguments, "=" and the result.
 void CallRoutine(ProgramRunner& runner, const std::vector<std::string>& words);

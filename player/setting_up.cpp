@@ -77,6 +77,34 @@ void SiteStatus(ProgramRunner& runner, const Texts& words) {
       words[0], {LoopbackServer::Reply::Answer, WholeNumberIn(words[2]).value(), words[3]});
 }
 
+void SiteSlow(ProgramRunner& runner, const Texts& words) {
+  ScriptedAnswer answer{.text = words[3]};
+  answer.pause = DoubleIn(words[2]).value();
+  runner.TheWorld().site.Put(words[0], answer);
+}
+
+void SiteRedirect(ProgramRunner& runner, const Texts& words) {
+  ScriptedAnswer answer{.status = 302};
+  answer.location = words[2];
+  runner.TheWorld().site.Put(words[0], answer);
+}
+
+// A value of deployment.ini.
+void SetDeployment(ProgramRunner& runner, const Texts& words) {
+  Deployment& deployment = runner.TheWorld().info.deployment;
+  if (words[0] == "ServerBase") {
+    deployment.serverBase = words[1];
+  } else if (words[0] == "PaymentBase") {
+    deployment.paymentBase = words[1];
+  } else if (words[0] == "PaymentIn") {
+    deployment.paymentInBrowser = words[1] == "browser";
+  } else if (words[0] == "UpdateKey") {
+    deployment.updateKey = words[1];
+  } else {
+    throw CannotBeDone("no such value can be set");
+  }
+}
+
 void SiteText(ProgramRunner& runner, const Texts& words) {
   runner.TheWorld().site.Put(words[0], {LoopbackServer::Reply::Answer, 200, words[1]});
 }
@@ -96,6 +124,12 @@ const std::vector<LineKind>& SettingUpLines() {
        [](ProgramRunner& runner, const Texts& words) { runner.TheWorld().clock.Set(words[0]); }},
       {"random FRACTION FRACTION...", Random},
       {"setting ROOT NAME [TEXT]", Setting},
+      {"deployment NAME TEXT", SetDeployment},
+      {"installed PATH",
+       [](ProgramRunner& runner, const Texts& words) {
+         World& world = runner.TheWorld();
+         world.info.installed = FilePath(words[0]);
+       }},
       {"readonly machine", [](ProgramRunner& runner,
                               const Texts&) { runner.TheWorld().settings.MakeMachineReadonly(); }},
       {"contact NAME ADDRESS CITY STATE POSTAL COUNTRY EMAIL", Contact},
@@ -107,6 +141,8 @@ const std::vector<LineKind>& SettingUpLines() {
       {"site up", [](ProgramRunner& runner, const Texts&) { runner.TheWorld().site.Up(); }},
       {"site TARGET drop", SiteRefuses<LoopbackServer::Reply::Close>},
       {"site TARGET silent", SiteRefuses<LoopbackServer::Reply::Silence>},
+      {"site TARGET slow SECONDS TEXT", SiteSlow},
+      {"site TARGET redirect ADDRESS", SiteRedirect},
       {"site TARGET TEXT", SiteText},
       {"site TARGET status NUMBER TEXT", SiteStatus},
       {"printer off",

@@ -246,7 +246,8 @@ class WindowsFrontEnd : public FrontEnd {
   bool Close(Desk::Entry& window) override {
     ClosePopUps();
     WindowBinding* const binding = mirror_.BindingOf(*window.window);
-    if (binding == nullptr || !program_->TheDesk().IsUsable(*window.window)) return false;
+    const Desk& desk = program_->TheDesk();
+    if (binding == nullptr || !(desk.IsUsable(*window.window) || desk.IsRequesting())) return false;
     binding->Widget().close();
     Settle();
     return true;

@@ -2,8 +2,10 @@
 
 #include <cstddef>
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/runtime_error.h"
@@ -83,8 +85,17 @@ class RecordingHttpClient : public HttpClient {
 
   std::string OpenURL(const std::string& address, const HttpOptions& options) override {
     requests_.Add(address);
-    return client_.OpenURL(address, options);
+    HttpOptions told = options;
+    told.onSlow = [&] {
+      options.onSlow();
+      if (const auto action = std::exchange(meanwhile, nullptr)) action();
+    };
+    return client_.OpenURL(address, told);
   }
+  void Cancel() override { client_.Cancel(); }
+
+  // Done once, while a slow request is under way.
+  std::function<void()> meanwhile;
 
  private:
   HttpClient& client_;
@@ -127,6 +138,10 @@ class RecordingShell : public LinuxShell {
   }
   [[nodiscard]] std::string ShortcutExtension() const override { return ".lnk"; }
   void StartProgram(const FilePath& file) override { started.Add(file.Utf8()); }
+  bool OpenInBrowser(const std::string& address) override {
+    started.Add(address);
+    return true;
+  }
 
   Recorded<std::string> started;
 

@@ -1,7 +1,9 @@
 #include "player/world_site.h"
 
+#include <chrono>
 #include <random>
 #include <stdexcept>
+#include <thread>
 
 #include "platform/qt/wire_url.h"
 
@@ -50,6 +52,18 @@ void WorldSite::Up() {
   Listen(std::move(server));
 }
 
+void WorldSite::Down() {
+  isDown_ = true;
+  server_.reset();
+}
+
+bool WorldSite::Pause(double seconds) const {
+  using Clock = std::chrono::steady_clock;
+  const auto end = Clock::now() + std::chrono::duration<double>(seconds);
+  while (Clock::now() < end && !isDown_) std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  return !isDown_;
+}
+
 std::optional<std::string> WorldSite::LastTarget() {
   const std::lock_guard lock(mutex_);
   return lastTarget_;
@@ -60,13 +74,23 @@ void WorldSite::Listen(std::unique_ptr<LoopbackServer> server) {
     Note(request);
     return AnswerTo(request.target).reply;
   };
-  server->set_pre_routing_handler([this](const httplib::Request& request,
-                                         httplib::Response& response) {
-    const ScriptedAnswer answer = AnswerTo(request.target);
-    response.status = answer.status;
-    response.set_content(answer.text, answer.text.starts_with('<') ? "text/html" : "text/plain");
-    return httplib::Server::HandlerResponse::Handled;
-  });
+  server->set_pre_routing_handler(
+      [this](const httplib::Request& request, httplib::Response& response) {
+        const ScriptedAnswer answer = AnswerTo(request.target);
+        response.status = answer.status;
+        const char* const type = answer.text.starts_with('<') ? "text/html" : "text/plain";
+        if (!answer.location.empty()) response.set_header("Location", answer.location);
+        if (answer.pause == 0) {
+          response.set_content(answer.text, type);
+        } else {
+          response.set_content_provider(
+              answer.text.size(), type, [this, answer](size_t at, size_t, httplib::DataSink& sink) {
+                return Pause(answer.pause) && sink.write(&answer.text[at], 1);
+              });
+        }
+        return httplib::Server::HandlerResponse::Handled;
+      });
+  isDown_ = false;
   server_ = std::move(server);
   server_->Start();
 }

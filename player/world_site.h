@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -14,7 +15,9 @@ namespace benevix {
 struct ScriptedAnswer {
   LoopbackServer::Reply reply = LoopbackServer::Reply::Answer;
   int status = 200;
-  std::string text;
+  std::string text = {};
+  double pause = 0;           // seconds before each byte
+  std::string location = {};  // where a redirect leads
 };
 
 // The server of a world, on a thread of its own. A target without an answer is 404 with an HTML
@@ -22,6 +25,9 @@ struct ScriptedAnswer {
 class WorldSite {
  public:
   WorldSite();
+  ~WorldSite() { Down(); }
+  WorldSite(const WorldSite&) = delete;
+  WorldSite& operator=(const WorldSite&) = delete;
 
   // The server base address.
   [[nodiscard]] const std::string& Address() const { return address_; }
@@ -29,7 +35,7 @@ class WorldSite {
   // For every request whose target begins with `target`; the longest wins. Takes a target as the
   // program builds it, without the leading "/".
   void Put(const std::string& target, ScriptedAnswer answer);
-  void Down() { server_.reset(); }
+  void Down();
   void Up();
 
   // The target of the last request of the program's own client, as it arrived.
@@ -39,10 +45,13 @@ class WorldSite {
   void Listen(std::unique_ptr<LoopbackServer> server);
   [[nodiscard]] ScriptedAnswer AnswerTo(const std::string& target);
   void Note(const httplib::Request& request);
+  // Waits before the next byte of a slow answer; gives false when the site goes down meanwhile.
+  [[nodiscard]] bool Pause(double seconds) const;
 
   std::mutex mutex_;  // of the answers and the last target
   std::map<std::string, ScriptedAnswer> answers_;
   std::optional<std::string> lastTarget_;
+  std::atomic<bool> isDown_ = true;
   int port_ = 0;
   std::string address_;
   std::unique_ptr<LoopbackServer> server_;  // last, so that it stops first; null while down

@@ -1,13 +1,16 @@
 #include "benevix/machine.h"
 
+#include <QDesktopServices>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QScreen>
 
+#include "base/runtime_error.h"
 #include "benevix/users_folder.h"
 #include "mirror/look/texts.h"
 #include "platform/linux/program_folder.h"
 #include "platform/qt/deployment_file.h"
+#include "platform/qt/wire_url.h"
 
 namespace benevix {
 namespace {
@@ -33,6 +36,15 @@ ProgramInfo InfoOf(const QFileInfo& executable) {
   return info;
 }
 
+// By the ways of the desktop: portals, the user's choice, the tools that are there.
+bool OpenInBrowser(const std::string& address) {
+  try {
+    return QDesktopServices::openUrl(WireUrl(address));
+  } catch (const RuntimeError&) {
+    return false;
+  }
+}
+
 }  // namespace
 
 Machine::Machine(const std::string& executable, Waits& waits, MessageBoxes& boxes)
@@ -40,7 +52,8 @@ Machine::Machine(const std::string& executable, Waits& waits, MessageBoxes& boxe
       boxes_(boxes),
       info_(InfoOf(QFileInfo(QString::fromStdString(executable)))),
       registry_(files_, SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile()),
-      http_(waits) {}
+      http_(waits),
+      shell_(OpenInBrowser) {}
 
 Environment Machine::TheEnvironment() {
   return {info_, registry_, http_, boxes_, waits_, clock_, random_, shell_, files_, printer_};

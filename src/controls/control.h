@@ -21,6 +21,8 @@ struct Control {
   std::string note;
   // The note when a character is refused: what the box takes.
   const char* takes = "Western European letters and signs only";
+  // A click on it ends a request, so it is taken while the program waits for one.
+  bool endsRequests = false;
   // The frame, picture box or menu of the same window that holds it; none when empty. What is held
   // can be used only while its holder can.
   const char* holder = "";

@@ -244,6 +244,7 @@ struct Window {
   std::string caption;
   bool topmost = false;
   bool closesByEscape = true;  // unless a control has the shortcut Escape
+  bool endsRequests = false;   // closing it ends a request, as with a control
   MousePointer mousePointer = MousePointer::Default;
   int left = 0, top = 0;  // twips; 0, 0 leaves the place to the toolkit
   // The control of the main window that it stands beside. Such a window only shows something: it

@@ -85,6 +85,10 @@ class Desk {
   // The entry whose control it is.
   [[nodiscard]] Entry& Holding(const Control& control);
 
+  // Whether the program waits for a request, which the user may end.
+  [[nodiscard]] bool IsRequesting() const { return requesting_; }
+  void SetRequesting(bool requesting) { requesting_ = requesting; }
+
   // What the program has been waiting for longer than a moment, told to the user while it lasts;
   // empty while he need not wait.
   [[nodiscard]] const std::string& Activity() const { return activity_; }
@@ -108,6 +112,7 @@ class Desk {
   std::vector<Entry> entries_;
   std::vector<Window*> shown_;
   std::string activity_;
+  bool requesting_ = false;
   bool ended_ = false;
 };
 

@@ -46,8 +46,21 @@ void Input::Enter(const std::function<void()>& what) {
 
 bool Input::Do(const Control& control, const std::function<void(Desk::Entry&)>& what) {
   Desk::Entry& entry = desk_.Holding(control);
-  if (busy_ || !desk_.IsUsable(entry, control)) return false;
-  Enter([&] { what(entry); });
+  if (!desk_.IsUsable(entry, control)) return false;
+  const auto action = [&] { what(entry); };
+  if (busy_) return control.endsRequests && Interrupt(action);
+  Enter(action);
+  return true;
+}
+
+// Within the action that waits, which goes on when the request has ended.
+bool Input::Interrupt(const std::function<void()>& what) {
+  if (!desk_.IsRequesting() || desk_.Ended()) return false;
+  try {
+    what();
+  } catch (const ProgramEnded&) {
+    cancelRequest();  // its caller ends in turn
+  }
   return true;
 }
 
@@ -188,6 +201,7 @@ bool Input::Type(ListView& list, char typed) {
 }
 
 bool Input::Key(const Control& control, int key) {
+  if (busy_ && key == keys::kEscape) return Interrupt(cancelRequest);
   const Desk::Entry& entry = desk_.Holding(control);
   const int life = entry.loads;
   const bool done = Do(control, [&](Desk::Entry&) { Fire(control, Event::KeyUp, {.key = key}); });
@@ -202,6 +216,7 @@ bool Input::Key(const Control& control, int key) {
 }
 
 bool Input::Key(Window& window, int key) {
+  if (busy_ && key == keys::kEscape) return Interrupt(cancelRequest);
   return AnswerKey(desk_.Find(window), key);
 }
 
@@ -291,11 +306,14 @@ void Input::Arrived(PageViewer& viewer, std::string address) {
 }
 
 bool Input::Close(Window& window) {
-  if (busy_ || !desk_.IsUsable(window)) return false;
-  Enter([&] {
+  const auto action = [&] {
     EventArgs args;
     if (!events_.Fire(window, Event::Close, args)) desk_.Unload(window);
-  });
+  };
+  // Also while another window keeps the user's attention: nobody can close that one now.
+  if (busy_) return window.endsRequests && desk_.IsShown(window) && Interrupt(action);
+  if (!desk_.IsUsable(window)) return false;
+  Enter(action);
   return true;
 }
 

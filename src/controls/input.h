@@ -10,7 +10,8 @@ namespace benevix {
 
 // The user's actions, the same for both front ends: each changes the structs and raises its events.
 // An action that cannot be done (the control is disabled, hidden or below a modal window, or the
-// program waits or has ended) changes nothing and gives false.
+// program waits or has ended) changes nothing and gives false. While the program waits for a
+// request, what ends requests is done at once, and Escape cancels the request.
 class Input {
  public:
   Input(Desk& desk, const EventTable& events) : desk_(desk), events_(events) {}
@@ -19,6 +20,8 @@ class Input {
   std::function<void()> derive = [] {};
   // Called after that; the mirror updates the windows.
   std::function<void()> afterEvent = [] {};
+  // Ends the request that the program waits for.
+  std::function<void()> cancelRequest = [] {};
   // Called with an error that no handler caught.
   std::function<void(const RuntimeError&)> onError = [](const RuntimeError&) {};
 
@@ -83,6 +86,7 @@ class Input {
 
  private:
   bool Do(const Control& control, const std::function<void(Desk::Entry&)>& what);
+  bool Interrupt(const std::function<void()>& what);
   bool ClickWithoutFocus(Control& control);
   bool AnswerKey(const Desk::Entry& entry, int key);
   void Fire(const Control& control, Event event, EventArgs args = {});

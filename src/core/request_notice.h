@@ -8,23 +8,29 @@
 
 namespace benevix {
 
-// Makes the requests of the whole program and tells on the desk what they are for, as soon as one
-// takes longer than a moment. The windows then show it, and the pointer is busy.
+// Makes the requests of the whole program and tells on the desk that one is under way, which the
+// user may end, and what it is for, as soon as it takes longer than a moment. The windows then show
+// it, and the pointer is busy.
 class RequestNotice : public HttpClient {
  public:
   RequestNotice(HttpClient& client, Desk& desk, Waits& waits)
       : client_(client), desk_(desk), waits_(waits) {}
 
+  // Raises ProgramEnded when the user has ended the program meanwhile.
   std::string OpenURL(const std::string& address, const HttpOptions& options) override;
 
-  // The user's action is over: the next one begins without a notice.
-  void EndAction() { slow_ = false; }
+  // The user does not want to wait: all further requests of his action fail as well, at once.
+  void Cancel() override;
+
+  // The user's action is over: the next one begins anew.
+  void EndAction() { slow_ = cancelled_ = false; }
 
  private:
   HttpClient& client_;
   Desk& desk_;
   Waits& waits_;
   bool slow_ = false;  // a request of this action was; the next one is told of at once
+  bool cancelled_ = false;
 };
 
 }  // namespace benevix

@@ -10,6 +10,7 @@ WaitNotice::WaitNotice(const WaitWindow& window) : window_(window) {
   form.caption = "Contacting Remote Server";
   form.Label2.caption = frmWait().Label2.caption;
   form.ProgressBar1 = ProgressBar();
+  form.Command1.visible = true;
   window_.desk.Show(form);
 }
 

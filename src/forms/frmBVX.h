@@ -94,6 +94,7 @@ struct frmBVX : Window {
     mnuReport.shortcut = "Ctrl+Shift+R";
     mnuUpdateList.shortcut = "F5";
     mnuExit.shortcut = "Ctrl+Q";
+    endsRequests = mnuExit.endsRequests = true;
     mnuCls.shortcut = "Ctrl+Shift+Del";
     mnuCorrect.shortcut = "F2";
     mnuUndo.shortcut = "Ctrl+Z";

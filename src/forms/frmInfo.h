@@ -17,7 +17,7 @@ struct frmInfo : Window {
     Label1.height = kPanelHeight;
     VScroll1.holder = "Picture1";
     Label3.shortcut = "Ctrl+T";
-    Back.visible = false;
+    Back.visible = Browser.visible = false;
     Back.shortcut = "Alt+Left";
   }
 
@@ -25,6 +25,7 @@ struct frmInfo : Window {
   static constexpr int kPanelHeight = 7200;  // twips
 
   Button Back{"&Back", "To what was shown before"};
+  Button Browser{"&Open in browser", "Shows the page in your own browser"};
   PictureBox Picture1;  // the text panel
   Label Label1;         // its text; its tag is the window's caption with it
   ScrollBar VScroll1;
@@ -36,6 +37,7 @@ struct frmInfo : Window {
 template <class F>
 void visit(frmInfo& window, F&& f) {
   f("Back", window.Back);
+  f("Browser", window.Browser);
   f("Picture1", window.Picture1);
   f("Label1", window.Label1);
   f("VScroll1", window.VScroll1);

@@ -10,19 +10,24 @@ struct frmSplash : Window {
 
   frmSplash() {
     caption = "Benevix";
+    NotProtected.visible = false;
+    NotProtected.foreColor = colors::kRed;
+    endsRequests = Image2[1].endsRequests = true;
     Image2[0].shortcut = kEnterShortcut;
     Image2[1].shortcut = kEscapeShortcut;
   }
 
   PictureBox Image1;  // the logo
   PictureBox Image2[2] = {PictureBox("Enter"), PictureBox("Exit")};
-  Shape Shape2;  // the frame, highlighted while the mouse is over a button
+  Label NotProtected;  // that others can read what is sent
+  Shape Shape2;        // the frame, highlighted while the mouse is over a button
 };
 
 template <class F>
 void visit(frmSplash& window, F&& f) {
   f("Image1", window.Image1);
   f("Image2", window.Image2);
+  f("NotProtected", window.NotProtected);
   f("Shape2", window.Shape2);
 }
 

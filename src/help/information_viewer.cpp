@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/web_address.h"
+
 namespace benevix {
 
 void InformationViewer::ShowPage(const Page& page, const std::string& title, Attention attention) {
@@ -32,7 +34,7 @@ void InformationViewer::ShowText(const std::string& text, const std::string& tit
   window_.Label1.top = window_.VScroll1.value = 0;
   window_.Picture1.visible = true;
   desk_.SetFocus(window_.VScroll1);  // so that the arrow keys scroll the text
-  waits_.DoEvents();                 // draws the text, which sets its height
+  environment_.waits.DoEvents();     // draws the text, which sets its height
   UpdateScrollRange();
 }
 
@@ -58,8 +60,24 @@ void InformationViewer::Back_Click() {
   desk_.SetFocus(window_.VScroll1);
 }
 
-void InformationViewer::ShowBack() {
+const std::string& InformationViewer::Address() const {
+  const PageViewer& viewer = window_.wb1;
+  return viewer.shown.empty() ? viewer.page.web : viewer.shown;
+}
+
+void InformationViewer::Browser_Click() {
+  OpenInBrowser(Address());
+}
+
+void InformationViewer::OpenInBrowser(const std::string& address) {
+  if (environment_.shell.OpenInBrowser(address)) return;
+  messages_.Show("No browser could be opened. The address of the page is:\r\n" + address,
+                 BoxIcon::Information);
+}
+
+void InformationViewer::ShowWays() {
   window_.Back.visible = window_.wb1.visible && (window_.wb1.canGoBack || HasText());
+  window_.Browser.visible = window_.wb1.visible && IsWebAddress(Address());
 }
 
 }  // namespace benevix

@@ -15,6 +15,9 @@ struct Deployment {
   std::string translationBase;
   std::string copyright;
   std::string product;
+  // Where updates and lists are signed: the public key (platform/signature.h), otherwise empty.
+  std::string updateKey = {};
+  bool paymentInBrowser = false;  // not in the page viewer
 };
 
 // Facts about the program and its machine, set once at start-up.

@@ -21,6 +21,8 @@ class Shell {
   virtual void CopyIntoFolder(const FilePath& file, const FilePath& folder) = 0;
   // Raises RuntimeError when the program cannot be started.
   virtual void StartProgram(const FilePath& file) = 0;
+  // Shows a web address in the user's own browser; false when none can be opened.
+  virtual bool OpenInBrowser(const std::string& address) = 0;
 };
 
 }  // namespace benevix

@@ -213,6 +213,7 @@ void Program::ConnectViewer() {
   frmInfo& info = forms_.Get<frmInfo>();
   events_.On(info, Event::Load, Plain([this] { viewer_.Form_Load(); }));
   events_.On(info.Back, Event::Click, Plain([this] { viewer_.Back_Click(); }));
+  events_.On(info.Browser, Event::Click, Plain([this] { viewer_.Browser_Click(); }));
   events_.On(info.VScroll1, Event::Scroll, Plain([this] { viewer_.VScroll1_Scroll(); }));
   events_.On(info.Label3, Event::Click, Plain([this] { translation_.Label3_Click(); }));
 
@@ -256,6 +257,12 @@ void Program::ConnectSmallWindows() {
                wait.Timer1.enabled = false;
                desk_.Unload(wait);
              }));
+  const auto cancel = Plain([this, &wait] {
+    requests_.Cancel();
+    desk_.Unload(wait);
+  });
+  events_.On(wait.Command1, Event::Click, cancel);
+  events_.On(wait, Event::Close, cancel);
 
   frmWizard& wizard = forms_.Get<frmWizard>();
   events_.On(wizard, Event::Load, Plain([this] { wizard_.Form_Load(); }));

@@ -51,14 +51,16 @@ Program::Program(const Environment& environment)
                      BoxIcon::Critical);
                }),
       journalCommands_(main_, journal_, messages_),
-      viewer_(forms_.Get<frmInfo>(), desk_, environment_.waits),
+      viewer_(forms_.Get<frmInfo>(), desk_, messages_, environment_),
       help_(viewer_, main_, messages_, environment_.info),
       wizard_(forms_.Get<frmWizard>(), main_, desk_, settings_, environment_.info, help_),
       server_(environment_, main_, rates_, run_),
       yearToDate_(environment_, server_, run_, main_, forms_.Get<frmYtdTag>(), desk_),
       news_(main_, viewer_, server_, messages_, environment_.info, [this] { DownloadUpdater(); }),
-      listUpdate_(environment_, server_, messages_, run_,
-                  {forms_.Get<frmWait>(), desk_, environment_.waits}),
+      downloads_(server_, {forms_.Get<frmWait>(), desk_, environment_.waits},
+                 environment_.info.deployment),
+      updater_(environment_, downloads_, messages_),
+      listUpdate_(environment_, server_, messages_, run_, downloads_),
       listAtStart_(listUpdate_, database_, environment_, messages_, run_),
       listUpdateCommand_(listUpdate_, main_, values_, messages_, database_, favorites_,
                          environment_.files),
@@ -106,7 +108,7 @@ Program::Program(const Environment& environment)
     journal_.AfterEvent();
     listFilter_.AfterEvent();
     charges_.Show();
-    viewer_.ShowBack();
+    viewer_.ShowWays();
     paymentStates_.AfterEvent();
     contact_.ShowWhatFollows();
     preview_.Show();
@@ -122,6 +124,7 @@ Program::Program(const Environment& environment)
     pastGifts_.Read();
     givingReport_.Refresh();
   };
+  input_.cancelRequest = [this] { requests_.Cancel(); };
   input_.onError = [this](const RuntimeError& error) {
     messages_.Show(error.what(), BoxIcon::Critical);
   };
@@ -142,7 +145,7 @@ void Program::ContactSaved(ContactCaller caller) {
 }
 
 void Program::DownloadUpdater() {
-  if (listUpdate_.DownloadUpdater()) desk_.End();
+  if (updater_.Download()) desk_.End();
 }
 
 }  // namespace benevix

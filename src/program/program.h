@@ -30,6 +30,7 @@
 #include "records/last_session.h"
 #include "records/payment_states.h"
 #include "records/printing.h"
+#include "server/downloads.h"
 #include "server/list_at_start.h"
 #include "server/list_update.h"
 #include "server/list_update_command.h"
@@ -38,6 +39,7 @@
 #include "server/organization_information.h"
 #include "server/server_files.h"
 #include "server/translation.h"
+#include "server/updater.h"
 #include "server/year_to_date.h"
 #include "session/budget_entry.h"
 #include "session/charges.h"
@@ -153,6 +155,8 @@ class Program {
   ServerFiles server_;
   YearToDate yearToDate_;
   News news_;
+  Downloads downloads_;
+  Updater updater_;
   ListUpdate listUpdate_;
   ListAtStart listAtStart_;
   ListUpdateCommand listUpdateCommand_;

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/runtime_error.h"
+#include "base/web_address.h"
 #include "help/quick_help.h"
 #include "program/own_settings.h"
 #include "program/program.h"
@@ -22,6 +23,15 @@ void Program::frmSplash_Load() {
   frmSplash& splash = forms_.Get<frmSplash>();
   splash.top = static_cast<int>(std::lround(environment_.info.screenHeight / 3.5));
   splash.left = static_cast<int>(std::lround(environment_.info.screenWidth / 3.5));
+  const Deployment& deployment = environment_.info.deployment;
+  const bool server = IsProtected(deployment.serverBase);
+  const bool payment = IsProtected(deployment.paymentBase);
+  splash.NotProtected.visible = !server || !payment;
+  splash.NotProtected.caption = "Not protected: the address of " +
+                                std::string(server    ? "the payment page"
+                                            : payment ? "the server"
+                                                      : "server and payment page") +
+                                " is not https.\r\nOthers on the way can read what is sent.";
 }
 
 void Program::Image2_Click(int index) {

@@ -64,10 +64,10 @@ void Finalization::Finalize() {
 }
 
 void Finalization::Commit(const SessionNotice::Outcome& sent) {
-  viewer_.ShowPage(
-      Page::Web(PaymentRequest(deployment_.paymentBase, deployment_.serverBase, sent.due.payee,
-                               sent.session.transactionId, sent.session.amountText)),
-      " Secure Funds Transfer");
+  const std::string page =
+      PaymentRequest(deployment_.paymentBase, deployment_.serverBase, sent.due.payee,
+                     sent.session.transactionId, sent.session.amountText);
+  if (!deployment_.paymentInBrowser) viewer_.ShowPage(Page::Web(page), " Secure Funds Transfer");
   lastRecord_ = history_.WriteHistory(sent.session, main_.ListView1);
   if (history_.IsWritten()) journal_.Recorded();
   lastContents_ = Contents();
@@ -75,6 +75,8 @@ void Finalization::Commit(const SessionNotice::Outcome& sent) {
   ShowHint(main_, hint::kFinalized);
   desk_.SetFocus(main_.ListView1);  // another Enter must not pay again
   main_.Command1.tag.clear();
+  // Last, since it may show a message.
+  if (deployment_.paymentInBrowser) viewer_.OpenInBrowser(page);
 }
 
 void Finalization::Fail(std::uint8_t message) {

@@ -6,13 +6,14 @@
 #include "platform/line_reader.h"
 
 namespace benevix {
+namespace {
 
-std::string ListUpdate::Download(const std::string& path, HttpOptions options) {
-  WaitNotice notice(wait_);
-  options.limit = kDownloadLimit;
-  options.progress = notice.Progress();
-  return server_.FetchServerText(path, options);
+// Of a list's first line.
+float VersionIn(const std::string& list) {
+  return list.starts_with(kListHeader) ? ToSingle(Val(list.substr(kListHeader.size()))) : 0;
 }
+
+}  // namespace
 
 std::unique_ptr<FolderLock> ListUpdate::Lock(std::chrono::milliseconds patience) {
   return environment_.files.Lock(environment_.info.folder / "Resources", patience);
@@ -42,11 +43,17 @@ ListCheck ListUpdate::CheckListUpdate(bool silent, bool download, bool& ready) {
     if (version <= run_.DBVersion || !download) return {};
 
     environment_.files.Replace(Downloaded(), "");
+    const std::string path = "downloads/db" + reply;
     const std::string list =
-        Download("downloads/db" + reply, {.purpose = "Downloading the organization list..."});
+        downloads_.Fetch(path, {.purpose = "Downloading the organization list..."});
     if (!IsUsable(list)) {
       noServer();
       return {};
+    }
+    downloads_.CheckSignature(path, list);
+    // The version that the server tells is not signed, the one in the list is.
+    if (downloads_.MustBeSigned() && VersionIn(list) <= run_.DBVersion) {
+      throw RuntimeError(path + " is no newer list");
     }
     environment_.files.Replace(Downloaded(), list);
     if (silent) {
@@ -88,26 +95,6 @@ bool ListUpdate::ReinstallList() {
   }
   environment_.files.Remove(Downloaded());
   return isInstallable;
-}
-
-bool ListUpdate::DownloadUpdater() {
-  std::string program;
-  try {
-    HttpOptions options;
-    options.needsOk = true;
-    options.purpose = "Downloading the new version of the program...";
-    program = Download("downloads/updater.exe", options);
-  } catch (const RuntimeError&) {
-    // Reported below, like an empty answer.
-  }
-  if (program.empty() || program[0] == '<') {
-    messages_.ShowMessage(message::kServerBusy, message_kind::kFailedToConnect);
-    return false;
-  }
-  const FilePath file = environment_.info.folder / "updater.exe";
-  environment_.files.Replace(file, program);
-  environment_.shell.StartProgram(file);
-  return true;
 }
 
 }  // namespace benevix

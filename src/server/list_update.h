@@ -6,8 +6,8 @@
 
 #include "core/messages.h"
 #include "core/run_values.h"
-#include "core/wait_notice.h"
 #include "platform/environment.h"
+#include "server/downloads.h"
 #include "server/server_files.h"
 
 namespace benevix {
@@ -22,8 +22,12 @@ struct ListCheck {
 class ListUpdate {
  public:
   ListUpdate(Environment& environment, ServerFiles& server, Messages& messages,
-             const RunValues& run, WaitWindow wait)
-      : environment_(environment), server_(server), messages_(messages), run_(run), wait_(wait) {}
+             const RunValues& run, Downloads& downloads)
+      : environment_(environment),
+        server_(server),
+        messages_(messages),
+        run_(run),
+        downloads_(downloads) {}
 
   // The lock around checking and installing: null when another copy of the program has it, whose
   // check is not to be disturbed. Raises RuntimeError.
@@ -44,21 +48,14 @@ class ListUpdate {
   // The same, but under the name from which the list is loaded.
   bool ReinstallList();
 
-  // Downloads and starts the updater; true if the program must end for it. An answer that is empty,
-  // a web page or of another status than 200 is not saved or started, but reported with message 8.
-  // Raises RuntimeError if the file cannot be written or started.
-  bool DownloadUpdater();
-
  private:
   [[nodiscard]] bool IsInstallable() const;
-  // Fetches a large file while the please-wait window shows the progress.
-  [[nodiscard]] std::string Download(const std::string& path, HttpOptions options);
 
   Environment& environment_;
   ServerFiles& server_;
   Messages& messages_;
   const RunValues& run_;
-  WaitWindow wait_;
+  Downloads& downloads_;
 };
 
 }  // namespace benevix

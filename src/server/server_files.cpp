@@ -16,7 +16,7 @@ std::string ServerFiles::FetchServerText(const std::string& path, HttpOptions op
 
 std::string ServerFiles::FetchUsable(const std::string& path) {
   try {
-    std::string answer = FetchServerText(path);
+    std::string answer = FetchServerText(path, {.limit = kSmallLimit});
     return IsUsable(answer) ? answer : std::string();
   } catch (const RuntimeError&) {
     return {};
@@ -37,7 +37,7 @@ std::optional<ServerFiles::ContactData> ServerFiles::GetContactData() {
 
 void ServerFiles::LoadFeeRates() {
   try {
-    ReadFeeRates(FetchServerText("53rv3r/rates.dat"), rates_, main_);
+    ReadFeeRates(FetchServerText("53rv3r/rates.dat", {.limit = kSmallLimit}), rates_, main_);
   } catch (const RuntimeError&) {
     // The values read so far are kept.
   }

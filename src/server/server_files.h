@@ -22,7 +22,8 @@ class ServerFiles {
   // Fetches the base address followed by `path`. Raises RuntimeError when no answer comes.
   std::string FetchServerText(const std::string& path, HttpOptions options = {});
 
-  // The same, but empty if there is no answer or it is an error page (one with "<").
+  // The same for a small file, but empty if there is no answer or it is an error page (one with
+  // "<").
   std::string FetchUsable(const std::string& path);
 
   // Sets and returns ServerOK: whether the status file is exactly "server ok".

@@ -1,5 +1,3 @@
-find_package(OpenSSL REQUIRED)  # makes the false certificate
-
 add_library(page_probe MODULE page_probe.cpp)
 set_target_properties(page_probe PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR})
 target_link_libraries(page_probe PRIVATE Qt6::Test Qt6::WebEngineCore)

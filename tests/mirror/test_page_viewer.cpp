@@ -1,11 +1,9 @@
 #include <QDesktopServices>
 #include <QPushButton>
 #include <csignal>
-#include <memory>
-#include <openssl/evp.h>
-#include <openssl/x509.h>
 #include <unistd.h>
 
+#include "../test_certificate.h"
 #include "page_viewer_test.h"
 
 namespace benevix {
@@ -39,13 +37,59 @@ TEST_F(PageViewerTest, WebPageIsShownUnderItsOwnHost) {
   Show(site_.Home() + "a b/%C3%A9?name=Caf\xE9 1&x=#2");
   EXPECT_TRUE(ShowsText("Payment"));
   EXPECT_TRUE(site_.WasAsked("/a%20b/%C3%A9?name=Caf%E9%201&x=%232 "));
-  EXPECT_EQ(hostLine_->text().toStdString(), site_.Host());
+  EXPECT_EQ(hostLine_->text().toStdString(), "http://" + site_.Host());
   Show(site_.Home() + "away");
   EXPECT_TRUE(ShowsText("Other host"));
-  EXPECT_EQ(hostLine_->text().toStdString(), "localhost:" + site_.Port());
+  EXPECT_EQ(hostLine_->text().toStdString(), "http://localhost:" + site_.Port());
   host_.Clear();
   EXPECT_EQ(Engine("QWebEngineView"), nullptr);
   EXPECT_EQ(hostLine_->text(), "");
+}
+
+TEST_F(PageViewerTest, NoPageHidesWhereItComesFrom) {
+  site_.Page("/frame", "<script>function hide() { top.location = 'about:blank'; }</script>");
+  site_.Page("/", "<p>page</p><iframe src='/frame'></iframe>");
+  site_.Open();
+  for (const QString way :
+       {"location = 'about:blank'", "window.open('about:blank', '_self')", "frames[0].hide()",
+        "location = 'data:text/html,Bank'", "location = \"javascript:'Bank'\""}) {
+    Show(site_.Home());
+    EXPECT_TRUE(Becomes("frames[0].hide != undefined", "true"));
+    Value(way);
+    QTest::qWait(200);
+    const bool isClosed = Notice().contains("hide where it comes from");
+    EXPECT_EQ(isClosed, way.contains("blank") || way.contains("hide"));
+    EXPECT_EQ(hostLine_->text().toStdString(), "http://" + site_.Host());
+    EXPECT_TRUE(isClosed || Value("location.host").toStdString() == site_.Host());
+  }
+}
+
+TEST_F(PageViewerTest, NoRedirectLeadsFromHttpsToHttp) {
+  const char* const flags = "QTWEBENGINE_CHROMIUM_FLAGS";
+  if (!qEnvironmentVariableIsSet(flags)) {
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(flags, "--ignore-certificate-errors");
+    return RunAgain(QCoreApplication::applicationFilePath(), environment);
+  }
+  const TestCertificate certificate;
+  Site<httplib::SSLServer> safe(certificate.certificate.get(), certificate.key.get());
+  site_.Page("/", "<p>http</p>");
+  site_.Open();
+  safe.Page("/safe", "<p>https</p>");
+  const auto redirect = [&safe](const std::string& path, const std::string& to) {
+    safe.Get(path, [to](const httplib::Request&, httplib::Response& response) {
+      response.set_redirect(to);
+    });
+  };
+  redirect("/on", "https://" + safe.Host() + "/safe");
+  redirect("/down", site_.Home());
+  safe.Open();
+  Show("https://" + safe.Host() + "/on");
+  EXPECT_TRUE(ShowsText("https"));
+  EXPECT_EQ(hostLine_->text().toStdString(), "https://" + safe.Host());
+  host_.Navigate(PageAt("https://" + safe.Host() + "/down"));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Notice().contains("not opened here"); }));
+  EXPECT_FALSE(site_.WasAsked("/ "));
 }
 
 TEST_F(PageViewerTest, NothingIsKept) {
@@ -106,7 +150,7 @@ TEST_F(PageViewerTest, TextFileIsShownAsItStands) {
   Show(Put("history.dat", record));
   EXPECT_TRUE(
       ShowsText(QString::fromUtf8("<html><b>-- 1/2/2024 @ 10:00 € ÐÑÒ \x01\n      two  blanks")));
-  EXPECT_EQ(Value("document.contentType+document.characterSet"), "text/plainwindows-1252");
+  EXPECT_EQ(Value("document.contentType+document.characterSet"), "text/htmlwindows-1252");
   EXPECT_EQ(hostLine_->text(), "history.dat");
   const int count = 40'000;
   Show(Put("long.dat", QByteArray("12345 organization 10.00\r\n").repeated(count)));
@@ -133,7 +177,7 @@ TEST_F(PageViewerTest, PageOfTheWebCannotReadFiles) {
   }
   QTest::qWait(500);
   EXPECT_EQ(Value("location.protocol+frames.length"), "http:1");
-  EXPECT_EQ(hostLine_->text().toStdString(), site_.Host());
+  EXPECT_EQ(hostLine_->text().toStdString(), "http://" + site_.Host());
 }
 
 TEST_F(PageViewerTest, WindowsDownloadsAndDevicesAreRefused) {
@@ -163,13 +207,8 @@ TEST_F(PageViewerTest, WindowsDownloadsAndDevicesAreRefused) {
 }
 
 TEST_F(PageViewerTest, SiteWithoutATrustedCertificateIsNotAsked) {
-  const std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)> key(EVP_RSA_gen(2048), EVP_PKEY_free);
-  const std::unique_ptr<X509, decltype(&X509_free)> certificate(X509_new(), X509_free);
-  X509_gmtime_adj(X509_getm_notBefore(certificate.get()), 0);
-  X509_gmtime_adj(X509_getm_notAfter(certificate.get()), 3600);
-  X509_set_pubkey(certificate.get(), key.get());
-  X509_sign(certificate.get(), key.get(), EVP_sha256());
-  Site<httplib::SSLServer> falseSite(certificate.get(), key.get());
+  const TestCertificate certificate;
+  Site<httplib::SSLServer> falseSite(certificate.certificate.get(), certificate.key.get());
   falseSite.Page("/", "<p>false</p>");
   falseSite.Open();
   Show("https://" + falseSite.Host() + "/");
@@ -229,13 +268,15 @@ TEST_F(PageViewerTest, NoEngineForTheAdministrator) {
   }
   host_.Navigate(Page::Web("https://host.example/pay?a=b c"));
   EXPECT_TRUE(Notice().contains("administrator"));
-  EXPECT_EQ(hostLine_->text(), "host.example");
+  EXPECT_EQ(hostLine_->text(), "https://host.example");
   QFile maps("/proc/self/maps");
   ASSERT_TRUE(maps.open(QIODevice::ReadOnly));
   EXPECT_FALSE(maps.readAll().contains("WebEngine"));
-  const Desktop desktop("https");
+  const std::string help = Put("help.html", "<p>help</p>");
+  host_.Navigate(PageAt(help));
+  const Desktop desktop("file");
   container_->findChild<QPushButton*>()->click();
-  EXPECT_EQ(desktop.opened.toEncoded(), "https://host.example/pay?a=b%20c");
+  EXPECT_EQ(desktop.opened.toLocalFile().toStdString(), help);
 }
 
 TEST_F(PageViewerTest, NoEngineWithoutThePlugIn) {
@@ -247,6 +288,7 @@ TEST_F(PageViewerTest, NoEngineWithoutThePlugIn) {
   }
   host_.Navigate(Page::Web("http://host.example/"));
   EXPECT_TRUE(Notice().contains("not installed"));
+  EXPECT_EQ(hostLine_->text(), "http://host.example - not secure");
 }
 
 }  // namespace

@@ -23,11 +23,15 @@ TEST(DeploymentFile, ReadsValuesAndNamesTheInvalidKey) {
   EXPECT_EQ(deployment.mail, "\"a;b\", 100%41 =x\\n");
   EXPECT_EQ(deployment.copyright, "\xA9 M\xFCller \x80");
 
-  const std::string faults[][3] = {{"=Benevix", "= ", "Product"},
-                                   {"TranslationName=T", "", "TranslationName"},
-                                   {"\xC3\xBC", "\xE4\xB8\xAD", "Copyright"},
-                                   {"https://example", "ftp://example", "ServerBase"},
-                                   {"a%20b/\r", "a%20b\r", "ServerBase"}};
+  const std::string faults[][3] = {
+      {"=Benevix", "= ", "Product"},
+      {"TranslationName=T", "", "TranslationName"},
+      {"\xC3\xBC", "\xE4\xB8\xAD", "Copyright"},
+      {"https://example", "ftp://example", "ServerBase"},
+      {"https://pay", "pay", "PaymentBase"},
+      {"TranslationName=T", "PaymentIn=b\nTranslationName=T", "PaymentIn"},
+      {"TranslationName=T", "UpdateKey=MCow\nTranslationName=T", "UpdateKey"},
+      {"a%20b/\r", "a%20b\r", "ServerBase"}};
   for (const auto& [from, to, key] : faults) {
     std::string text = valid;
     WriteFile(file, text.replace(text.find(from), from.size(), to));

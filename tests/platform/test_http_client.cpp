@@ -1,8 +1,12 @@
+#include <QSslCertificate>
+#include <QSslConfiguration>
 #include <gtest/gtest.h>
 #include <httplib.h>
+#include <openssl/pem.h>
 #include <thread>
 #include <unistd.h>
 
+#include "../test_certificate.h"
 #include "base/runtime_error.h"
 #include "platform/qt/qt_http_client.h"
 
@@ -143,6 +147,39 @@ TEST_F(HttpClientTest, LimitsRedirects) {
   EXPECT_EQ(Error(base_ + "f/x"), "127.0.0.1: too many redirects");
   EXPECT_EQ(server_.targets.size(), 12U);
   EXPECT_EQ(server_.targets.back(), "/f/next?a=b%20c");
+}
+
+TEST_F(HttpClientTest, NeverFollowsARedirectFromHttpsToHttp) {
+  const TestCertificate certificate;
+  BIO* const pem = BIO_new(BIO_s_mem());
+  PEM_write_bio_X509(pem, certificate.certificate.get());
+  char* text = nullptr;
+  const auto size = static_cast<int>(BIO_get_mem_data(pem, &text));
+  QSslConfiguration trusting = QSslConfiguration::defaultConfiguration();
+  trusting.addCaCertificate(QSslCertificate(QByteArray(text, size)));
+  QSslConfiguration::setDefaultConfiguration(trusting);
+  BIO_free(pem);
+  httplib::SSLServer safe(certificate.certificate.get(), certificate.key.get());
+  const std::string home =
+      "https://127.0.0.1:" + std::to_string(safe.bind_to_any_port("127.0.0.1")) + "/";
+  const auto redirect = [&safe](const std::string& path, const std::string& to) {
+    safe.Get(path, [to](const httplib::Request&, httplib::Response& response) {
+      response.set_redirect(to);
+    });
+  };
+  safe.Get("/safe", [](const httplib::Request&, httplib::Response& response) {
+    response.set_content("safe", "text/plain");
+  });
+  redirect("/on", home + "safe");
+  redirect("/down", base_);
+  std::jthread thread([&safe] { safe.listen_after_bind(); });
+  while (!safe.is_running()) std::this_thread::yield();
+  EXPECT_EQ(client_.OpenURL(home + "on", options_), "safe");
+  EXPECT_EQ(Error(home + "down"), "127.0.0.1: redirects from https to http");
+  EXPECT_TRUE(server_.targets.empty());
+  server_.Respond("HTTP/1.1 302 Found\r\nLocation: " + home + "safe\r\n\r\n");
+  EXPECT_EQ(Open(), "safe");
+  safe.stop();
 }
 
 TEST_F(HttpClientTest, AbortsAboveTheLimit) {

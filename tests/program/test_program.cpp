@@ -105,13 +105,15 @@ TEST_F(ProgramTest, ProgressIsShownForListsAndInformationPages) {
 TEST_F(ProgramTest, WhatALongRequestIsForIsToldWhileItLasts) {
   world.settings.Put("user", "BVXDB", "1");  // so that the first run does not set the time-out
   world.settings.Put("machine", "TimeOut", "1");
+  world.site.Put("53rv3r/news.txt", {.text = "1," + std::string(kSmallLimit, 'N')});
   Enter();
+  EXPECT_EQ(forms.Get<frmBVX>().Label12.tag, "");  // no line of text is as long
   std::set<std::string> told;
   waits.watch = [&] { told.insert(program.TheDesk().Activity()); };
   world.site.Put("infoDB/idcontacts.dat", {LoopbackServer::Reply::Silence, 200, ""});
   program.TheInput().SelectRow(forms.Get<frmBVX>().ListView1, 2, MouseButton::Left);
   program.TheInput().ChooseMenu(forms.Get<frmBVX>().mnuGotheirWeb);
-  EXPECT_EQ(told, (std::set<std::string>{"", "Looking up the organization..."}));
+  EXPECT_EQ(told, (std::set<std::string>{"", "Looking up the organization... (Esc cancels)"}));
   EXPECT_EQ(program.TheDesk().Activity(), "");
 }
 

@@ -28,7 +28,8 @@ class HistoryTest : public testing::Test, public ProgramFixture {
 
   std::string path_ = world.info.Resource("history.dat").Utf8();
   Environment environment_ = program.TheEnvironment();
-  InformationViewer viewer_{program.TheForms().Get<frmInfo>(), program.TheDesk(), waits};
+  InformationViewer viewer_{program.TheForms().Get<frmInfo>(), program.TheDesk(),
+                            program.TheMessages(), environment_};
   History history_{environment_, program.TheMessages(), viewer_, program.TheForms().Get<frmBVX>()};
 };
 

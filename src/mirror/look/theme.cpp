@@ -107,6 +107,7 @@ QString SheetOf(Scheme scheme, QFont font) {
                                    {"edge", tone::kEdge},
                                    {"text", tone::kText},
                                    {"muted", tone::kMuted},
+                                   {"warning", tone::kRed},
                                    {"given", tone::kGiven}}) {
     set(name, ColorOf(tone, scheme).name());
   }

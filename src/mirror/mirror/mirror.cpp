@@ -3,7 +3,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
-#include <QEvent>
+#include <QKeyEvent>
+#include <algorithm>
 #include <set>
 #include <string_view>
 
@@ -38,6 +39,17 @@ bool IsInput(QEvent::Type type) {
 bool IsSecondPress(const QObject& watched, const QEvent& event) {
   return event.type() == QEvent::MouseButtonDblClick &&
          qobject_cast<const QAbstractButton*>(&watched) != nullptr;
+}
+
+bool HasKey(const QEvent& event, int key) {
+  const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease ||
+                     event.type() == QEvent::ShortcutOverride;
+  return isKey && static_cast<const QKeyEvent&>(event).key() == key;
+}
+
+bool IsQuitKey(const QEvent& event) {
+  return event.type() == QEvent::KeyPress && HasKey(event, Qt::Key_Q) &&
+         static_cast<const QKeyEvent&>(event).modifiers() == Qt::ControlModifier;
 }
 
 }  // namespace
@@ -170,11 +182,22 @@ void Mirror::DoEvents() {
   End();
 }
 
+// What the user may do while the program waits for a request; controls/input knows the rest.
+bool Mirror::EndsRequest(const QObject& watched, const QEvent& event) const {
+  if (desk_ == nullptr || !desk_->IsRequesting()) return false;
+  if (event.type() == QEvent::Close || HasKey(event, Qt::Key_Escape)) return true;
+  return std::any_of(bindings_.begin(), bindings_.end(),
+                     [&](const auto& window) { return window.second->EndsRequests(watched); });
+}
+
 bool Mirror::eventFilter(QObject* watched, QEvent* event) {
   if (IsSecondPress(*watched, *event)) return true;
   if (waits_ == 0 || !IsInput(event->type()) || !watched->isWidgetType()) return false;
   // The program waits for the answer of this one, and the toolkit keeps all others from input.
   if (qobject_cast<const QDialog*>(QApplication::activeModalWidget()) != nullptr) return false;
+  if (EndsRequest(*watched, *event)) return false;
+  // Its menu does not hear it while another window has the keys, or keeps the attention.
+  if (IsQuitKey(*event)) context_->input.Close(*desk_->Entries().front().window);
   event->ignore();
   return true;
 }

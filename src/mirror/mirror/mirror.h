@@ -14,8 +14,8 @@ namespace benevix {
 
 // The mirror: shows the structs of the windows as real widgets. Nothing is decided here: the user's
 // events go to the structs' handlers, and afterwards the widgets are updated from the
-// structs. While the program waits, the user's input is thrown away; the second press of a double
-// click is no click of its own.
+// structs. While the program waits, the user's input is thrown away, except what ends a request;
+// the second press of a double click is no click of its own.
 class Mirror : public QObject, public Waits {
  public:
   enum class Timers { Run, Hold };
@@ -49,6 +49,7 @@ class Mirror : public QObject, public Waits {
   void Sync();
   void UpdateWindows();
   void ApplyFocus();
+  [[nodiscard]] bool EndsRequest(const QObject& watched, const QEvent& event) const;
   // A busy pointer, while the desk has something going on.
   void SetBusy(bool busy);
   [[nodiscard]] QWidget* TransientParent(const Window& window) const;

@@ -126,6 +126,11 @@ const WindowBinding::BoundControl* WindowBinding::BoundTo(const QObject* widget)
   return nullptr;
 }
 
+bool WindowBinding::EndsRequests(const QObject& widget) const {
+  const BoundControl* const bound = BoundTo(&widget);
+  return bound != nullptr && bound->control->Base().endsRequests;
+}
+
 void WindowBinding::Apply(QWidget* transientParent, const QWidget* neighbour) {
   ApplyControls();
   if (menus_) menus_->Apply();

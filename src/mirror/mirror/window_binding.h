@@ -38,6 +38,8 @@ class WindowBinding : public QObject {
   [[nodiscard]] QWidget& Widget() { return *widget_; }
   // Null for a control that is not drawn.
   [[nodiscard]] QWidget* WidgetOf(const Control& control) const;
+  // Whether a click on the widget ends a request.
+  [[nodiscard]] bool EndsRequests(const QObject& widget) const;
   // The note that stands at a widget; empty for none.
   [[nodiscard]] QString NoteOf(const QWidget& widget) const { return note_->NoteOf(widget); }
   // Of a menu item, or of the element of a menu array; null when there is none.

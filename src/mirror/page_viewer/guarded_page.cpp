@@ -81,12 +81,23 @@ GuardedPage::GuardedPage(QWebEngineProfile* profile, QObject* parent)
 }
 
 bool GuardedPage::acceptNavigationRequest(const QUrl& to, NavigationType type, bool isMainFrame) {
-  if (IsWeb(to)) return true;
+  if (IsWeb(to)) return !isMainFrame || AcceptWeb(to, type);
   const QString scheme = to.scheme();
   if (scheme == "mailto" && type == NavigationTypeLinkClicked) QDesktopServices::openUrl(to);
   if (!isMainFrame) return scheme == "about" || scheme == "data" || scheme == "blob";
   const QUrl file = TextFileScheme::FileAddress(to);
   return file.isLocalFile() && AcceptFile(file, type);
+}
+
+bool GuardedPage::AcceptWeb(const QUrl& to, NavigationType type) {
+  const bool isDowngrade =
+      type == NavigationTypeRedirect && asked_.scheme() == "https" && to.scheme() != "https";
+  if (isDowngrade) {
+    Q_EMIT redirectRefused(to);
+  } else {
+    asked_ = to;
+  }
+  return !isDowngrade;
 }
 
 // The program's own requests count as typed; a local page may link to files in its own folder. The

@@ -5,18 +5,10 @@
 
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "base/web_address.h"
 #include "platform/qt/wire_url.h"
 
 namespace benevix {
-namespace {
-
-bool IsWebAddress(const std::string& address) {
-  const std::string lower = LowerCase(address.substr(0, 8));
-  return lower.starts_with("http://") || lower.starts_with("https://");
-}
-
-}  // namespace
-
 QUrl PageAddress(const Page& page) {
   if (IsWebAddress(page.web)) return WireUrl(page.web);
   const QString file = QString::fromStdString(page.file.Utf8());
@@ -34,13 +26,19 @@ QUrl PageAddress(const Page& page) {
   return url;
 }
 
+bool HasOrigin(const QUrl& address) {
+  const bool isWeb = address.scheme() == "http" || address.scheme() == "https";
+  return address.isLocalFile() || (isWeb && !address.host().isEmpty());
+}
+
 QString OriginText(const QUrl& address) {
   if (address.isLocalFile()) return address.fileName();
   // Letters of other scripts stay encoded: some look like the letters of a well-known host.
-  QString origin = address.host(QUrl::FullyEncoded);
-  if (address.port() >= 0) origin += ':' + QString::number(address.port());
-  constexpr qsizetype longest = 60;
-  return origin.size() <= longest ? origin : QStringLiteral("…") + origin.right(longest);
+  QString host = address.host(QUrl::FullyEncoded);
+  if (address.port() >= 0) host += ':' + QString::number(address.port());
+  constexpr qsizetype longest = 40;
+  if (host.size() > longest) host = QStringLiteral("…") + host.right(longest);
+  return address.scheme() + "://" + host;
 }
 
 }  // namespace benevix

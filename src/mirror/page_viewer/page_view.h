@@ -12,6 +12,7 @@ namespace benevix {
 // What a page view reports, always from the event loop and never after its end.
 struct PageViewEvents {
   std::function<void(const QUrl&)> shown;      // the address that is shown from now on
+  std::function<void(const QUrl&)> refused;    // a redirect from https to this address of http
   std::function<void(bool)> canGoBackChanged;  // whether there is a page before it
   std::function<void()> stopped;               // the page has crashed; the view is of no more use
 };
@@ -35,4 +36,4 @@ class PageViewFactory {
 
 }  // namespace benevix
 
-Q_DECLARE_INTERFACE(benevix::PageViewFactory, "benevix.PageViewFactory/2")
+Q_DECLARE_INTERFACE(benevix::PageViewFactory, "benevix.PageViewFactory/3")

@@ -5,9 +5,12 @@
 #include <QLabel>
 #include <QPluginLoader>
 #include <QPushButton>
+#include <QStyle>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "base/runtime_error.h"
+#include "base/web_address.h"
 #include "mirror/page_viewer/administrator.h"
 #include "mirror/page_viewer/page_address.h"
 
@@ -83,22 +86,48 @@ void PageViewHost::ShowPage(const QUrl& address) {
     return;
   }
   PageViewEvents events;
-  events.shown = [this](const QUrl& shown) {
-    SetAddress(shown);
-    onShown(shown);
+  events.shown = [this](const QUrl& shown) { MovedTo(shown); };
+  events.refused = [this](const QUrl& to) {
+    Close(QStringLiteral("This page leads from https to %1, where others on the way could read and "
+                         "change everything. It is not opened here.")
+              .arg(OriginText(to)));
   };
   events.canGoBackChanged = [this](bool canGoBack) { onCanGoBackChanged(canGoBack); };
   events.stopped = [this] {
-    view_.reset();
-    ShowNotice(QStringLiteral("The page has stopped working. You can open it in your browser."));
+    Close(QStringLiteral("The page has stopped working. You can open it in your browser."));
   };
   view_ = factory->Show(address, container_, std::move(events));
   Put(view_->Widget());
 }
 
+// What has no address could look like any page, and nobody could tell whose it is.
+void PageViewHost::MovedTo(const QUrl& address) {
+  if (HasOrigin(address)) {
+    SetAddress(address);
+    onShown(address);
+    return;
+  }
+  if (!view_) return;
+  QWidget* const page = view_->Widget();
+  page->hide();
+  QTimer::singleShot(0, page, [this] {
+    Close(QStringLiteral("The page has tried to hide where it comes from, and was closed."));
+  });
+}
+
 void PageViewHost::SetAddress(const QUrl& address) {
   address_ = address;
-  hostLine_->setText(OriginText(address));
+  const bool isProtected = address.isLocalFile() || IsProtected(address.toEncoded().toStdString());
+  hostLine_->setText(OriginText(address) +
+                     (isProtected ? QString() : QStringLiteral(" - not secure")));
+  hostLine_->setProperty("look", isProtected ? "note" : "warning");
+  hostLine_->style()->unpolish(hostLine_);  // so that the style sees the other look
+  hostLine_->style()->polish(hostLine_);
+}
+
+void PageViewHost::Close(const QString& reason) {
+  view_.reset();
+  ShowNotice(reason);
 }
 
 void PageViewHost::ShowNotice(const QString& text) {
@@ -115,7 +144,8 @@ void PageViewHost::ShowNotice(const QString& text) {
   column->setContentsMargins(32, 0, 32, 0);
   column->addStretch();
   column->addWidget(label);
-  if (!address_.isEmpty()) {
+  // The window itself leads from a page of the web to the browser.
+  if (address_.isLocalFile()) {
     auto* button = new QPushButton(QStringLiteral("&Open in the browser"), notice);
     QObject::connect(button, &QPushButton::clicked, label, [label, address = address_] {
       if (QDesktopServices::openUrl(address)) return;

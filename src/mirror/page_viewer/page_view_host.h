@@ -14,10 +14,10 @@ class QWidget;
 namespace benevix {
 
 // Shows pages in a widget of a window. The engine is loaded with the first page; where it is
-// missing or may not run, a notice offers the user's browser.
+// missing or may not run, a notice says so.
 class PageViewHost {
  public:
-  // `hostLine` shows where the page comes from.
+  // `hostLine` shows where the page comes from, and whether others on the way can change it.
   PageViewHost(QWidget* container, QLabel* hostLine);
   ~PageViewHost();
   PageViewHost(const PageViewHost&) = delete;
@@ -41,7 +41,10 @@ class PageViewHost {
  private:
   void ShowPage(const QUrl& address);
   void ShowNotice(const QString& text);
+  void MovedTo(const QUrl& address);
   void SetAddress(const QUrl& address);
+  // A notice in the page's place.
+  void Close(const QString& reason);
   void Put(QWidget* widget);
 
   QPointer<QWidget> container_;

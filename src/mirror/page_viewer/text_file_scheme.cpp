@@ -1,11 +1,42 @@
 #include "mirror/page_viewer/text_file_scheme.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 #include <QWebEngineUrlRequestJob>
 #include <QWebEngineUrlScheme>
 
 namespace benevix {
+namespace {
+
+// Where the text's first `lines` lines from `begin` on end.
+qsizetype EndOfLines(const QByteArray& text, qsizetype begin, int lines) {
+  qsizetype end = begin;
+  for (; lines > 0 && end < text.size(); --lines) {
+    const qsizetype lineEnd = text.indexOf('\n', end);
+    end = lineEnd < 0 ? text.size() : lineEnd + 1;
+  }
+  return end;
+}
+
+// The text as a page. Laid out as a whole a long one would keep the engine busy for many seconds,
+// so it stands in blocks, of which the engine lays out those that are seen.
+QByteArray PageOf(const QByteArray& text) {
+  constexpr int lines = 200;
+  // The height of an unseen block: of its lines, if none of them wraps.
+  QByteArray page =
+      "<!DOCTYPE html><meta name=color-scheme content='light dark'><style>"
+      "body{font:13px/15px monospace;white-space:pre-wrap;overflow-wrap:anywhere}"
+      "div{content-visibility:auto;contain-intrinsic-size:auto 3000px}</style>";
+  for (qsizetype begin = 0, end = 0; begin < text.size(); begin = end) {
+    end = EndOfLines(text, begin, lines);
+    QByteArray block = text.mid(begin, end - begin);
+    page += "<div>" + block.replace('&', "&amp;").replace('<', "&lt;") + "</div>";
+  }
+  return page;
+}
+
+}  // namespace
 
 void TextFileScheme::Register() {
   QWebEngineUrlScheme scheme(kName);
@@ -38,7 +69,10 @@ void TextFileScheme::requestStarted(QWebEngineUrlRequestJob* job) {
     job->fail(QWebEngineUrlRequestJob::UrlNotFound);
     return;
   }
-  job->reply("text/plain;charset=windows-1252", file);
+  auto* page = new QBuffer(job);
+  page->setData(PageOf(file->readAll()));
+  page->open(QIODevice::ReadOnly);
+  job->reply("text/html;charset=windows-1252", page);
 }
 
 }  // namespace benevix

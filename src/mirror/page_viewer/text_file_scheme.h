@@ -5,8 +5,9 @@
 
 namespace benevix {
 
-// Gives a local text file to the engine as plain text in the program's code page. From a file's own
-// address the engine guesses both by the bytes, and does not show a file that it takes for data.
+// Gives a local text file to the engine as a page that shows it as it stands, in the program's code
+// page. From a file's own address the engine guesses both by the bytes, does not show a file that
+// it takes for data, and is slow with a long one.
 class TextFileScheme : public QWebEngineUrlSchemeHandler {
  public:
   static constexpr const char* kName = "benevix-text";

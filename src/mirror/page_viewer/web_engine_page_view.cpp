@@ -47,6 +47,7 @@ WebEnginePageView::WebEnginePageView(const QUrl& address, QWidget* parent,
   connect(page->action(QWebEnginePage::Back), &QAction::enabledChanged, this,
           events.canGoBackChanged);
   // Queued, because the receiver destroys the view.
+  connect(page, &GuardedPage::redirectRefused, this, events.refused, Qt::QueuedConnection);
   connect(page, &QWebEnginePage::renderProcessTerminated, this, events.stopped,
           Qt::QueuedConnection);
   page->setUrl(TextFileScheme::EngineAddress(address));

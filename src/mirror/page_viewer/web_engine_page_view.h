@@ -29,7 +29,7 @@ class WebEnginePageView : public QObject, public PageView {
 
 class WebEnginePageViewFactory : public QObject, public PageViewFactory {
   Q_OBJECT
-  Q_PLUGIN_METADATA(IID "benevix.PageViewFactory/2")
+  Q_PLUGIN_METADATA(IID "benevix.PageViewFactory/3")
   Q_INTERFACES(benevix::PageViewFactory)
 
  public:

@@ -7,6 +7,7 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "platform/qt/wire_url.h"
+#include "platform/signature.h"
 
 namespace benevix {
 namespace {
@@ -42,14 +43,25 @@ class Values {
     return text;
   }
 
-  [[nodiscard]] std::string BaseAddress(const char* key) const {
+  // Empty when the key is missing, too.
+  [[nodiscard]] std::string OptionalText(const char* key) const {
+    return values_.value(key).isEmpty() ? std::string() : Text(key);
+  }
+
+  // `end` is what it must end in.
+  [[nodiscard]] std::string Address(const char* key, const std::string& end = {}) const {
     std::string text = Text(key);
     try {
       WireUrl(text);
-      if (text.ends_with('/')) return text;
+      if (text.ends_with(end)) return text;
     } catch (const RuntimeError&) {
+      // Told below.
     }
-    Fail(name_, std::string(key) + " must be an http or https address that ends in \"/\"");
+    Refuse(key, "an http or https address" + (end.empty() ? "" : " that ends in \"" + end + "\""));
+  }
+
+  [[noreturn]] void Refuse(const char* key, const std::string& wanted) const {
+    Fail(name_, std::string(key) + " must be " + wanted);
   }
 
  private:
@@ -62,13 +74,22 @@ class Values {
 Deployment ReadDeployment(const std::string& file) {
   const Values values(file);
   Deployment deployment;
-  deployment.serverBase = values.BaseAddress("ServerBase");
-  deployment.paymentBase = values.Text("PaymentBase");
+  deployment.serverBase = values.Address("ServerBase", "/");
+  deployment.paymentBase = values.Address("PaymentBase");
   deployment.mail = values.Text("Mail");
   deployment.translationName = values.Text("TranslationName");
   deployment.translationBase = values.Text("TranslationBase");
   deployment.copyright = values.Text("Copyright");
   deployment.product = values.Text("Product");
+  const std::string paymentIn = values.OptionalText("PaymentIn");
+  deployment.paymentInBrowser = paymentIn == "browser";
+  if (!paymentIn.empty() && paymentIn != "viewer" && !deployment.paymentInBrowser) {
+    values.Refuse("PaymentIn", "viewer or browser");
+  }
+  deployment.updateKey = values.OptionalText("UpdateKey");
+  if (!deployment.updateKey.empty() && !IsPublicKey(deployment.updateKey)) {
+    values.Refuse("UpdateKey", "the base64 text of an Ed25519 public key");
+  }
   return deployment;
 }
 

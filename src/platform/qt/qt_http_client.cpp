@@ -5,6 +5,7 @@
 #include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QPointer>
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
@@ -19,9 +20,10 @@ namespace benevix {
 namespace {
 
 constexpr int kMaxRedirects = 10;
-constexpr int kMoment = 300;            // milliseconds
-constexpr int kDefaultTimeout = 5;      // seconds
-constexpr int kMaxTimeout = 1'000'000;  // seconds; as milliseconds it still fits an int
+constexpr int kMoment = 300;        // milliseconds
+constexpr int kDefaultTimeout = 5;  // seconds
+// Seconds; kTimeoutsInAll times as many milliseconds fit an int.
+constexpr int kMaxTimeout = 300'000;
 // Bytes to buffer and to read at a time. Qt may have more available; each chunk is reported.
 constexpr qint64 kChunk = qint64{1} << 20;
 
@@ -29,6 +31,34 @@ struct Response {
   std::string body;
   int status = 0;
   QUrl redirect;  // empty for none
+};
+
+// Ends a request before its response is complete, and keeps why.
+struct Stop {
+  void Now(const std::string& why) {
+    if (!reason.empty()) return;
+    reason = why;
+    if (reply) reply->abort();
+  }
+
+  QPointer<QNetworkReply> reply;  // under way
+  std::string reason;             // empty while the request may go on
+};
+
+// As long as this object lives, `cancel` ends the request.
+class CancelScope {
+ public:
+  CancelScope(std::function<void()>& cancel, Stop& stop) : cancel_(cancel) {
+    cancel_ = [&stop] { stop.Now("cancelled"); };
+  }
+  ~CancelScope() {
+    cancel_ = [] {};
+  }
+  CancelScope(const CancelScope&) = delete;
+  CancelScope& operator=(const CancelScope&) = delete;
+
+ private:
+  std::function<void()>& cancel_;
 };
 
 // An empty request body that prevents retries. Qt sends a request up to three more times when the
@@ -116,7 +146,7 @@ std::string Reason(const QNetworkReply& reply, int timeout) {
   }
 }
 
-Response Get(const QUrl& url, const QNetworkProxy& proxy, const HttpOptions& options) {
+Response Get(const QUrl& url, const QNetworkProxy& proxy, const HttpOptions& options, Stop& stop) {
   const int timeout = Timeout(options.timeout);
   QNetworkAccessManager manager;  // a new one, so that requests share no state
   manager.setProxy(proxy);
@@ -124,6 +154,7 @@ Response Get(const QUrl& url, const QNetworkProxy& proxy, const HttpOptions& opt
   const std::unique_ptr<QNetworkReply> reply(
       manager.sendCustomRequest(Request(url, timeout), "GET", &body));
   reply->setReadBufferSize(kChunk);
+  stop.reply = reply.get();
 
   Response response;
   bool tooLong = false;
@@ -158,6 +189,7 @@ Response Get(const QUrl& url, const QNetworkProxy& proxy, const HttpOptions& opt
   readAvailable();
 
   if (raised) std::rethrow_exception(raised);
+  if (!stop.reason.empty()) Fail(url, stop.reason);
   if (tooLong) return {};
   if (!IsComplete(*reply, response.body.size())) Fail(url, Reason(*reply, timeout));
   response.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
@@ -171,19 +203,33 @@ std::string QtHttpClient::OpenURL(const std::string& address, const HttpOptions&
   QUrl url = WireUrl(address);
   const QNetworkProxy proxy = Proxy(options.proxy);
   const WaitScope wait(waits_);
+  Stop stop;
+  const CancelScope cancellable(cancel_, stop);
   QTimer moment;
   moment.setSingleShot(true);
   if (options.onSlow) QObject::connect(&moment, &QTimer::timeout, options.onSlow);
   moment.start(kMoment);
+  QTimer patience;
+  patience.setSingleShot(true);
+  const int longest = Timeout(options.timeout) * kTimeoutsInAll;
+  QObject::connect(&patience, &QTimer::timeout, [&stop, longest] {
+    stop.Now("not complete after " + std::to_string(longest / 1000) + " seconds");
+  });
+  if (!options.isLong) patience.start(longest);
   for (int redirects = 0; redirects <= kMaxRedirects; ++redirects) {
-    Response response = Get(url, proxy, options);
+    if (options.onAddress) options.onAddress(url.toEncoded().toStdString());
+    Response response = Get(url, proxy, options, stop);
     if (response.redirect.isEmpty()) {
       constexpr int ok = 200;
       if (options.needsOk && response.status != ok) return {};
       return std::move(response.body);
     }
-    url = url.resolved(response.redirect);
-    CheckWebUrl(url);
+    const QUrl next = url.resolved(response.redirect);
+    CheckWebUrl(next);
+    if (url.scheme() == QStringLiteral("https") && next.scheme() != url.scheme()) {
+      Fail(url, "redirects from https to http");
+    }
+    url = next;
   }
   Fail(url, "too many redirects");
 }
