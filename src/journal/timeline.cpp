@@ -45,12 +45,23 @@ void Timeline::Note(std::string time, std::string name, const SessionFields& fie
 }
 
 void Timeline::Amend(const SessionFields& fields) {
-  if (done_ > 0) {
-    for (FieldChange& change : Difference(fields_, fields)) {
-      Add(steps_[done_ - 1].later, std::move(change));
-    }
+  for (FieldChange& change : Difference(fields_, fields)) {
+    AmendUndone(change);
+    if (done_ > 0) Add(steps_[done_ - 1].later, std::move(change));
   }
   fields_ = fields;
+}
+
+void Timeline::AmendUndone(const FieldChange& amended) {
+  for (std::size_t step = done_; step < steps_.size(); ++step) {
+    for (auto* changes : {&steps_[step].fields, &steps_[step].later}) {
+      const auto change = std::ranges::find(*changes, amended.field, &FieldChange::field);
+      if (change == changes->end()) continue;
+      change->before = amended.after;
+      if (change->before == change->after) changes->erase(change);
+      return;
+    }
+  }
 }
 
 void Timeline::Undo() {
