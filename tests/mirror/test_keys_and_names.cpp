@@ -146,6 +146,7 @@ TEST_F(WindowsTest, LinksCanBePressedByAScreenReader) {
   QWidget* const label = mirror.BindingOf(forms.Get<frmBVX>())->WidgetOf(forms.Get<frmBVX>().iLbl);
   QAccessible::queryAccessibleInterface(label)->actionInterface()->doAction(
       QAccessibleActionInterface::pressAction());
+  QCoreApplication::sendPostedEvents();
   EXPECT_EQ(clicks, 1);
 }
 
