@@ -15,7 +15,7 @@ done
 [ -x /usr/libexec/at-spi-bus-launcher ] || skip "at-spi2-core is missing"
 /usr/bin/python3 -c 'import pyatspi' 2>/dev/null || skip "python3-pyatspi is missing"
 
-place=$build/tests/accessibility
+place=$build/tests/accessibility/session
 rm -rf "$place"
 mkdir -p "$place/home/Desktop" "$place/run" "$place/program/Resources"
 chmod 700 "$place/run"
