@@ -40,7 +40,8 @@ class ButtonBinding : public WidgetBinding<Button, QPushButton> {
 
 // Calls `act` for each click, and when a screen reader checks the button, which is no click to the
 // toolkit.
-void OnCheck(QAbstractButton& widget, const BindingContext& context, std::function<void()> act) {
+void OnCheck(QAbstractButton& widget, const BindingContext& context,
+             const std::function<void()>& act) {
   auto clicking = std::make_shared<bool>(false);  // from the press to the release
   QObject::connect(&widget, &QAbstractButton::pressed, &widget, [clicking] { *clicking = true; });
   QObject::connect(&widget, &QAbstractButton::released, &widget, [clicking] { *clicking = false; });
