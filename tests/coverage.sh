@@ -15,9 +15,9 @@ gcovr --root . --object-directory "$build" --filter src/ --filter player/ --filt
   --html-details "$build/report/index.html" --csv "$build/report/files.csv" "$build"
 # The columns that are used: filename, line_total, line_covered, branch_total, branch_covered.
 awk -F, '
-  function row(name, l, lc, b, bc) {
+  function row(name, l, lc, b, bc, into) {
     printf "%-22s %6d lines %5.1f %%  %6d branches %5.1f %%\n", name, l, l ? 100 * lc / l : 100,
-           b, b ? 100 * bc / b : 100
+           b, b ? 100 * bc / b : 100 | into
   }
   NR == 1 { for (i = 1; i <= NF; ++i) at[$i] = i; next }
   {
@@ -32,8 +32,9 @@ awk -F, '
   }
   END {
     for (folder in lines)
-      row(folder, lines[folder], ran[folder], branches[folder], taken[folder]) | "sort"
+      row(folder, lines[folder], ran[folder], branches[folder], taken[folder], "sort")
     close("sort")
-    row("src without these two", l, lc, b, bc)
+    row("src without these two", l, lc, b, bc, "cat")
+    close("cat")
     exit lc < 0.95 * l || bc < 0.85 * b
   }' "$build/report/files.csv"
