@@ -50,6 +50,7 @@ make_root() {
 }
 
 [ "$(id -u)" = 0 ] || skip "a clean root needs root rights"
+# shellcheck source=/dev/null
 . /etc/os-release
 [ "${ID:-}" = debian ] || skip "this is not a Debian system"
 for tool in debootstrap dpkg-shlibdeps file rsvg-convert unshare; do
@@ -61,6 +62,7 @@ unshare --mount true 2>/dev/null || skip "mount namespaces cannot be created her
 mkdir -p "$folder"
 cpack -G DEB --config "$build/CPackConfig.cmake" -B "$folder/made" >"$log" 2>&1 ||
   fail "the package cannot be made"
+# shellcheck disable=SC2012  # the names are ours
 deb=$(ls -t "$folder"/made/*.deb | head -n 1)
 version=$(dpkg-deb -f "$deb" Version)
 [ "$(dpkg-parsechangelog -l "$here/../../packaging/changelog" -S Version)" = "$version" ] ||

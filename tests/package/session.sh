@@ -1,3 +1,4 @@
+#!/bin/sh
 # Starts the installed program on its own X display and opens the help. Waits endlessly for each
 # window, so the caller sets a time limit; the last line of the output is the last step that worked.
 set -eu

@@ -3,6 +3,8 @@
 #include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <functional>
+#include <memory>
 
 #include "mirror/bindings/make_binding.h"
 #include "mirror/bindings/mnemonics.h"
@@ -36,12 +38,27 @@ class ButtonBinding : public WidgetBinding<Button, QPushButton> {
   QChar mnemonic_;
 };
 
+// Calls `act` for each click, and when a screen reader checks the button, which is no click to the
+// toolkit.
+void OnCheck(QAbstractButton& widget, const BindingContext& context,
+             const std::function<void()>& act) {
+  auto clicking = std::make_shared<bool>(false);  // from the press to the release
+  QObject::connect(&widget, &QAbstractButton::pressed, &widget, [clicking] { *clicking = true; });
+  QObject::connect(&widget, &QAbstractButton::released, &widget, [clicking] { *clicking = false; });
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget, act);
+  QObject::connect(&widget, &QAbstractButton::toggled, &widget, [clicking, &context, act] {
+    if (!*clicking && !context.applying) act();
+  });
+}
+
 class OptionBinding : public WidgetBinding<OptionButton, QRadioButton> {
  public:
   OptionBinding(OptionButton& option, QRadioButton& widget, BindingContext& context)
       : WidgetBinding(option, widget, context), colors_(widget, context.scheme) {
-    QObject::connect(&widget, &QRadioButton::clicked, &widget,
-                     [this] { context_.input.Choose(control_); });
+    // The one that is unchecked for another one is not meant.
+    OnCheck(widget, context, [this] {
+      if (widget_.isChecked()) context_.input.Choose(control_);
+    });
   }
 
  private:
@@ -64,8 +81,7 @@ class CheckBinding : public WidgetBinding<CheckBox, QCheckBox> {
  public:
   CheckBinding(CheckBox& box, QCheckBox& widget, BindingContext& context)
       : WidgetBinding(box, widget, context) {
-    QObject::connect(&widget, &QCheckBox::clicked, &widget,
-                     [this] { context_.input.Toggle(control_); });
+    OnCheck(widget, context, [this] { context_.input.Toggle(control_); });
   }
 
  private:

@@ -12,6 +12,7 @@
 #include "mirror/bindings/mnemonics.h"
 #include "mirror/bindings/mouse_filter.h"
 #include "mirror/bindings/widget_binding.h"
+#include "mirror/look/accessibility.h"
 #include "mirror/look/chart_widget.h"
 #include "mirror/look/money_bar_widget.h"
 #include "mirror/look/shape_widget.h"
@@ -112,7 +113,7 @@ class ShapeBinding : public WidgetBinding<Shape, ShapeWidget> {
     const bool filled = control_.fillStyle == 0;
     widget_.SetFill(filled ? RoleColor(control_.fillColor, context_.scheme) : QColor());
     widget_.SetBorder(RoleColor(control_.borderColor, context_.scheme));
-    widget_.setAccessibleDescription(ToQString(control_.meaning));
+    Describe(widget_, ToQString(control_.meaning));
   }
 
   MouseFilter mouse_;
@@ -154,7 +155,7 @@ class MoneyBarBinding : public WidgetBinding<MoneyBar, MoneyBarWidget> {
 
  private:
   void ApplyKind() override {
-    widget_.setAccessibleDescription(ToQString(control_.toolTip));
+    Describe(widget_, ToQString(control_.toolTip));
     std::vector<MoneyBarWidget::Part> parts;
     for (const MoneyBar::Part& part : control_.parts) {
       parts.push_back({UseColor(part.use, context_.scheme),

@@ -14,6 +14,16 @@ QVariant AlignmentOf(int column) {
       Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
 }
 
+// A row is heard by its first cell, which is empty but for headings.
+QString SpokenRow(const ListView& list, int row) {
+  QStringList texts;
+  for (const int column : {column::kOrganization, column::kType, column::kAmount}) {
+    const std::string text = list.SubItem(row, column);
+    if (!text.empty()) texts += Drawn(text);
+  }
+  return texts.join(QStringLiteral(", "));
+}
+
 }  // namespace
 
 void ListModel::Refresh() {
@@ -48,6 +58,9 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
       return Drawn(list_.SubItem(row, index.column()));
+    case Qt::AccessibleTextRole:
+      return index.column() == 0 && KindOf(row) != Kind::Heading ? SpokenRow(list_, row)
+                                                                 : QVariant();
     case Qt::TextAlignmentRole:
       return AlignmentOf(index.column());
     case kKindRole:

@@ -4,16 +4,18 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMouseEvent>
+#include <memory>
 
 namespace benevix {
 namespace {
 
-constexpr const char* kIndicator = "isIndicator";
+constexpr const char* kRole = "roleForScreenReaders";
 
-class IndicatorInterface : public QAccessibleWidget {
+// A widget of the role that it is marked with.
+class MarkedInterface : public QAccessibleWidget {
  public:
-  explicit IndicatorInterface(QWidget& widget)
-      : QAccessibleWidget(&widget, QAccessible::Indicator) {}
+  MarkedInterface(QWidget& widget, int role)
+      : QAccessibleWidget(&widget, static_cast<QAccessible::Role>(role)) {}
 
   [[nodiscard]] QString text(QAccessible::Text which) const override {
     return which == QAccessible::Value ? widget()->accessibleDescription()
@@ -35,11 +37,12 @@ class LinkInterface : public QAccessibleWidget {
   }
   void doAction(const QString& name) override {
     if (name != pressAction() || !widget()->isEnabled()) return;
+    // Posted: the screen reader does not wait for what the click begins.
     for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
       const QPointF place = widget()->rect().center();
-      QMouseEvent click(type, place, widget()->mapToGlobal(place), Qt::LeftButton, Qt::LeftButton,
-                        Qt::NoModifier);
-      QCoreApplication::sendEvent(widget(), &click);
+      auto click = std::make_unique<QMouseEvent>(type, place, widget()->mapToGlobal(place),
+                                                 Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+      QCoreApplication::postEvent(widget(), click.release());
     }
   }
 };
@@ -47,9 +50,8 @@ class LinkInterface : public QAccessibleWidget {
 // By a property, not by a cast: objects of the page's engine also come here, and casting them
 // fails.
 QAccessibleInterface* Make(const QString& /*className*/, QObject* object) {
-  if (object->property(kIndicator).toBool()) {
-    return new IndicatorInterface(*static_cast<QWidget*>(object));
-  }
+  const QVariant role = object->property(kRole);
+  if (role.isValid()) return new MarkedInterface(*static_cast<QWidget*>(object), role.toInt());
   auto* const label = qobject_cast<QLabel*>(object);
   const bool hand = label != nullptr && label->cursor().shape() == Qt::PointingHandCursor;
   return hand ? new LinkInterface(*label) : nullptr;
@@ -57,8 +59,18 @@ QAccessibleInterface* Make(const QString& /*className*/, QObject* object) {
 
 }  // namespace
 
+// Not QAccessible::Indicator, which the accessibility bus does not know.
 void MarkAsIndicator(QWidget& widget) {
-  widget.setProperty(kIndicator, true);
+  widget.setProperty(kRole, QAccessible::Graphic);
+}
+
+void MarkAsDialog(QWidget& window) {
+  window.setProperty(kRole, QAccessible::Dialog);
+}
+
+void Describe(QWidget& widget, const QString& description) {
+  // The toolkit would also tell of the same one.
+  if (widget.accessibleDescription() != description) widget.setAccessibleDescription(description);
 }
 
 void InstallAccessibility() {

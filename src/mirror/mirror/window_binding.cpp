@@ -11,6 +11,7 @@
 
 #include "mirror/bindings/make_binding.h"
 #include "mirror/bindings/mnemonics.h"
+#include "mirror/look/accessibility.h"
 #include "mirror/look/texts.h"
 #include "mirror/mirror/drawings.h"
 #include "mirror/mirror/window_layout.h"
@@ -19,9 +20,11 @@
 namespace benevix {
 namespace {
 
+// A screen reader moves the focus for another reason; the program does so only while it applies.
 bool IsUsersFocus(Qt::FocusReason reason) {
-  return reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
-         reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+  return reason == Qt::OtherFocusReason || reason == Qt::MouseFocusReason ||
+         reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+         reason == Qt::ShortcutFocusReason;
 }
 
 // The tool tip with the shortcut, or the shortcut alone. Without a shortcut the toolkit shows it.
@@ -61,7 +64,9 @@ WindowBinding::WindowBinding(Desk& desk, const Desk::Entry& entry, BindingContex
     bound_.push_back({&control, std::move(binding)});
   }
   auto* const mainWindow = qobject_cast<QMainWindow*>(widget_.get());
-  if (mainWindow != nullptr) {
+  if (mainWindow == nullptr) {
+    MarkAsDialog(*widget_);
+  } else {
     menus_ = std::make_unique<MenuBinding>(entry, *mainWindow->menuBar(), context_);
   }
   GiveMnemonics();

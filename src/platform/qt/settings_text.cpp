@@ -111,10 +111,11 @@ void SettingsText::SetValue(const QByteArray& path, const QByteArray& name,
 }
 
 bool SettingsText::RemoveValue(const QByteArray& path, const QByteArray& name) {
-  const qsizetype header = HeaderAt(path);
-  const qsizetype at = header < 0 ? -1 : ValueAt(header, name);
-  if (at >= 0) lines_.removeAt(at);
-  return at >= 0;
+  bool removed = false;  // a file written by hand may have the value twice
+  for (qsizetype at = 0; (at = ValueAt(HeaderAt(path), name)) >= 0; removed = true) {
+    lines_.removeAt(at);
+  }
+  return removed;
 }
 
 }  // namespace benevix
