@@ -56,19 +56,13 @@ std::optional<std::string> WorldSite::LastTarget() {
 }
 
 void WorldSite::Listen(std::unique_ptr<LoopbackServer> server) {
-  server->reply = [this](const httplib::Request& request) {
+  server->Start([this](const LoopbackServer::Request& request) {
     Note(request);
-    return AnswerTo(request.target).reply;
-  };
-  server->set_pre_routing_handler([this](const httplib::Request& request,
-                                         httplib::Response& response) {
     const ScriptedAnswer answer = AnswerTo(request.target);
-    response.status = answer.status;
-    response.set_content(answer.text, answer.text.starts_with('<') ? "text/html" : "text/plain");
-    return httplib::Server::HandlerResponse::Handled;
+    const char* const type = answer.text.starts_with('<') ? "text/html" : "text/plain";
+    return LoopbackServer::Answer{answer.reply, answer.status, type, answer.text};
   });
   server_ = std::move(server);
-  server_->Start();
 }
 
 ScriptedAnswer WorldSite::AnswerTo(const std::string& target) {
@@ -82,8 +76,8 @@ ScriptedAnswer WorldSite::AnswerTo(const std::string& target) {
   return longest ? *longest : NotFound();
 }
 
-void WorldSite::Note(const httplib::Request& request) {
-  if (request.get_header_value("User-Agent") != kProgram) return;
+void WorldSite::Note(const LoopbackServer::Request& request) {
+  if (request.Header("User-Agent") != kProgram) return;
   const std::lock_guard lock(mutex_);
   lastTarget_ = request.target;
 }

@@ -38,7 +38,7 @@ class WorldSite {
  private:
   void Listen(std::unique_ptr<LoopbackServer> server);
   [[nodiscard]] ScriptedAnswer AnswerTo(const std::string& target);
-  void Note(const httplib::Request& request);
+  void Note(const LoopbackServer::Request& request);
 
   std::mutex mutex_;  // of the answers and the last target
   std::map<std::string, ScriptedAnswer> answers_;
