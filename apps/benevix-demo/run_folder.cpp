@@ -11,6 +11,7 @@
 #include "core/settings_store.h"
 #include "people/contact_information.h"
 #include "platform/linux/linux_files.h"
+#include "platform/linux/user_folders.h"
 #include "platform/qt/settings_file.h"
 #include "player/world.h"
 
@@ -46,7 +47,7 @@ void RunFolder::UseSite(const QString& address) const {
 
 void RunFolder::EnsureContact() const {
   LinuxFiles files;
-  SettingsFile registry(files, SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile());
+  SettingsFile registry(files, UserConfigFile(kSettingsName), MachineConfigFile(kSettingsName));
   SettingsStore settings(registry);
   if (!settings.GetUserString("UsrInfo").empty()) return;
   const std::array<const char*, contact_field::kCount> fields = {

@@ -7,6 +7,7 @@
 #include "benevix/users_folder.h"
 #include "mirror/look/texts.h"
 #include "platform/linux/program_folder.h"
+#include "platform/linux/user_folders.h"
 #include "platform/qt/deployment_file.h"
 
 namespace benevix {
@@ -16,7 +17,7 @@ ProgramInfo InfoOf(const QFileInfo& executable) {
   const std::string path = executable.absoluteFilePath().toStdString();
   const std::string installed = InstalledFolder(path);
   ProgramInfo info;
-  info.deployment = ReadDeployment(installed + "/deployment.ini");
+  info.deployment = ReadDeployment(DeploymentFile(path));
   const std::string folder = ProgramFolder(path);
   info.folder = FilePath(folder);
   if (folder != installed) {
@@ -39,7 +40,7 @@ Machine::Machine(const std::string& executable, Waits& waits, MessageBoxes& boxe
     : waits_(waits),
       boxes_(boxes),
       info_(InfoOf(QFileInfo(QString::fromStdString(executable)))),
-      registry_(files_, SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile()),
+      registry_(files_, UserConfigFile(kSettingsName), MachineConfigFile(kSettingsName)),
       http_(waits) {}
 
 Environment Machine::TheEnvironment() {

@@ -8,7 +8,7 @@
 #include "base/text.h"
 #include "benevix/machine.h"
 #include "benevix/running_copy.h"
-#include "mirror/look/theme.h"
+#include "mirror/look/desktop_scheme.h"
 #include "mirror/mirror/mirror.h"
 #include "mirror/mirror/qt_message_boxes.h"
 #include "mirror/mirror/window_layout.h"
@@ -47,9 +47,13 @@ int Run(const QByteArray& token) {
   const std::string executable = QCoreApplication::applicationFilePath().toStdString();
   RunningCopy copy(ProgramFolder(executable), token);
   if (copy.IsSecond()) return 0;
-  const Scheme scheme = DesktopScheme();
-  ApplyTheme(*qApp, scheme);
-  Mirror mirror(scheme, Mirror::Timers::Run);
+  DesktopSchemeWatch desktop;
+  ApplyTheme(*qApp, desktop.Now());
+  Mirror mirror(desktop.Now(), Mirror::Timers::Run);
+  desktop.onChanged = [&mirror](Scheme scheme) {
+    ApplyScheme(*qApp, scheme);
+    mirror.SetScheme(scheme);
+  };
   copy.onSecondStart = [&](const QByteArray& given) { BringToFront(mirror, given); };
   QtMessageBoxes boxes(mirror);
   try {

@@ -10,7 +10,7 @@ inline constexpr std::size_t kResponseLimit = std::size_t{64} << 20;  // bytes
 inline constexpr std::size_t kDownloadLimit = std::size_t{1} << 30;   // bytes
 
 struct HttpOptions {
-  std::string proxy = {};              // host:port, or empty
+  std::string proxy = {};              // host:port; empty for the desktop's
   int timeout = 5;                     // seconds without a byte received; below 1 counts as 5
   std::size_t limit = kResponseLimit;  // bytes
   bool needsOk = false;  // a response with a status other than 200 is returned as empty

@@ -128,7 +128,13 @@ TEST_F(HttpClientTest, AbortsAboveTheLimit) {
   EXPECT_LE(last, options_.limit);
 }
 
-TEST_F(HttpClientTest, UsesOnlyTheGivenProxy) {
+TEST_F(HttpClientTest, UsesTheGivenProxyElseTheDesktops) {
+  setenv("http_proxy", base_.c_str(), 1);
+  EXPECT_EQ(client_.OpenURL("http://nowhere.invalid/", options_), "server ok");
+  EXPECT_EQ(targets_.back(), "http://nowhere.invalid/");
+  EXPECT_EQ(Open("a"), "server ok");
+  EXPECT_EQ(targets_.back(), "/a");
+  setenv("http_proxy", "http://127.0.0.1:1/", 1);
   options_.proxy = base_.substr(7, base_.size() - 8);
   EXPECT_EQ(client_.OpenURL("http://nowhere.invalid/a#b", options_), "server ok");
   EXPECT_EQ(targets_.back(), "http://nowhere.invalid/a%23b");

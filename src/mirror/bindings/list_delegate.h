@@ -10,7 +10,8 @@ namespace benevix {
 // stands out by its ground and a bar at its edge.
 class ListDelegate : public QStyledItemDelegate {
  public:
-  explicit ListDelegate(Scheme scheme, QObject* parent = nullptr);
+  // The scheme may change.
+  explicit ListDelegate(const Scheme& scheme, QObject* parent = nullptr);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
@@ -23,7 +24,7 @@ class ListDelegate : public QStyledItemDelegate {
   void PaintHeading(QPainter& painter, const QStyleOptionViewItem& option,
                     const QModelIndex& index) const;
 
-  ListColors colors_;
+  const Scheme& scheme_;
 };
 
 }  // namespace benevix

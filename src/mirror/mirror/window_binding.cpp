@@ -181,13 +181,20 @@ void WindowBinding::ShowWindow(QWidget* transientParent, const QWidget* neighbou
     widget_->winId();
     widget_->windowHandle()->setTransientParent(transientParent->windowHandle());
   }
-  PlaceWindow(*widget_, QPoint(window_.left, window_.top) / kTwipsPerPixel, transientParent,
-              neighbour);
+  PlaceWindow(*widget_, Place(), transientParent, neighbour);
   widget_->setAttribute(Qt::WA_ShowWithoutActivating, neighbour != nullptr);
   widget_->show();
   widget_->raise();
   if (neighbour == nullptr) widget_->activateWindow();
   ApplyControls();  // for what depends on the final size
+}
+
+std::optional<QPoint> WindowBinding::Place() const {
+  const bool isMain = qobject_cast<const QMainWindow*>(widget_.get()) != nullptr;
+  const auto left = isMain && layout_ != nullptr ? layout_->Place() : std::nullopt;
+  const QPoint drawn = QPoint(window_.left, window_.top) / kTwipsPerPixel;
+  if (left || drawn.isNull()) return left;
+  return drawn;
 }
 
 void WindowBinding::ApplyFocus() {

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QWidget>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "controls/desk.h"
@@ -56,6 +57,8 @@ class WindowBinding : public QObject {
   void ApplyControls();
   void ApplyNote();
   void ApplyWindow();
+  // Where the window is to stand; nothing for over its parent.
+  [[nodiscard]] std::optional<QPoint> Place() const;
   void ShowWindow(QWidget* transientParent, const QWidget* neighbour);
   [[nodiscard]] const BoundControl* BoundTo(const QObject* widget) const;
   bool FilterWindow(QEvent& event);

@@ -1,5 +1,6 @@
 #include "mirror/mirror/window_place.h"
 
+#include <QGuiApplication>
 #include <QLayout>
 #include <QScreen>
 #include <QWidget>
@@ -43,15 +44,18 @@ QRect Beside(QSize size, const QRect& neighbour, const QRect& screen) {
   return Inside(place, screen);
 }
 
-void PlaceWindow(QWidget& window, QPoint place, const QWidget* parent, const QWidget* neighbour) {
+void PlaceWindow(QWidget& window, std::optional<QPoint> place, const QWidget* parent,
+                 const QWidget* neighbour) {
   if (window.isMaximized()) return;
-  const QRect screen = (parent != nullptr ? *parent : window).screen()->availableGeometry();
+  const QScreen* const there = place ? QGuiApplication::screenAt(*place) : nullptr;
+  const QScreen* const own = (parent != nullptr ? *parent : window).screen();
+  const QRect screen = (there != nullptr ? there : own)->availableGeometry();
   if (window.layout() != nullptr) window.layout()->activate();  // sets the size that it fixes
-  QRect whole(place, window.size().grownBy(FrameOf(parent)));
+  QRect whole(place.value_or(QPoint()), window.size().grownBy(FrameOf(parent)));
   if (neighbour != nullptr) {
     const QRect beside(neighbour->mapToGlobal(QPoint()), neighbour->size());
     whole = Beside(whole.size(), beside, screen);
-  } else if (place.isNull()) {
+  } else if (there == nullptr) {
     whole.moveCenter(parent != nullptr ? parent->geometry().center() : screen.center());
   }
   window.move(Inside(whole, screen).topLeft());

@@ -1,6 +1,7 @@
 #include "platform/qt/qt_http_client.h"
 
 #include <QEventLoop>
+#include <QHostAddress>
 #include <QNetworkAccessManager>
 #include <QNetworkProxy>
 #include <QNetworkReply>
@@ -53,8 +54,16 @@ std::string CodePage(const QString& text) {
   throw RuntimeError(CodePage(url.host()) + ": " + reason);
 }
 
-QNetworkProxy Proxy(const std::string& proxy) {
-  if (proxy.empty()) return QNetworkProxy::NoProxy;
+// The desktop's, as the toolkit finds it. Nobody reaches this machine through a proxy.
+QNetworkProxy DesktopsProxy(const QUrl& url) {
+  const QString host = url.host();
+  if (host == "localhost" || QHostAddress(host).isLoopback()) return QNetworkProxy::NoProxy;
+  return QNetworkProxyFactory::systemProxyForQuery(QNetworkProxyQuery(url))
+      .value(0, QNetworkProxy::NoProxy);
+}
+
+QNetworkProxy Proxy(const std::string& proxy, const QUrl& url) {
+  if (proxy.empty()) return DesktopsProxy(url);
   const QString text = QString::fromStdString(ToUtf8(proxy));
   const qsizetype colon = text.lastIndexOf(u':');
   bool isNumber = false;
@@ -169,14 +178,13 @@ Response Get(const QUrl& url, const QNetworkProxy& proxy, const HttpOptions& opt
 
 std::string QtHttpClient::OpenURL(const std::string& address, const HttpOptions& options) {
   QUrl url = WireUrl(address);
-  const QNetworkProxy proxy = Proxy(options.proxy);
   const WaitScope wait(waits_);
   QTimer moment;
   moment.setSingleShot(true);
   if (options.onSlow) QObject::connect(&moment, &QTimer::timeout, options.onSlow);
   moment.start(kMoment);
   for (int redirects = 0; redirects <= kMaxRedirects; ++redirects) {
-    Response response = Get(url, proxy, options);
+    Response response = Get(url, Proxy(options.proxy, url), options);
     if (response.redirect.isEmpty()) {
       constexpr int ok = 200;
       if (options.needsOk && response.status != ok) return {};
