@@ -1,7 +1,6 @@
 #include "mirror/look/desktop_scheme.h"
 
 #include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusReply>
 
@@ -21,8 +20,7 @@ DesktopSchemeWatch::DesktopSchemeWatch()
     : withoutPreference_(DesktopScheme()), now_(withoutPreference_) {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (qEnvironmentVariableIsSet(kSchemeVariable) || !bus.isConnected()) return;
-  bus.connect(kService, kPath, kInterface, "SettingChanged", this,
-              SLOT(TakeChange(QString, QString, QDBusVariant)));
+  bus.connect(kService, kPath, kInterface, "SettingChanged", this, SLOT(TakeChange(QDBusMessage)));
   QDBusMessage question = QDBusMessage::createMethodCall(kService, kPath, kInterface, "Read");
   question.setArguments({kGroup, kName});
   const QDBusReply<QDBusVariant> soon = bus.call(question, QDBus::Block, kMoment);
@@ -37,9 +35,9 @@ DesktopSchemeWatch::DesktopSchemeWatch()
   });
 }
 
-void DesktopSchemeWatch::TakeChange(const QString& group, const QString& name,
-                                    const QDBusVariant& value) {
-  if (group == kGroup && name == kName) Take(QVariant::fromValue(value));
+void DesktopSchemeWatch::TakeChange(const QDBusMessage& message) {
+  const QVariantList words = message.arguments();  // group, name, value
+  if (words.value(0) == kGroup && words.value(1) == kName) Take(words.value(2));
 }
 
 void DesktopSchemeWatch::Take(const QVariant& value) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDBusVariant>
+#include <QDBusMessage>
 #include <QObject>
 #include <functional>
 
@@ -23,7 +23,7 @@ class DesktopSchemeWatch : public QObject {
   std::function<void(Scheme)> onChanged = [](Scheme) {};
 
  private:
-  Q_SLOT void TakeChange(const QString& group, const QString& name, const QDBusVariant& value);
+  Q_SLOT void TakeChange(const QDBusMessage& message);
   void Take(const QVariant& value);
 
   const Scheme withoutPreference_;
