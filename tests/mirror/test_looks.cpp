@@ -171,7 +171,7 @@ TEST(LooksTest, TheMainWindowKeepsItsArrangement) {
   view.setColumnWidth(2, 77);
   view.setColumnHidden(6, false);
   layout.Save(window);
-  EXPECT_EQ(layout.Place(), window.pos());
+  EXPECT_EQ(layout.Place(), window.geometry().topLeft());
   view.setColumnWidth(2, 99);
   view.setColumnHidden(6, true);
   EXPECT_EQ(settings.GetString(Root::CurrentUser, kSettingsPath + "\\Window", "Size"),

@@ -181,7 +181,10 @@ void WindowBinding::ShowWindow(QWidget* transientParent, const QWidget* neighbou
     widget_->winId();
     widget_->windowHandle()->setTransientParent(transientParent->windowHandle());
   }
-  PlaceWindow(*widget_, Place(), transientParent, neighbour);
+  if (!IsPlacedAgain()) {
+    PlaceWindow(*widget_, QPoint(window_.left, window_.top) / kTwipsPerPixel, transientParent,
+                neighbour);
+  }
   widget_->setAttribute(Qt::WA_ShowWithoutActivating, neighbour != nullptr);
   widget_->show();
   widget_->raise();
@@ -189,12 +192,10 @@ void WindowBinding::ShowWindow(QWidget* transientParent, const QWidget* neighbou
   ApplyControls();  // for what depends on the final size
 }
 
-std::optional<QPoint> WindowBinding::Place() const {
-  const bool isMain = qobject_cast<const QMainWindow*>(widget_.get()) != nullptr;
-  const auto left = isMain && layout_ != nullptr ? layout_->Place() : std::nullopt;
-  const QPoint drawn = QPoint(window_.left, window_.top) / kTwipsPerPixel;
-  if (left || drawn.isNull()) return left;
-  return drawn;
+bool WindowBinding::IsPlacedAgain() {
+  if (layout_ == nullptr || qobject_cast<QMainWindow*>(widget_.get()) == nullptr) return false;
+  const auto place = layout_->Place();
+  return place && PlaceAgain(*widget_, *place);
 }
 
 void WindowBinding::ApplyFocus() {

@@ -4,7 +4,6 @@
 #include <QObject>
 #include <QWidget>
 #include <memory>
-#include <optional>
 #include <vector>
 
 #include "controls/desk.h"
@@ -57,8 +56,8 @@ class WindowBinding : public QObject {
   void ApplyControls();
   void ApplyNote();
   void ApplyWindow();
-  // Where the window is to stand; nothing for over its parent.
-  [[nodiscard]] std::optional<QPoint> Place() const;
+  // Whether the user had a place for the window, where it is now.
+  bool IsPlacedAgain();
   void ShowWindow(QWidget* transientParent, const QWidget* neighbour);
   [[nodiscard]] const BoundControl* BoundTo(const QObject* widget) const;
   bool FilterWindow(QEvent& event);

@@ -62,10 +62,9 @@ std::optional<QPoint> WindowLayout::Place() const {
 }
 
 void WindowLayout::Save(const QMainWindow& window) const {
-  const QSize size = window.isMaximized() ? window.normalGeometry().size() : window.size();
-  const QPoint place = window.isMaximized() ? window.normalGeometry().topLeft() : window.pos();
+  const QRect place = window.isMaximized() ? window.normalGeometry() : window.geometry();
   SaveNumbers(settings_, "Place", {place.x(), place.y()});
-  SaveNumbers(settings_, "Size", {size.width(), size.height(), window.isMaximized() ? 1 : 0});
+  SaveNumbers(settings_, "Size", {place.width(), place.height(), window.isMaximized() ? 1 : 0});
   if (const auto* const splitter = window.findChild<QSplitter*>()) {
     SaveNumbers(settings_, "Splitter", splitter->sizes());
   }

@@ -18,7 +18,7 @@ class WindowLayout {
   // What was never saved, or cannot be read, stays as it is drawn. The window is made no larger
   // than the screen has room for.
   void Restore(QMainWindow& window) const;
-  // Where the window stood; nothing when that was never saved.
+  // Where the window stood, without its frame; nothing when that was never saved.
   [[nodiscard]] std::optional<QPoint> Place() const;
   void Save(const QMainWindow& window) const;
 

@@ -44,18 +44,24 @@ QRect Beside(QSize size, const QRect& neighbour, const QRect& screen) {
   return Inside(place, screen);
 }
 
-void PlaceWindow(QWidget& window, std::optional<QPoint> place, const QWidget* parent,
-                 const QWidget* neighbour) {
+bool PlaceAgain(QWidget& window, QPoint place) {
+  const QScreen* const screen = QGuiApplication::screenAt(place);
+  if (screen == nullptr) return false;
+  if (!window.isMaximized()) {
+    window.setGeometry(Inside(QRect(place, window.size()), screen->availableGeometry()));
+  }
+  return true;
+}
+
+void PlaceWindow(QWidget& window, QPoint place, const QWidget* parent, const QWidget* neighbour) {
   if (window.isMaximized()) return;
-  const QScreen* const there = place ? QGuiApplication::screenAt(*place) : nullptr;
-  const QScreen* const own = (parent != nullptr ? *parent : window).screen();
-  const QRect screen = (there != nullptr ? there : own)->availableGeometry();
+  const QRect screen = (parent != nullptr ? *parent : window).screen()->availableGeometry();
   if (window.layout() != nullptr) window.layout()->activate();  // sets the size that it fixes
-  QRect whole(place.value_or(QPoint()), window.size().grownBy(FrameOf(parent)));
+  QRect whole(place, window.size().grownBy(FrameOf(parent)));
   if (neighbour != nullptr) {
     const QRect beside(neighbour->mapToGlobal(QPoint()), neighbour->size());
     whole = Beside(whole.size(), beside, screen);
-  } else if (there == nullptr) {
+  } else if (place.isNull()) {
     whole.moveCenter(parent != nullptr ? parent->geometry().center() : screen.center());
   }
   window.move(Inside(whole, screen).topLeft());
