@@ -30,6 +30,7 @@ unshare --mount true 2>/dev/null || skip "mount namespaces cannot be created her
 mkdir -p "$folder"
 if [ ! -e "$root/complete" ]; then
   # From where this system has its own packages.
+  # shellcheck disable=SC2016 # apt's own words
   mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Label: Debian' |
     head -n 1)
   rm -rf "$root"
@@ -47,5 +48,6 @@ mkdir -p "$root/benevix"
 find "$root/benevix" -mindepth 1 -maxdepth 1 ! -name build -exec rm -r {} +
 tar -C "$sources" -c --exclude=./build --exclude=./.git . | tar -C "$root/benevix" -x --no-same-owner
 
+# shellcheck disable=SC2016 # of the root
 in_root sh -c '. /etc/os-release; echo "building on $PRETTY_NAME"; cd /benevix && ./dev build'
 in_root sh -c 'cd /benevix && ctest --preset dev -LE "package" --no-tests=error'
