@@ -39,8 +39,11 @@ function(check_with program)
   if(${program}_path)
     execute_process(COMMAND ${${program}_path} ${ARGN} OUTPUT_VARIABLE said ERROR_VARIABLE said
                     RESULT_VARIABLE result)
-    # That it may not be a domain is said of every domain reserved for examples.
-    string(REGEX REPLACE "(^|\n)I: [^\n]*cid-maybe-not-rdns[^\n]*" "" said "${said}")
+    # The first is said of every domain reserved for examples; the others ask for a tag that the
+    # checker of our oldest system does not know.
+    string(REGEX REPLACE
+           "(^|\n)I: [^\n]*(cid-maybe-not-rdns|developer-name-tag|developer-info)[^\n]*" ""
+           said "${said}")
     if(NOT result EQUAL 0 OR said MATCHES "(^|\n)[EWIP]: |warning|hint")
       message(SEND_ERROR "${program}: ${said}")
     endif()
