@@ -20,7 +20,6 @@
 #include "forms/frmBVX.h"
 #include "forms/frmPayOpt.h"
 #include "forms/frmYtdTag.h"
-#include "mirror/look/note_bubble.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
 #include "mirror/mirror/qt_message_boxes.h"
