@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QRadioButton>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -136,6 +137,7 @@ TEST(LooksTest, EveryLabelHasRoomForItsText) {
 
 // Pictures of all windows, made in the first scheme, after the others.
 std::map<std::string, QImage> PicturesAfter(std::initializer_list<Scheme> schemes) {
+  QApplication::setCursorFlashTime(0);
   EveryWindow shown(*schemes.begin());
   for (const Scheme scheme : schemes) {
     ApplyScheme(*qApp, scheme);
@@ -144,7 +146,9 @@ std::map<std::string, QImage> PicturesAfter(std::initializer_list<Scheme> scheme
   }
   std::map<std::string, QImage> pictures;
   for (const Desk::Entry& entry : shown.desk.Entries()) {
-    pictures[entry.name] = shown.mirror.BindingOf(*entry.window)->Widget().grab().toImage();
+    QWidget& window = shown.mirror.BindingOf(*entry.window)->Widget();
+    for (auto* const bar : window.findChildren<QProgressBar*>()) bar->setRange(0, 1);  // no motion
+    pictures[entry.name] = window.grab().toImage();
   }
   return pictures;
 }
