@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <array>
 
 #include "base/runtime_error.h"
 #include "core/codec.h"
@@ -50,11 +49,11 @@ void RunFolder::EnsureContact() const {
   SettingsFile registry(files, UserConfigFile(kSettingsName), MachineConfigFile(kSettingsName));
   SettingsStore settings(registry);
   if (!settings.GetUserString("UsrInfo").empty()) return;
-  const std::array<const char*, contact_field::kCount> fields = {
+  const char* const fields[contact_field::kCount] = {
       "Robin Sample", "12 Example Street",   "Springfield", "Oregon", "97000",
       "U.S.A.",       "robin@sample.example"};
   frmPersInfo window;
-  for (int i = 0; i < contact_field::kCount; ++i) window.Text1[i].Write(fields.at(i));
+  for (int i = 0; i < contact_field::kCount; ++i) window.Text1[i].Write(fields[i]);
   const TextCodec codec(QFileInfo(Program()).completeBaseName().toStdString());
   settings.SaveUserString("UsrInfo", codec.Scramble(JoinContact(window)));
 }
