@@ -43,10 +43,19 @@ if [ ! -e "$root/complete" ]; then
   touch "$root/complete"
 fi
 
-# Their times come along, so that only what has changed is built again.
+# What is the same as in the last run keeps its time, so that only what has changed is built again.
 mkdir -p "$root/benevix"
+rm -rf "$root/new"
+mkdir "$root/new"
+tar -C "$sources" -c --exclude=./build --exclude=./.git . |
+  tar -C "$root/new" -x --touch --no-same-owner
+(cd "$root/new" && find . -type f) | while read -r file; do
+  if cmp -s "$root/new/$file" "$root/benevix/$file"; then
+    touch -r "$root/benevix/$file" "$root/new/$file"
+  fi
+done
 find "$root/benevix" -mindepth 1 -maxdepth 1 ! -name build -exec rm -r {} +
-tar -C "$sources" -c --exclude=./build --exclude=./.git . | tar -C "$root/benevix" -x --no-same-owner
+cp -a "$root/new/." "$root/benevix"
 
 # shellcheck disable=SC2016 # of the root
 in_root sh -c '. /etc/os-release; echo "building on $PRETTY_NAME"; cd /benevix && ./dev build'
