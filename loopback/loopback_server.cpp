@@ -1,157 +1,136 @@
 #include "loopback/loopback_server.h"
 
+#include <QHostAddress>
+#include <QTcpSocket>
+#include <QTimer>
 #include <algorithm>
 #include <chrono>
-#include <cstring>
-#include <limits>
-#include <optional>
 
 namespace benevix {
 namespace {
 
-constexpr const char* loopback = "127.0.0.1";
-constexpr time_t waitStepMicroseconds = 100'000;
-constexpr int stepsToRequest = 50;
+using Request = LoopbackServer::Request;
+using Answer = LoopbackServer::Answer;
 
-// Reads the bytes in hand first, then the connection. Once closed it writes nothing.
-class PrefixedStream : public httplib::Stream {
- public:
-  PrefixedStream(std::string prefix, httplib::Stream& rest)
-      : prefix_(std::move(prefix)), rest_(rest) {}
+constexpr std::string_view kHeadEnd = "\r\n\r\n";
 
-  bool is_readable() const override { return position_ < prefix_.size() || rest_.is_readable(); }
-  bool is_writable() const override { return rest_.is_writable(); }
-
-  ssize_t read(char* bytes, size_t size) override {
-    if (position_ == prefix_.size()) return rest_.read(bytes, size);
-    const size_t count = std::min(size, prefix_.size() - position_);
-    std::memcpy(bytes, prefix_.data() + position_, count);
-    position_ += count;
-    return static_cast<ssize_t>(count);
-  }
-
-  ssize_t write(const char* bytes, size_t size) override {
-    return closed_ ? -1 : rest_.write(bytes, size);
-  }
-
-  void Close() { closed_ = true; }
-
-  void get_remote_ip_and_port(std::string& ip, int& port) const override {
-    rest_.get_remote_ip_and_port(ip, port);
-  }
-
-  void get_local_ip_and_port(std::string& ip, int& port) const override {
-    rest_.get_local_ip_and_port(ip, port);
-  }
-
-  socket_t socket() const override { return rest_.socket(); }
-
- private:
-  std::string prefix_;
-  size_t position_ = 0;
-  httplib::Stream& rest_;
-  bool closed_ = false;
-};
-
-// The request line with its line end, or as much of it as arrived: longer lines are left to the
-// library, which refuses them with status 414.
-std::string ReadRequestLine(httplib::Stream& stream) {
-  std::string line;
-  char byte = 0;
-  while (line.size() <= LoopbackServer::longestTarget && stream.read(&byte, 1) == 1) {
-    line.push_back(byte);
-    if (byte == '\n') break;
-  }
-  return line;
+bool IsSameName(std::string_view one, std::string_view other) {
+  const auto text = [](std::string_view name) {
+    return QLatin1String(name.data(), static_cast<qsizetype>(name.size()));
+  };
+  return text(one).compare(text(other), Qt::CaseInsensitive) == 0;
 }
 
-// Takes the target out of a request line and leaves "/" in its place; nothing when the line has no
-// target or is not whole.
-std::optional<std::string> TakeTarget(std::string& line) {
-  if (line.empty() || line.back() != '\n') return std::nullopt;
-  const size_t blank = line.find(' ');
-  if (blank == std::string::npos) return std::nullopt;
-  const size_t end = line.find_first_of(" \r\n", blank + 1);
-  std::string target = line.substr(blank + 1, end - blank - 1);
-  if (target.empty() || target.front() != '/') return std::nullopt;
-  line.replace(blank + 1, target.size(), "/");
-  return target;
+Request RequestOf(std::string_view head) {
+  const std::string_view line = head.substr(0, head.find("\r\n"));
+  const std::size_t blank = line.find(' '), end = line.rfind(" HTTP/1.");
+  if (blank == 0 || end == std::string_view::npos || end <= blank + 1) return {};
+  return {std::string(line.substr(0, blank)), std::string(line.substr(blank + 1, end - blank - 1)),
+          std::string(head.substr(line.size() + 2))};
+}
+
+std::string HeadOf(const Answer& answer) {
+  std::string head = "HTTP/1.1 " + std::to_string(answer.status) +
+                     " \r\nContent-Type: " + answer.contentType +
+                     "\r\nContent-Length: " + std::to_string(answer.body.size()) +
+                     "\r\nCache-Control: no-store\r\nConnection: close\r\n";
+  for (const auto& [name, value] : answer.headers) head.append(name + ": " + value + "\r\n");
+  return head + "\r\n";
+}
+
+void Write(QTcpSocket& socket, const std::string& bytes) {
+  socket.write(bytes.data(), static_cast<qint64>(bytes.size()));
+}
+
+void WriteSlowly(QTcpSocket& socket, const std::string& bytes, double pause) {
+  auto* const timer = new QTimer(&socket);
+  QObject::connect(timer, &QTimer::timeout, &socket, [&socket, bytes, at = qsizetype{0}]() mutable {
+    const auto size = static_cast<qsizetype>(bytes.size());
+    if (at < size) socket.write(bytes.data() + at++, 1);
+    if (at == size) socket.disconnectFromHost();
+  });
+  const std::chrono::duration<double> seconds(pause);
+  timer->start(std::chrono::duration_cast<std::chrono::milliseconds>(seconds));
 }
 
 }  // namespace
 
+std::string Request::Header(std::string_view name) const {
+  std::string_view rest = headers;
+  while (!rest.empty()) {
+    const std::string_view line = rest.substr(0, rest.find("\r\n"));
+    const std::size_t colon = line.find(':');
+    if (colon != std::string_view::npos && IsSameName(line.substr(0, colon), name)) {
+      const std::size_t value = line.find_first_not_of(" \t", colon + 1);
+      return std::string(line.substr(std::min(value, line.size())));
+    }
+    rest.remove_prefix(std::min(line.size() + 2, rest.size()));
+  }
+  return {};
+}
+
 LoopbackServer::LoopbackServer() {
-  // The library's default lets a second server bind to the same port unnoticed.
-  set_socket_options([](socket_t socket) {
-    const int on = 1;
-#ifdef _WIN32
-    setsockopt(socket, SOL_SOCKET, SO_EXCLUSIVEADDRUSE, reinterpret_cast<const char*>(&on),
-               sizeof(on));
-#else
-    setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &on, sizeof(on));
-#endif
-  });
+  inThread_.moveToThread(&thread_);
+  thread_.start();
+}
+
+void LoopbackServer::Do(const std::function<void()>& action) {
+  QMetaObject::invokeMethod(&inThread_, action, Qt::BlockingQueuedConnection);
 }
 
 int LoopbackServer::Bind(int port) {
-  if (port == 0) {
-    port = std::max(bind_to_any_port(loopback), 0);
-  } else if (!bind_to_port(loopback, port)) {
-    port = 0;
-  }
-  address_ = "http://" + std::string(loopback) + ":" + std::to_string(port) + "/";
+  Do([this, &port] {
+    server_ = std::make_unique<QTcpServer>();
+    const bool isBound = server_->listen(QHostAddress::LocalHost, static_cast<quint16>(port));
+    if (isBound) server_->pauseAccepting();
+    port = isBound ? server_->serverPort() : 0;
+  });
+  address_ = "http://127.0.0.1:" + std::to_string(port) + "/";
   return port;
 }
 
-void LoopbackServer::Start() {
-  serving_ = std::thread([this] { listen_after_bind(); });
-  // A stop before the server runs would be lost.
-  while (!is_running()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+void LoopbackServer::Start(Handler handler) {
+  handler_ = std::move(handler);
+  Do([this] {
+    QObject::connect(server_.get(), &QTcpServer::newConnection, server_.get(), [this] {
+      while (QTcpSocket* const socket = server_->nextPendingConnection()) Serve(*socket);
+    });
+    server_->resumeAccepting();
+  });
 }
 
 void LoopbackServer::Stop() {
-  if (!serving_.joinable()) return;
-  stop();
-  serving_.join();
+  if (!thread_.isRunning()) return;
+  Do([this] { server_.reset(); });
+  thread_.quit();
+  thread_.wait();
 }
 
-// Browsers open connections in advance; the short steps let a stop end the wait for them.
-bool LoopbackServer::WaitForBytes(socket_t socket, int steps) const {
-  for (int step = 0; step < steps && svr_sock_ != INVALID_SOCKET; ++step) {
-    const bool readable = httplib::detail::process_client_socket(
-        socket, 0, waitStepMicroseconds, write_timeout_sec_, write_timeout_usec_,
-        [](httplib::Stream& stream) { return stream.is_readable(); });
-    if (readable) return true;
-  }
-  return false;
-}
-
-// The library checks the length of the request line before it asks `setup` for changes, so it is
-// shown a short line, and the target is put back in `setup`.
-bool LoopbackServer::process_and_close_socket(socket_t socket) {
-  const auto serve = [this, socket](httplib::Stream& connection) {
-    std::string line = ReadRequestLine(connection);
-    const std::optional<std::string> target = TakeTarget(line);
-    PrefixedStream stream(std::move(line), connection);
-    bool closed = false;
-    return process_request(stream, true, closed, [&](httplib::Request& request) {
-      request.ranges.clear();
-      if (!target) return;
-      request.target = *target;
-      request.path = target->substr(0, target->find('?'));
-      const Reply wanted = reply(request);
-      if (wanted == Reply::Answer) return;
-      // A client sends nothing after its request: once there is something to read, it has left.
-      if (wanted == Reply::Silence) WaitForBytes(socket, std::numeric_limits<int>::max());
-      stream.Close();
-    });
+void LoopbackServer::Serve(QTcpSocket& socket) {
+  QObject::connect(&socket, &QTcpSocket::disconnected, &socket, &QObject::deleteLater);
+  const auto read = [this, &socket, head = std::string(), isAnswered = false]() mutable {
+    const QByteArray bytes = socket.readAll();
+    if (isAnswered) return;
+    // The end may have come in two pieces.
+    const std::size_t before = head.size() - std::min(head.size(), kHeadEnd.size());
+    head.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    const std::size_t end = head.find(kHeadEnd, before);
+    if (end == std::string::npos && head.size() <= kLongestHead) return;
+    isAnswered = true;
+    Respond(socket, end == std::string::npos ? Request() : RequestOf(head.substr(0, end + 2)));
   };
-  const bool served =
-      WaitForBytes(socket, stepsToRequest) &&
-      httplib::detail::process_client_socket(socket, read_timeout_sec_, read_timeout_usec_,
-                                             write_timeout_sec_, write_timeout_usec_, serve);
-  httplib::detail::close_socket(socket);
-  return served;
+  QObject::connect(&socket, &QTcpSocket::readyRead, &socket, read);
+}
+
+void LoopbackServer::Respond(QTcpSocket& socket, const Request& request) {
+  const Answer answer = handler_(request);
+  if (answer.reply == Reply::Silence) return;
+  if (answer.reply == Reply::Answer) Write(socket, HeadOf(answer));
+  if (answer.reply != Reply::Close && request.method != "HEAD") {
+    if (answer.pause > 0) return WriteSlowly(socket, answer.body, answer.pause);
+    Write(socket, answer.body);
+  }
+  socket.disconnectFromHost();
 }
 
 }  // namespace benevix

@@ -44,8 +44,8 @@ std::map<QRgb, int> ColorsIn(const QImage& picture) {
 
 Text DrawnColor(const QColor& drawn, const QColor& theme, Color color) {
   if (drawn.rgba() == theme.rgba()) return ColorText(color);
-  const int red = drawn.red(), green = drawn.green(), blue = drawn.blue();
-  return ColorText(static_cast<unsigned>(blue << 16 | green << 8 | red));
+  const QColor swapped(drawn.blue(), drawn.green(), drawn.red());
+  return ColorText(swapped.rgb() & 0xffffff);
 }
 
 // What the theme draws for a text that the mirror has not coloured.

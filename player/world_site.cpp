@@ -53,15 +53,7 @@ void WorldSite::Up() {
 }
 
 void WorldSite::Down() {
-  isDown_ = true;
   server_.reset();
-}
-
-bool WorldSite::Pause(double seconds) const {
-  using Clock = std::chrono::steady_clock;
-  const auto end = Clock::now() + std::chrono::duration<double>(seconds);
-  while (Clock::now() < end && !isDown_) std::this_thread::sleep_for(std::chrono::milliseconds(20));
-  return !isDown_;
 }
 
 std::optional<std::string> WorldSite::LastTarget() {
@@ -70,29 +62,16 @@ std::optional<std::string> WorldSite::LastTarget() {
 }
 
 void WorldSite::Listen(std::unique_ptr<LoopbackServer> server) {
-  server->reply = [this](const httplib::Request& request) {
+  server->Start([this](const LoopbackServer::Request& request) {
     Note(request);
-    return AnswerTo(request.target).reply;
-  };
-  server->set_pre_routing_handler(
-      [this](const httplib::Request& request, httplib::Response& response) {
-        const ScriptedAnswer answer = AnswerTo(request.target);
-        response.status = answer.status;
-        const char* const type = answer.text.starts_with('<') ? "text/html" : "text/plain";
-        if (!answer.location.empty()) response.set_header("Location", answer.location);
-        if (answer.pause == 0) {
-          response.set_content(answer.text, type);
-        } else {
-          response.set_content_provider(
-              answer.text.size(), type, [this, answer](size_t at, size_t, httplib::DataSink& sink) {
-                return Pause(answer.pause) && sink.write(&answer.text[at], 1);
-              });
-        }
-        return httplib::Server::HandlerResponse::Handled;
-      });
-  isDown_ = false;
+    const ScriptedAnswer answer = AnswerTo(request.target);
+    const char* const type = answer.text.starts_with('<') ? "text/html" : "text/plain";
+    LoopbackServer::Answer given{answer.reply, answer.status, type, answer.text};
+    if (!answer.location.empty()) given.headers.emplace_back("Location", answer.location);
+    given.pause = answer.pause;
+    return given;
+  });
   server_ = std::move(server);
-  server_->Start();
 }
 
 ScriptedAnswer WorldSite::AnswerTo(const std::string& target) {
@@ -106,8 +85,8 @@ ScriptedAnswer WorldSite::AnswerTo(const std::string& target) {
   return longest ? *longest : NotFound();
 }
 
-void WorldSite::Note(const httplib::Request& request) {
-  if (request.get_header_value("User-Agent") != kProgram) return;
+void WorldSite::Note(const LoopbackServer::Request& request) {
+  if (request.Header("User-Agent") != kProgram) return;
   const std::lock_guard lock(mutex_);
   lastTarget_ = request.target;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <atomic>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -44,14 +43,11 @@ class WorldSite {
  private:
   void Listen(std::unique_ptr<LoopbackServer> server);
   [[nodiscard]] ScriptedAnswer AnswerTo(const std::string& target);
-  void Note(const httplib::Request& request);
-  // Waits before the next byte of a slow answer; gives false when the site goes down meanwhile.
-  [[nodiscard]] bool Pause(double seconds) const;
+  void Note(const LoopbackServer::Request& request);
 
   std::mutex mutex_;  // of the answers and the last target
   std::map<std::string, ScriptedAnswer> answers_;
   std::optional<std::string> lastTarget_;
-  std::atomic<bool> isDown_ = true;
   int port_ = 0;
   std::string address_;
   std::unique_ptr<LoopbackServer> server_;  // last, so that it stops first; null while down

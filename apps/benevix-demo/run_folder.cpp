@@ -9,6 +9,7 @@
 #include "core/settings_store.h"
 #include "people/contact_information.h"
 #include "platform/linux/linux_files.h"
+#include "platform/linux/user_folders.h"
 #include "platform/qt/settings_file.h"
 #include "player/world.h"
 
@@ -42,14 +43,14 @@ void RunFolder::UseSite(const QString& address) const {
 
 void RunFolder::EnsureContact() const {
   LinuxFiles files;
-  SettingsFile registry(files, SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile());
+  SettingsFile registry(files, UserConfigFile(kSettingsName), MachineConfigFile(kSettingsName));
   SettingsStore settings(registry);
   if (!settings.GetUserString("UsrInfo").empty()) return;
-  const std::array<const char*, contact_field::kCount> fields = {
+  const char* const fields[contact_field::kCount] = {
       "Robin Sample", "12 Example Street",   "Springfield", "Oregon", "97000",
       "U.S.A.",       "robin@sample.example"};
   frmPersInfo window;
-  for (int i = 0; i < contact_field::kCount; ++i) window.Text1[i].Write(fields.at(i));
+  for (int i = 0; i < contact_field::kCount; ++i) window.Text1[i].Write(fields[i]);
   const TextCodec codec(QFileInfo(Program()).completeBaseName().toStdString());
   settings.SaveUserString("UsrInfo", codec.Scramble(JoinContact(window)));
 }

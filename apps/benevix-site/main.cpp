@@ -1,20 +1,18 @@
 // The demonstration site: serves sample server files, a mail script and a payment page to programs
 // on this machine.
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <charconv>
-#include <chrono>
 #include <csignal>
 #include <ctime>
 #include <exception>
 #include <filesystem>
 #include <iomanip>
 #include <iostream>
-#include <mutex>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <thread>
 #include <vector>
 
 #include "loopback/loopback_server.h"
@@ -27,12 +25,6 @@ constexpr int exitFailure = 1;
 constexpr int exitUsage = 2;
 constexpr int highestPort = 65535;
 constexpr std::string_view usage = "usage: benevix-site [--port N] --folder DIR\n";
-
-volatile std::sig_atomic_t stopRequested = 0;
-
-void RequestStop(int) {
-  stopRequested = 1;
-}
 
 struct Options {
   int port = 0;
@@ -80,61 +72,55 @@ std::string OneLine(std::string text) {
   return text;
 }
 
-void LogRequest(const httplib::Request& request, const httplib::Response& response) {
-  static std::mutex oneAtATime;
-  const std::lock_guard lock(oneAtATime);
+void LogRequest(const LoopbackServer::Request& request, const LoopbackServer::Answer& answer) {
   const std::time_t now = std::time(nullptr);
   // "-" stands for what a broken request did not say.
   const std::string method = request.method.empty() ? "-" : request.method;
   const std::string target = request.target.empty() ? "-" : OneLine(request.target);
-  const size_t bytes = request.method == "HEAD" ? 0 : response.body.size();
+  const size_t bytes = request.method == "HEAD" ? 0 : answer.body.size();
   std::cout << std::put_time(std::localtime(&now), "%Y-%m-%d %H:%M:%S") << ' ' << method << ' '
-            << target << ' ' << response.status << ' ' << bytes << std::endl;
+            << target << ' ' << answer.status << ' ' << bytes << std::endl;
 }
 
-void Send(const SiteAnswer& answer, httplib::Response& response) {
-  response.status = answer.status;
-  response.set_content(answer.body, answer.contentType);
+LoopbackServer::Answer AnswerTo(const LoopbackServer::Request& request, Site& site) {
+  constexpr int badRequest = 400, methodNotAllowed = 405;
+  const bool reads = request.method == "GET" || request.method == "HEAD";
+  const SiteAnswer page = request.method.empty() ? ErrorAnswer(badRequest)
+                          : reads                ? site.Answer(request.target)
+                                                 : ErrorAnswer(methodNotAllowed);
+  LoopbackServer::Answer answer{
+      .status = page.status, .contentType = page.contentType, .body = page.body};
+  if (page.status == methodNotAllowed) answer.headers.emplace_back("Allow", "GET, HEAD");
+  return answer;
 }
 
-void Connect(LoopbackServer& server, Site& site) {
-  using HandlerResponse = httplib::Server::HandlerResponse;
-  server.set_default_headers({{"Cache-Control", "no-store"}});
-  server.set_logger(LogRequest);
-  // Before the routing: its regular expressions recurse once per character and run out of stack on
-  // long targets.
-  server.set_pre_routing_handler(
-      [&site](const httplib::Request& request, httplib::Response& response) {
-        const bool reads = request.method == "GET" || request.method == "HEAD";
-        Send(reads ? site.Answer(request.target) : ErrorAnswer(405), response);
-        if (!reads) response.set_header("Allow", "GET, HEAD");
-        return HandlerResponse::Handled;
-      });
-  server.set_error_handler(
-      httplib::Server::Handler([](const httplib::Request&, httplib::Response& response) {
-        if (response.body.empty()) Send(ErrorAnswer(response.status), response);
-      }));
-}
-
-void ServeUntilStopped(LoopbackServer& server) {
-  using namespace std::chrono_literals;
-  server.Start();
-  while (stopRequested == 0 && server.is_running()) std::this_thread::sleep_for(50ms);
-  server.Stop();
+// To be called before there are threads, which all inherit what is blocked.
+sigset_t BlockStopSignals() {
+  sigset_t signals;
+  sigemptyset(&signals);
+  sigaddset(&signals, SIGINT);
+  sigaddset(&signals, SIGTERM);
+  pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+  return signals;
 }
 
 int Run(const Options& options) {
+  const sigset_t stopSignals = BlockStopSignals();
   LoopbackServer server;
   if (server.Bind(options.port) == 0) {
     std::cerr << "benevix-site: port " << options.port << " cannot be used\n";
     return exitFailure;
   }
   Site site(options.folder, server.Address());
-  Connect(server, site);
-  std::signal(SIGINT, RequestStop);
-  std::signal(SIGTERM, RequestStop);
+  server.Start([&site](const LoopbackServer::Request& request) {
+    const LoopbackServer::Answer answer = AnswerTo(request, site);
+    LogRequest(request, answer);
+    return answer;
+  });
   std::cout << server.Address() << std::endl;
-  ServeUntilStopped(server);
+  int signal = 0;
+  sigwait(&stopSignals, &signal);
+  server.Stop();  // before the site goes
   return 0;
 }
 
@@ -142,6 +128,7 @@ int Run(const Options& options) {
 }  // namespace benevix
 
 int main(int argc, char* argv[]) {
+  const QCoreApplication application(argc, argv);
   try {
     return benevix::Run(benevix::ReadOptions({argv + 1, argv + argc}));
   } catch (const benevix::UsageError& error) {

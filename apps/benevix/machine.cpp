@@ -9,6 +9,7 @@
 #include "benevix/users_folder.h"
 #include "mirror/look/texts.h"
 #include "platform/linux/program_folder.h"
+#include "platform/linux/user_folders.h"
 #include "platform/qt/deployment_file.h"
 #include "platform/qt/wire_url.h"
 
@@ -19,7 +20,7 @@ ProgramInfo InfoOf(const QFileInfo& executable) {
   const std::string path = executable.absoluteFilePath().toStdString();
   const std::string installed = InstalledFolder(path);
   ProgramInfo info;
-  info.deployment = ReadDeployment(installed + "/deployment.ini");
+  info.deployment = ReadDeployment(DeploymentFile(path));
   const std::string folder = ProgramFolder(path);
   info.folder = FilePath(folder);
   if (folder != installed) {
@@ -51,7 +52,7 @@ Machine::Machine(const std::string& executable, Waits& waits, MessageBoxes& boxe
     : waits_(waits),
       boxes_(boxes),
       info_(InfoOf(QFileInfo(QString::fromStdString(executable)))),
-      registry_(files_, SettingsFile::DefaultUserFile(), SettingsFile::DefaultMachineFile()),
+      registry_(files_, UserConfigFile(kSettingsName), MachineConfigFile(kSettingsName)),
       http_(waits),
       shell_(OpenInBrowser) {}
 

@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "benevix/command.h"
 #include "benevix/machine.h"
+#include "mirror/look/desktop_scheme.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
 #include "mirror/mirror/qt_message_boxes.h"
@@ -53,9 +54,13 @@ int Run(const QByteArray& token) {
       {qEnvironmentVariable("XDG_RUNTIME_DIR"), QString::fromStdString(ProgramFolder(executable))},
       token);
   if (copy.IsSecond()) return 0;
-  const Scheme scheme = DesktopScheme();
-  ApplyTheme(*qApp, scheme);
-  Mirror mirror(scheme, Mirror::Timers::Run);
+  DesktopSchemeWatch desktop;
+  ApplyTheme(*qApp, desktop.Now());
+  Mirror mirror(desktop.Now(), Mirror::Timers::Run);
+  desktop.onChanged = [&mirror](Scheme scheme) {
+    ApplyScheme(*qApp, scheme);
+    mirror.SetScheme(scheme);
+  };
   copy.onSecondStart = [&](const QByteArray& given) { BringToFront(mirror, given); };
   QtMessageBoxes boxes(mirror);
   try {

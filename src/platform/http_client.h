@@ -14,7 +14,7 @@ inline constexpr std::size_t kDownloadLimit = std::size_t{1} << 30;   // bytes
 inline constexpr int kTimeoutsInAll = 6;
 
 struct HttpOptions {
-  std::string proxy = {};              // host:port, or empty
+  std::string proxy = {};              // host:port; empty for the desktop's
   int timeout = 5;                     // seconds without a byte received; below 1 counts as 5
   bool isLong = false;                 // goes on for as long as bytes come
   std::size_t limit = kResponseLimit;  // bytes

@@ -1,7 +1,7 @@
 set(run ${BUILD}/tests/demo/run)
 file(REMOVE_RECURSE ${run})
 execute_process(COMMAND ${CMAKE_COMMAND} -E env XDG_DATA_HOME=${run}/settings/data
-                        ${CMAKE_COMMAND} --install ${BUILD} --prefix ${run}
+                        ${CMAKE_COMMAND} --install ${BUILD} --component portable --prefix ${run}
                 OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND ${CMAKE_COMMAND} -E env --unset=DISPLAY --unset=WAYLAND_DISPLAY
                         ${run}/benevix-demo

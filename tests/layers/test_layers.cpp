@@ -46,7 +46,7 @@ const std::vector<Layer> kLayers = {
      {"src/mirror/look/", "src/mirror/page_viewer/", "src/database/"},
      true},
     {"src/mirror/mirror/", {"src/mirror/bindings/"}, true},
-    {"loopback/", {}},
+    {"loopback/", {}, true},
     {"player/",
      {"src/program/", "src/mirror/mirror/", "src/platform/linux/", "src/platform/qt/", "loopback/"},
      true},

@@ -8,10 +8,10 @@ add_dependencies(test_page_viewer benevix_page_viewer page_probe)
 target_compile_definitions(test_page_viewer PRIVATE PAGE_PROBE="$<TARGET_FILE:page_probe>")
 set_target_properties(test_page_viewer PROPERTIES AUTOMOC ON)
 target_link_libraries(test_page_viewer PRIVATE
+  benevix_loopback
   benevix_page_view_host
   GTest::gtest
   OpenSSL::Crypto
-  PkgConfig::HTTPLIB
   Qt6::Test
 )
 gtest_discover_tests(test_page_viewer

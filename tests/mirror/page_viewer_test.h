@@ -12,54 +12,47 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <httplib.h>
+#include <map>
 #include <mutex>
-#include <thread>
 
+#include "loopback/loopback_server.h"
 #include "mirror/page_viewer/page_view_host.h"
 
 namespace benevix {
 
 // A site on the loopback that records the requests.
-template <class Server>
-class Site : public Server {
+class Site {
  public:
-  template <class... Arguments>
-  explicit Site(Arguments... arguments)
-      : Server(arguments...), port_(Server::bind_to_any_port("127.0.0.1")) {
-    Server::set_keep_alive_max_count(1);  // an open connection would hold up the end
-    Server::set_pre_routing_handler([this](const httplib::Request& request, httplib::Response&) {
-      const std::lock_guard lock(mutex_);
-      asked_.push_back(request.target + " " + request.get_header_value("Cookie"));
-      return Server::HandlerResponse::Unhandled;
-    });
-  }
-  ~Site() override {
-    Server::stop();
-    if (thread_.joinable()) thread_.join();
+  Site() : port_(server_.Bind(0)) {}
+  // Before the site opens. A path as it is asked for, without what is behind "?".
+  void Put(const std::string& path, LoopbackServer::Answer answer) {
+    answers_[path] = std::move(answer);
   }
   void Page(const std::string& path, const std::string& html) {
-    Server::Get(path, [html](const httplib::Request&, httplib::Response& response) {
-      response.set_content(html, "text/html");
-    });
+    Put(path, {.contentType = "text/html", .body = html});
   }
   void Open() {
-    thread_ = std::thread([this] { Server::listen_after_bind(); });
-    while (!Server::is_running()) std::this_thread::yield();
+    server_.Start([this](const LoopbackServer::Request& request) {
+      const std::lock_guard lock(mutex_);
+      asked_.push_back(request.target + " " + request.Header("Cookie"));
+      const auto answer = answers_.find(request.target.substr(0, request.target.find('?')));
+      return answer == answers_.end() ? LoopbackServer::Answer{.status = 404} : answer->second;
+    });
   }
   [[nodiscard]] std::string Port() const { return std::to_string(port_); }
   [[nodiscard]] std::string Host() const { return "127.0.0.1:" + Port(); }
-  [[nodiscard]] std::string Home() const { return "http://" + Host() + "/"; }
+  [[nodiscard]] const std::string& Home() const { return server_.Address(); }
   [[nodiscard]] bool WasAsked(const std::string& request) {
     const std::lock_guard lock(mutex_);
     return std::find(asked_.begin(), asked_.end(), request) != asked_.end();
   }
 
  private:
-  int port_;
-  std::thread thread_;
+  std::map<std::string, LoopbackServer::Answer> answers_;
   std::mutex mutex_;
   std::vector<std::string> asked_;
+  LoopbackServer server_;  // last, so that it stops first
+  int port_;
 };
 
 // The page viewer in a window, whose pages can be asked for values.
@@ -132,7 +125,7 @@ class PageViewerTest : public testing::Test {
   }
 
   QTemporaryDir folder_;
-  Site<httplib::Server> site_;
+  Site site_;
   QWidget window_;
   QLabel* hostLine_ = new QLabel;
   QWidget* container_ = new QWidget;

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QRadioButton>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -134,6 +135,31 @@ TEST(LooksTest, EveryLabelHasRoomForItsText) {
   }
 }
 
+// Pictures of all windows, made in the first scheme, after the others.
+std::map<std::string, QImage> PicturesAfter(std::initializer_list<Scheme> schemes) {
+  QApplication::setCursorFlashTime(0);
+  EveryWindow shown(*schemes.begin());
+  for (const Scheme scheme : schemes) {
+    ApplyScheme(*qApp, scheme);
+    shown.mirror.SetScheme(scheme);
+    QTest::qWait(0);
+  }
+  std::map<std::string, QImage> pictures;
+  for (const Desk::Entry& entry : shown.desk.Entries()) {
+    QWidget& window = shown.mirror.BindingOf(*entry.window)->Widget();
+    for (auto* const bar : window.findChildren<QProgressBar*>()) bar->setRange(0, 1);  // no motion
+    pictures[entry.name] = window.grab().toImage();
+  }
+  return pictures;
+}
+
+TEST(LooksTest, ShownWindowsFollowTheDesktopsScheme) {
+  const auto dark = PicturesAfter({Scheme::Dark});
+  for (const auto& [name, picture] : PicturesAfter({Scheme::Light, Scheme::Dark})) {
+    EXPECT_TRUE(picture == dark.at(name)) << name;
+  }
+}
+
 TEST(LooksTest, TheMainWindowKeepsItsArrangement) {
   const QTemporaryDir folder;
   LinuxFiles files;
@@ -149,6 +175,7 @@ TEST(LooksTest, TheMainWindowKeepsItsArrangement) {
   view.setColumnWidth(2, 77);
   view.setColumnHidden(6, false);
   layout.Save(window);
+  EXPECT_EQ(layout.Place(), window.geometry().topLeft());
   view.setColumnWidth(2, 99);
   view.setColumnHidden(6, true);
   EXPECT_EQ(settings.GetString(Root::CurrentUser, kSettingsPath + "\\Window", "Size"),
@@ -157,7 +184,7 @@ TEST(LooksTest, TheMainWindowKeepsItsArrangement) {
   EXPECT_EQ(view.columnWidth(2), 77);
   EXPECT_FALSE(view.isColumnHidden(6));
   for (const char* const damaged : {"", "x", "1,2", "-5,3,0", "99999999999,1,1", "1,1,1,1,1,1,1"}) {
-    for (const char* const name : {"Size", "Splitter", "Columns"}) {
+    for (const char* const name : {"Size", "Splitter", "Columns", "Place"}) {
       settings.SaveString(Root::CurrentUser, kSettingsPath + "\\Window", name, damaged);
     }
     layout.Restore(window);

@@ -20,7 +20,6 @@
 #include "forms/frmBVX.h"
 #include "forms/frmPayOpt.h"
 #include "forms/frmYtdTag.h"
-#include "mirror/look/note_bubble.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
 #include "mirror/mirror/qt_message_boxes.h"
@@ -85,8 +84,7 @@ TEST_F(MirrorTest, PastedTextPassesTheKeyFilterCharacterByCharacter) {
   // What was refused is told at the box once the change is done.
   QTest::qWait(0);
   EXPECT_EQ(main.Text1[2].note, main.Text1[2].takes);
-  const auto& bubble =
-      *edit.window()->findChild<NoteBubble*>(QString(), Qt::FindDirectChildrenOnly);
+  const auto& bubble = *edit.window()->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
   EXPECT_LT(bubble.height(), 2 * bubble.fontMetrics().height());  // a short note is one line
   EXPECT_TRUE(bubble.isVisible() && edit.window()->rect().contains(bubble.geometry()));
   EXPECT_EQ(QAccessible::queryAccessibleInterface(&edit)->text(QAccessible::Description),

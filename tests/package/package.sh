@@ -53,7 +53,7 @@ make_root() {
 # shellcheck source=/dev/null
 . /etc/os-release
 [ "${ID:-}" = debian ] || skip "this is not a Debian system"
-for tool in debootstrap dpkg-shlibdeps file rsvg-convert unshare; do
+for tool in debootstrap dpkg-shlibdeps file unshare; do
   command -v "$tool" >/dev/null || skip "$tool is not installed"
 done
 
@@ -67,6 +67,14 @@ deb=$(ls -t "$folder"/made/*.deb | head -n 1)
 version=$(dpkg-deb -f "$deb" Version)
 [ "$(dpkg-parsechangelog -l "$here/../../packaging/changelog" -S Version)" = "$version" ] ||
   fail "the changelog does not begin with version $version"
+grep -q "<release version=\"$version\"" "$here"/../../packaging/*.metainfo.xml ||
+  fail "the AppStream data do not know version $version"
+if command -v lintian >/dev/null; then
+  # The help is what the program shows; the word stands in a message whose text is fixed.
+  expected=package-contains-documentation-outside-usr-share-doc,spelling-error-in-binary
+  lintian --allow-root --display-info --suppress-tags "$expected" "$deb" >"$log" 2>&1 || true
+  [ ! -s "$log" ] || fail "lintian has findings"
+fi
 
 dependencies="$VERSION_CODENAME: $(dpkg-deb -f "$deb" Depends), ${tools[*]}"
 [ "$(cat "$folder/dependencies" 2>/dev/null)" = "$dependencies" ] || make_root

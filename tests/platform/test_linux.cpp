@@ -11,6 +11,7 @@
 #include "platform/linux/linux_shell.h"
 #include "platform/linux/program_folder.h"
 #include "platform/linux/random_generator.h"
+#include "platform/linux/user_folders.h"
 #include "temp_files.h"
 
 namespace benevix {
@@ -135,6 +136,23 @@ TEST(LinuxShell, CopiesASystemEntryOutsideOfItsFolder) {
                        FilePath(folder / "Desktop"));
   EXPECT_EQ(ReadFile(folder / "Desktop/benevix.desktop"), "entry");
   EXPECT_EQ(access((folder / "Desktop/benevix.desktop").c_str(), X_OK), 0);
+}
+
+TEST(MachineConfigFile, IsTheFirstFoldersThatHasIt) {
+  namespace fs = std::filesystem;
+  const TempFolder folder;
+  const std::string program = folder / "usr/bin/benevix";
+  setenv("XDG_CONFIG_DIRS", ("relative:" + folder / "one:" + folder / "two").c_str(), 1);
+  EXPECT_EQ(MachineConfigFile("a"), folder / "one/benevix/a");
+  EXPECT_EQ(DeploymentFile(program), folder / "usr/share/benevix/deployment.ini");
+  fs::create_directories(folder / "two/benevix");
+  WriteFile(folder / "two/benevix/deployment.ini", "");
+  EXPECT_EQ(DeploymentFile(program), folder / "two/benevix/deployment.ini");
+  // A folder that runs where it stands has its own.
+  fs::create_directories(folder / "usr/bin/Resources");
+  EXPECT_EQ(DeploymentFile(program), folder / "usr/bin/deployment.ini");
+  setenv("XDG_CONFIG_DIRS", "", 1);
+  EXPECT_EQ(MachineConfigFile("no such"), "/etc/xdg/benevix/no such");
 }
 
 TEST(ProgramFolder, IsTheExecutablesFolderWhenItHasWritableResources) {

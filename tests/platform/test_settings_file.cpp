@@ -92,7 +92,7 @@ TEST_F(SettingsFileTest, FailedWritesChangeNothing) {
   std::filesystem::create_directories(file_ + ".lock");
   ASSERT_EQ(Write("Language", "old\0"s), 0);
   LimitFileSize(500);
-  for (const std::size_t length : {1'000, 1'000'000}) {
+  for (const std::size_t length : {1'000U, 1'000'000U}) {
     EXPECT_NE(Write("Language", std::string(length, 'n')), 0);
     EXPECT_EQ(Read("Language"), "1:old\0"s);
   }

@@ -39,10 +39,12 @@ class LabelBinding : public WidgetBinding<Label, QLabel> {
     const QString caption = Drawn(control_.caption);
     widget_.setText(LeadsToABox() ? WithMnemonic(caption, mnemonic_) : WithoutMnemonic(caption));
     colors_.Apply({{QPalette::WindowText, control_.foreColor, Label().foreColor}}, {});
-    // The marked letter is drawn by itself, without the kerning that the toolkit counts on.
+    // The marked letter is drawn by itself, without the kerning that the toolkit counts on. The
+    // label's own hint would count the width that was set before.
     if (LeadsToABox()) {
-      widget_.setMinimumWidth(widget_.sizeHint().width() +
-                              widget_.fontMetrics().averageCharWidth());
+      const QFontMetrics metrics = widget_.fontMetrics();
+      widget_.setMinimumWidth(metrics.size(Qt::TextShowMnemonic, widget_.text()).width() +
+                              metrics.averageCharWidth());
     }
     if (IsPlacedByTheProgram()) Place();
   }

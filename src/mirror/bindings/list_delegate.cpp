@@ -22,8 +22,8 @@ ListModel::Kind KindOf(const QModelIndex& index) {
 
 }  // namespace
 
-ListDelegate::ListDelegate(Scheme scheme, QObject* parent)
-    : QStyledItemDelegate(parent), colors_(ListColorsOf(scheme)) {}
+ListDelegate::ListDelegate(const Scheme& scheme, QObject* parent)
+    : QStyledItemDelegate(parent), scheme_(scheme) {}
 
 void ListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
@@ -34,14 +34,15 @@ void ListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   initStyleOption(&cell, index);
   const bool selected = option.state.testFlag(QStyle::State_Selected);
   const bool given = kind == ListModel::Kind::Given;
+  const ListColors colors = ListColorsOf(scheme_);
   painter->fillRect(option.rect, selected ? option.palette.color(QPalette::Highlight)
-                                 : given  ? colors_.given
+                                 : given  ? colors.given
                                           : option.palette.color(QPalette::Base));
   const auto* const view = qobject_cast<const QTableView*>(option.widget);
   const int first = view != nullptr ? view->columnAt(0) : 0;
   if (given && index.column() == first) {
     painter->fillRect(QRect(option.rect.topLeft(), QSize(kEdge, option.rect.height())),
-                      colors_.edge);
+                      colors.edge);
   }
   painter->setFont(cell.font);
   painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
@@ -80,7 +81,7 @@ void ListDelegate::PaintMarks(QPainter& painter, const QRect& rect, const QStrin
       const int right = metrics.horizontalAdvance(text.first(at + word.size()));
       painter.fillRect(QRect(rect.left() + left, rect.center().y() - metrics.height() / 2,
                              right - left, metrics.height()),
-                       colors_.marked);
+                       ListColorsOf(scheme_).marked);
     }
   }
 }
@@ -90,14 +91,15 @@ void ListDelegate::PaintHeading(QPainter& painter, const QStyleOptionViewItem& o
                                 const QModelIndex& index) const {
   const auto* const view = qobject_cast<const QTableView*>(option.widget);
   const bool selected = option.state.testFlag(QStyle::State_Selected);
+  const ListColors colors = ListColorsOf(scheme_);
   painter.save();
   painter.setClipRect(option.rect);
   painter.fillRect(option.rect,
-                   selected ? option.palette.color(QPalette::Highlight) : colors_.heading);
+                   selected ? option.palette.color(QPalette::Highlight) : colors.heading);
   QStyleOptionViewItem cell = option;
   initStyleOption(&cell, index);
   painter.setFont(cell.font);
-  painter.setPen(selected ? option.palette.color(QPalette::HighlightedText) : colors_.headingText);
+  painter.setPen(selected ? option.palette.color(QPalette::HighlightedText) : colors.headingText);
   const int start = view != nullptr ? view->columnViewportPosition(column::kCountry) : 0;
   const QRect row(start + kInset, option.rect.top(), option.rect.right() - start,
                   option.rect.height());

@@ -13,7 +13,8 @@ namespace benevix {
 // stands out by its ground and a bar at its edge.
 class ListDelegate : public QStyledItemDelegate {
  public:
-  explicit ListDelegate(Scheme scheme, QObject* parent = nullptr);
+  // The scheme may change.
+  explicit ListDelegate(const Scheme& scheme, QObject* parent = nullptr);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
@@ -32,7 +33,7 @@ class ListDelegate : public QStyledItemDelegate {
   // Puts a ground below the marked words of a text that is drawn from `rect`'s left side.
   void PaintMarks(QPainter& painter, const QRect& rect, const QString& text) const;
 
-  ListColors colors_;
+  const Scheme& scheme_;
   QStringList marked_;
 };
 

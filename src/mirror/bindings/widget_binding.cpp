@@ -15,6 +15,11 @@ void ApplyCommon(const Control& control, QWidget& widget) {
 }
 
 void ControlColors::Apply(std::initializer_list<Part> texts, std::initializer_list<Part> grounds) {
+  if (shown_ != scheme_) {
+    shown_ = scheme_;
+    widget_.setPalette({});
+    theme_ = widget_.palette();
+  }
   QPalette palette = theme_;
   for (const auto& [role, color, design] : texts) {
     if (color == design) continue;

@@ -57,16 +57,18 @@ class ControlColors {
     Color design;  // leaves the theme's colour
   };
 
-  ControlColors(QWidget& widget, Scheme scheme)
-      : widget_(widget), theme_(widget.palette()), scheme_(scheme) {}
+  // The scheme may change.
+  ControlColors(QWidget& widget, const Scheme& scheme)
+      : widget_(widget), scheme_(scheme), shown_(scheme), theme_(widget.palette()) {}
 
   // While the widget is disabled its texts keep the theme's colours.
   void Apply(std::initializer_list<Part> texts, std::initializer_list<Part> grounds);
 
  private:
   QWidget& widget_;
-  QPalette theme_;
-  Scheme scheme_;
+  const Scheme& scheme_;
+  Scheme shown_;
+  QPalette theme_;  // of the shown scheme
 };
 
 }  // namespace benevix

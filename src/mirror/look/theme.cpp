@@ -156,7 +156,7 @@ Tone ToneOf(Color role) {
 }  // namespace
 
 Scheme DesktopScheme() {
-  const QString wished = qEnvironmentVariable("BENEVIX_SCHEME");
+  const QString wished = qEnvironmentVariable(kSchemeVariable);
   if (wished == QLatin1String("light")) return Scheme::Light;
   if (wished == QLatin1String("dark")) return Scheme::Dark;
   const bool dark = QApplication::palette().color(QPalette::Window).lightness() < 128;
@@ -166,6 +166,10 @@ Scheme DesktopScheme() {
 void ApplyTheme(QApplication& app, Scheme scheme) {
   InitResources();
   QApplication::setStyle(new ThemeStyle);  // the application owns it
+  ApplyScheme(app, scheme);
+}
+
+void ApplyScheme(QApplication& app, Scheme scheme) {
   QApplication::setPalette(PaletteOf(scheme));
   app.setStyleSheet(SheetOf(scheme, QApplication::font()));
 }

@@ -11,11 +11,16 @@ namespace benevix {
 enum class Scheme { Light, Dark };
 
 // The scheme that the desktop asks for. Reads the application's palette, so it must be called
-// before ApplyTheme. The environment variable BENEVIX_SCHEME (light or dark) overrides it.
+// before ApplyTheme. The environment variable (light or dark) overrides it.
+inline constexpr auto kSchemeVariable = "BENEVIX_SCHEME";
 [[nodiscard]] Scheme DesktopScheme();
 
-// Style, palette and style sheet of all windows. Font sizes follow the application's font.
+// Style, palette and style sheet of all windows. Font sizes follow
+// the application's font.
 void ApplyTheme(QApplication& app, Scheme scheme);
+
+// Another scheme for the theme that is applied.
+void ApplyScheme(QApplication& app, Scheme scheme);
 
 // Amounts in boxes of the look "money" are so much larger than other texts.
 inline constexpr double kMoneyScale = 1.8;

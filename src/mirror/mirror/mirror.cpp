@@ -79,6 +79,13 @@ void Mirror::Detach() {
   SetBusy(false);
 }
 
+void Mirror::SetScheme(Scheme scheme) {
+  scheme_ = scheme;
+  if (desk_ == nullptr) return;
+  context_->scheme = scheme;
+  Sync();
+}
+
 WindowBinding* Mirror::BindingOf(const Window& window) const {
   const auto found = bindings_.find(&window);
   return found == bindings_.end() ? nullptr : found->second;

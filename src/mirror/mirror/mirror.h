@@ -29,6 +29,9 @@ class Mirror : public QObject, public Waits {
   void Attach(Desk& desk, Input& input, const WindowLayout* layout = nullptr);
   void Detach();
 
+  // The desktop asks for another scheme than before, to which the theme has changed already.
+  void SetScheme(Scheme scheme);
+
   // Brings the windows to the front, also when they are minimized, and the one that can be worked
   // in, or the question that waits for an answer, gets the keys.
   void BringToFront();

@@ -191,13 +191,21 @@ void WindowBinding::ShowWindow(QWidget* transientParent, const QWidget* neighbou
     widget_->winId();
     widget_->windowHandle()->setTransientParent(transientParent->windowHandle());
   }
-  PlaceWindow(*widget_, QPoint(window_.left, window_.top) / kTwipsPerPixel, transientParent,
-              neighbour);
+  if (!IsPlacedAgain()) {
+    PlaceWindow(*widget_, QPoint(window_.left, window_.top) / kTwipsPerPixel, transientParent,
+                neighbour);
+  }
   widget_->setAttribute(Qt::WA_ShowWithoutActivating, neighbour != nullptr);
   widget_->show();
   widget_->raise();
   if (neighbour == nullptr) widget_->activateWindow();
   ApplyControls();  // for what depends on the final size
+}
+
+bool WindowBinding::IsPlacedAgain() {
+  if (layout_ == nullptr || qobject_cast<QMainWindow*>(widget_.get()) == nullptr) return false;
+  const auto place = layout_->Place();
+  return place && PlaceAgain(*widget_, *place);
 }
 
 void WindowBinding::ApplyFocus() {

@@ -58,6 +58,8 @@ class WindowBinding : public QObject {
   void ApplyControls();
   void ApplyNote();
   void ApplyWindow();
+  // Whether the user had a place for the window, where it is now.
+  bool IsPlacedAgain();
   void ShowWindow(QWidget* transientParent, const QWidget* neighbour);
   [[nodiscard]] const BoundControl* BoundTo(const QObject* widget) const;
   bool FilterWindow(QEvent& event);

@@ -15,14 +15,14 @@ namespace {
 const std::string kPath = kSettingsPath + "\\Window";
 constexpr int kWidest = 10000;  // pixels of a column or a pane
 
-// The numbers of a saved text, or none when there are not `count` of them from 0 to kWidest.
-QList<int> Numbers(SettingsStore& settings, const char* name, qsizetype count) {
+// The numbers of a saved text, or none when there are not `count` of them from `least` to kWidest.
+QList<int> Numbers(SettingsStore& settings, const char* name, qsizetype count, int least = 0) {
   QList<int> numbers;
   const QString text = ToQString(settings.GetString(Root::CurrentUser, kPath, name));
   for (const QString& word : text.split(QLatin1Char(','))) {
     bool isNumber = false;
     numbers.append(word.toInt(&isNumber));
-    if (!isNumber || numbers.last() < 0 || numbers.last() > kWidest) return {};
+    if (!isNumber || numbers.last() < least || numbers.last() > kWidest) return {};
   }
   return numbers.size() == count ? numbers : QList<int>();
 }
@@ -55,9 +55,16 @@ void WindowLayout::Restore(QMainWindow& window) const {
   }
 }
 
+std::optional<QPoint> WindowLayout::Place() const {
+  // A screen may stand to the left of the first one, or above it.
+  const QList<int> place = Numbers(settings_, "Place", 2, -kWidest);
+  return place.isEmpty() ? std::nullopt : std::optional(QPoint(place[0], place[1]));
+}
+
 void WindowLayout::Save(const QMainWindow& window) const {
-  const QSize size = window.isMaximized() ? window.normalGeometry().size() : window.size();
-  SaveNumbers(settings_, "Size", {size.width(), size.height(), window.isMaximized() ? 1 : 0});
+  const QRect place = window.isMaximized() ? window.normalGeometry() : window.geometry();
+  SaveNumbers(settings_, "Place", {place.x(), place.y()});
+  SaveNumbers(settings_, "Size", {place.width(), place.height(), window.isMaximized() ? 1 : 0});
   if (const auto* const splitter = window.findChild<QSplitter*>()) {
     SaveNumbers(settings_, "Splitter", splitter->sizes());
   }

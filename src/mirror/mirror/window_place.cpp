@@ -1,5 +1,6 @@
 #include "mirror/mirror/window_place.h"
 
+#include <QGuiApplication>
 #include <QLayout>
 #include <QScreen>
 #include <QWidget>
@@ -41,6 +42,15 @@ QRect Beside(QSize size, const QRect& neighbour, const QRect& screen) {
     place.moveBottomRight(neighbour.bottomLeft() - QPoint(1 + kGap, 0));
   }
   return Inside(place, screen);
+}
+
+bool PlaceAgain(QWidget& window, QPoint place) {
+  const QScreen* const screen = QGuiApplication::screenAt(place);
+  if (screen == nullptr) return false;
+  if (!window.isMaximized()) {
+    window.setGeometry(Inside(QRect(place, window.size()), screen->availableGeometry()));
+  }
+  return true;
 }
 
 void PlaceWindow(QWidget& window, QPoint place, const QWidget* parent, const QWidget* neighbour) {

@@ -11,6 +11,11 @@ namespace benevix {
 // parent or, without one, of the screen. A maximized window is left to the desktop.
 void PlaceWindow(QWidget& window, QPoint place, const QWidget* parent, const QWidget* neighbour);
 
+// Places a window that is about to be shown where it stood before: `place` is the corner of what
+// the frame surrounds, which desktops keep more exactly than the frame's. Gives false when that
+// place is on no screen any more.
+[[nodiscard]] bool PlaceAgain(QWidget& window, QPoint place);
+
 // The largest size of a window that is about to be shown, so that it and its frame fit into the
 // free area of the screen.
 [[nodiscard]] QSize RoomOnScreen(const QWidget& window);

@@ -7,9 +7,13 @@
 #include <QWebEngineFileSystemAccessRequest>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineProfile>
-#include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineSettings>
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+#include <QWebEnginePermission>
+#else
+#include <QWebEngineQuotaRequest>
+#endif
 
 #include "mirror/page_viewer/text_file_scheme.h"
 
@@ -44,6 +48,22 @@ void Confine(QWebEngineSettings& settings) {
   settings.setDefaultTextEncoding("windows-1252");
 }
 
+// Place, camera, notices and the like.
+void RefusePermissions(QWebEnginePage& page) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+  QObject::connect(&page, &QWebEnginePage::permissionRequested, &page,
+                   [](QWebEnginePermission permission) { permission.deny(); });
+#else
+  QObject::connect(&page, &QWebEnginePage::featurePermissionRequested, &page,
+                   [&page](const QUrl& origin, QWebEnginePage::Feature feature) {
+                     page.setFeaturePermission(origin, feature,
+                                               QWebEnginePage::PermissionDeniedByUser);
+                   });
+  QObject::connect(&page, &QWebEnginePage::quotaRequested, &page,
+                   [](QWebEngineQuotaRequest request) { request.reject(); });
+#endif
+}
+
 bool IsWeb(const QUrl& url) {
   return url.scheme() == "http" || url.scheme() == "https";
 }
@@ -61,11 +81,7 @@ GuardedPage::GuardedPage(QWebEngineProfile* profile, QObject* parent)
     if (!request.isUserInitiated()) return;
     if (acceptNavigationRequest(to, NavigationTypeLinkClicked, true)) setUrl(to);
   });
-  connect(this, &QWebEnginePage::featurePermissionRequested, this,
-          [this](const QUrl& origin, QWebEnginePage::Feature feature) {
-            setFeaturePermission(origin, feature, PermissionDeniedByUser);
-          });
-  connect(this, &QWebEnginePage::quotaRequested, this, [](auto request) { request.reject(); });
+  RefusePermissions(*this);
   connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
           [](auto request) { request.reject(); });
   connect(this, &QWebEnginePage::fileSystemAccessRequested, this,

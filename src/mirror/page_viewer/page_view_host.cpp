@@ -19,10 +19,9 @@ namespace {
 
 // Null when the plug-in is missing or does not fit the program.
 PageViewFactory* LoadFactory() {
-  QStringList folders = QCoreApplication::libraryPaths();
-  folders.prepend(QCoreApplication::applicationDirPath() + "/plugins");
-  for (const QString& folder : folders) {
-    QPluginLoader loader(folder + "/benevix_page_viewer");
+  const QString program = QCoreApplication::applicationDirPath();
+  for (const char* folder : {"plugins", BENEVIX_PLUGIN_FOLDER}) {
+    QPluginLoader loader(program + '/' + folder + "/benevix_page_viewer");
     if (auto* factory = qobject_cast<PageViewFactory*>(loader.instance())) return factory;
   }
   return nullptr;

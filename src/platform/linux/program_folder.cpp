@@ -28,7 +28,16 @@ std::string InstalledFolder(const std::string& executable) {
   const fs::path own = fs::path(executable).parent_path();
   std::error_code ignored;
   if (fs::exists(own / "Resources", ignored)) return own.string();
-  return (own.parent_path() / "share/benevix").string();
+  return (own / BENEVIX_DATA_FOLDER).lexically_normal().string();
+}
+
+std::string DeploymentFile(const std::string& executable) {
+  const std::string name = "deployment.ini";
+  const std::string installed = InstalledFolder(executable);
+  const std::string machines = MachineConfigFile(name);
+  const bool standsAlone = fs::path(executable).parent_path() == installed;
+  std::error_code ignored;
+  return standsAlone || !fs::exists(machines, ignored) ? installed + '/' + name : machines;
 }
 
 std::string ProgramFolder(const std::string& executable) {

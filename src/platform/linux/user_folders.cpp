@@ -1,12 +1,16 @@
 #include "platform/linux/user_folders.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <pwd.h>
 #include <sstream>
 #include <unistd.h>
 
 namespace benevix {
 namespace {
+
+constexpr auto kProgram = "/benevix/";
 
 std::string AbsoluteVariable(const char* name) {
   const char* const value = std::getenv(name);
@@ -18,6 +22,21 @@ std::string AbsoluteVariable(const char* name) {
 std::string FolderOr(const char* variable, const char* belowHome) {
   const std::string path = AbsoluteVariable(variable);
   return path.empty() ? HomeFolder() + belowHome : path;
+}
+
+std::vector<std::string> AbsolutePaths(const std::string& list) {
+  std::vector<std::string> paths;
+  std::istringstream rest(list);
+  for (std::string path; std::getline(rest, path, ':');) {
+    if (path.starts_with('/')) paths.push_back(path);
+  }
+  return paths;
+}
+
+std::vector<std::string> FoldersOr(const char* variable, const char* standard) {
+  const char* const value = std::getenv(variable);
+  const std::vector<std::string> folders = AbsolutePaths(value != nullptr ? value : "");
+  return folders.empty() ? AbsolutePaths(standard) : folders;
 }
 
 }  // namespace
@@ -37,14 +56,21 @@ std::string ConfigFolder() {
 }
 
 std::vector<std::string> SystemDataFolders() {
-  const char* const value = std::getenv("XDG_DATA_DIRS");
-  std::istringstream paths(value != nullptr && *value != '\0' ? value
-                                                              : "/usr/local/share:/usr/share");
-  std::vector<std::string> folders;
-  for (std::string path; std::getline(paths, path, ':');) {
-    if (path.starts_with('/')) folders.push_back(path);
-  }
-  return folders;
+  return FoldersOr("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
+}
+
+std::string UserConfigFile(const std::string& name) {
+  return ConfigFolder() + kProgram + name;
+}
+
+std::string MachineConfigFile(const std::string& name) {
+  const std::vector<std::string> folders = FoldersOr("XDG_CONFIG_DIRS", "/etc/xdg");
+  const auto has = [&name](const std::string& folder) {
+    std::error_code ignored;
+    return std::filesystem::exists(folder + kProgram + name, ignored);
+  };
+  const auto found = std::find_if(folders.begin(), folders.end(), has);
+  return (found == folders.end() ? folders.front() : *found) + kProgram + name;
 }
 
 }  // namespace benevix

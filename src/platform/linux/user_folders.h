@@ -16,4 +16,11 @@ std::string ConfigFolder();  // $XDG_CONFIG_HOME, ~/.config
 // /usr/share.
 std::vector<std::string> SystemDataFolders();
 
+// The program's configuration file of this name, benevix/NAME: the user's, and the one in the first
+// of the machine's folders ($XDG_CONFIG_DIRS, or /etc/xdg) that has it. Where none has it, the
+// machine's is in the first folder.
+std::string UserConfigFile(const std::string& name);
+std::string MachineConfigFile(const std::string& name);
+inline constexpr auto kSettingsName = "benevix.conf";
+
 }  // namespace benevix

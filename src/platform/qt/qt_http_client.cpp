@@ -1,6 +1,7 @@
 #include "platform/qt/qt_http_client.h"
 
 #include <QEventLoop>
+#include <QHostAddress>
 #include <QNetworkAccessManager>
 #include <QNetworkProxy>
 #include <QNetworkReply>
@@ -83,8 +84,16 @@ std::string CodePage(const QString& text) {
   throw RuntimeError(CodePage(url.host()) + ": " + reason);
 }
 
-QNetworkProxy Proxy(const std::string& proxy) {
-  if (proxy.empty()) return QNetworkProxy::NoProxy;
+// The desktop's, as the toolkit finds it. Nobody reaches this machine through a proxy.
+QNetworkProxy DesktopsProxy(const QUrl& url) {
+  const QString host = url.host();
+  if (host == "localhost" || QHostAddress(host).isLoopback()) return QNetworkProxy::NoProxy;
+  return QNetworkProxyFactory::systemProxyForQuery(QNetworkProxyQuery(url))
+      .value(0, QNetworkProxy::NoProxy);
+}
+
+QNetworkProxy Proxy(const std::string& proxy, const QUrl& url) {
+  if (proxy.empty()) return DesktopsProxy(url);
   const QString text = QString::fromStdString(ToUtf8(proxy));
   const qsizetype colon = text.lastIndexOf(u':');
   bool isNumber = false;
@@ -201,7 +210,6 @@ Response Get(const QUrl& url, const QNetworkProxy& proxy, const HttpOptions& opt
 
 std::string QtHttpClient::OpenURL(const std::string& address, const HttpOptions& options) {
   QUrl url = WireUrl(address);
-  const QNetworkProxy proxy = Proxy(options.proxy);
   const WaitScope wait(waits_);
   Stop stop;
   const CancelScope cancellable(cancel_, stop);
@@ -218,7 +226,7 @@ std::string QtHttpClient::OpenURL(const std::string& address, const HttpOptions&
   if (!options.isLong) patience.start(longest);
   for (int redirects = 0; redirects <= kMaxRedirects; ++redirects) {
     if (options.onAddress) options.onAddress(url.toEncoded().toStdString());
-    Response response = Get(url, proxy, options, stop);
+    Response response = Get(url, Proxy(options.proxy, url), options, stop);
     if (response.redirect.isEmpty()) {
       constexpr int ok = 200;
       if (options.needsOk && response.status != ok) return {};

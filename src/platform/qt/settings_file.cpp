@@ -1,7 +1,6 @@
 #include "platform/qt/settings_file.h"
 
 #include <QDir>
-#include <QStandardPaths>
 
 #include "base/runtime_error.h"
 #include "base/text.h"
@@ -14,7 +13,6 @@ namespace {
 constexpr ResultCode kSuccess = 0;
 // A write takes milliseconds; who holds the lock for longer has been stopped.
 constexpr std::chrono::seconds kLockPatience{2};
-constexpr auto kFileName = "/benevix/benevix.conf";
 
 std::string FolderOf(const std::string& file) {
   return PathOf(file).parent_path().string();
@@ -171,17 +169,6 @@ ResultCode SettingsFile::Change(Root root, const std::function<bool(SettingsText
   } catch (const RuntimeError&) {
     return kFailed;
   }
-}
-
-std::string SettingsFile::DefaultUserFile() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-  return folder.toStdString() + kFileName;
-}
-
-std::string SettingsFile::DefaultMachineFile() {
-  // The first folder is the user's, then follow the machine's by preference.
-  const auto folders = QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
-  return folders.value(1, QStringLiteral("/etc/xdg")).toStdString() + kFileName;
 }
 
 }  // namespace benevix

@@ -32,10 +32,6 @@ class SettingsFile : public Registry {
   ResultCode ChangeValues(Root root, const std::string& path,
                           const std::function<void(RegistryValues&)>& change) override;
 
-  // benevix/benevix.conf in the user's and in the first of the machine's configuration folders.
-  static std::string DefaultUserFile();
-  static std::string DefaultMachineFile();
-
  private:
   class Key;
 
