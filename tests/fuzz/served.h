@@ -24,6 +24,7 @@ struct Served : HttpClient, Waits {
   std::string OpenURL(const std::string& /*address*/, const HttpOptions& /*options*/) override {
     return answer;
   }
+  void Cancel() override {}
   void Begin() override {}
   void End() override {}
   void DoEvents() override {}
@@ -48,7 +49,7 @@ struct Served : HttpClient, Waits {
                           world.clock, world.random,   world.shell, world.files, world.printer};
   ServerFiles server{environment, main, rates, run};
   Messages messages{boxes, world.info, run};
-  InformationViewer viewer{info, desk, *this};
+  InformationViewer viewer{info, desk, messages, environment};
 };
 
 }  // namespace benevix
