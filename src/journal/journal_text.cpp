@@ -182,7 +182,9 @@ std::string BaseLine(const std::string& time, const SessionFields& fields, const
 std::string StepLine(const Step& step) {
   JournalLine line("step");
   line << step.time << step.name;
-  for (const FieldChange& change : step.fields) line.AddField(change.field, change.after);
+  for (const FieldChange& change : step.fields) {
+    if (change.before != change.after) line.AddField(change.field, change.after);
+  }
   for (const RowChange& change : step.rows) {
     if (change.after) {
       line << std::pair<const int, RowState>(change.row, *change.after);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <ranges>
-#include <utility>
 
 #include "journal/step_name.h"
 
@@ -49,9 +48,22 @@ void Timeline::Amend(const SessionFields& fields) {
   for (FieldChange& change : Difference(fields_, fields)) {
     // What was undone was done with the other choice: a donation in the other fee mode.
     if (KindOf(change.field) == FieldKind::Choice) steps_.resize(done_);
+    AmendUndone(change);
     if (done_ > 0) Add(steps_[done_ - 1].later, std::move(change));
   }
   fields_ = fields;
+}
+
+void Timeline::AmendUndone(const FieldChange& amended) {
+  for (std::size_t step = done_; step < steps_.size(); ++step) {
+    for (auto* changes : {&steps_[step].fields, &steps_[step].later}) {
+      const auto change = std::ranges::find(*changes, amended.field, &FieldChange::field);
+      if (change == changes->end()) continue;
+      // Also where the step then changes nothing: the field may be amended again.
+      change->before = amended.after;
+      return;
+    }
+  }
 }
 
 void Timeline::Undo() {
@@ -63,12 +75,9 @@ void Timeline::Undo() {
 }
 
 void Timeline::Redo() {
-  Step& step = steps_[done_++];
-  // What changed since the undo without being a step is what stands before this one now.
-  for (auto* changes : {&step.fields, &step.later}) {
-    for (FieldChange& change : *changes) {
-      change.before = std::exchange(fields_[change.field], change.after);
-    }
+  const Step& step = steps_[done_++];
+  for (const auto* changes : {&step.fields, &step.later}) {
+    for (const FieldChange& change : *changes) fields_[change.field] = change.after;
   }
   for (const RowChange& change : step.rows) SetRow(change.row, change.after);
 }

@@ -82,6 +82,8 @@ class Timeline {
   void Renumber(const std::map<int, int>& rows);
 
  private:
+  // The first undone step that changes the field will change it from its amended value.
+  void AmendUndone(const FieldChange& amended);
   void SetRow(int row, const std::optional<RowState>& state);
 
   std::string time_;
