@@ -43,6 +43,7 @@ class Donor {
   void Enter() {
     Check(input_.Click(forms_.Get<frmSplash>().Image2[0]), "enter");
     forms_.Get<frmPersInfo>().Text1[contact_field::kCountry].Write("U.S.A.");
+    forms_.Get<frmBVX>().Combo1.text = "Ann Lee";
     Type(forms_.Get<frmBVX>().Text1[0], kBudget);
     Check(input_.Choose(forms_.Get<frmPayOpt>().Option1[payment::kCreditCard]), "choose a payment");
     Check(input_.Click(forms_.Get<frmPayOpt>().Command1[0]), "confirm the payment");
