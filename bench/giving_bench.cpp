@@ -43,13 +43,13 @@ void MakeHistory(const std::filesystem::path& file, int sessions) {
   const auto upTo = [&](unsigned most) { return static_cast<int>(random() % (most + 1)); };
   std::array<char, 256> line{};
   for (int session = 0; session < sessions; ++session) {
-    const int year = 2000 + session * years / sessions;
-    const int month = 1 + upTo(11), day = 1 + upTo(27);
+    // In the order of time, as a history is.
+    const int days = static_cast<int>(std::int64_t{session} * years * 336 / sessions);
+    const int year = 2000 + days / 336, month = 1 + days % 336 / 28, day = 1 + days % 28;
     std::snprintf(line.data(), line.size(),
                   "-- %02d-%02d-%04d @ %02d:%02d\r\n             Transaction ID: "
                   "%d.%02d-%d-%d%d%dC - Budget: $500\r\n",
-                  month, day, year, upTo(23), upTo(59), upTo(86399), upTo(99), upTo(999999), year,
-                  month, day);
+                  month, day, year, 12, 0, upTo(86399), upTo(99), upTo(999999), year, month, day);
     out << line.data();
     for (int gift = 0; gift < gifts; ++gift) {
       std::snprintf(line.data(), line.size(),

@@ -17,6 +17,7 @@
 #include "mirror/look/texts.h"
 #include "mirror/mirror/mirror.h"
 #include "mirror/mirror/qt_message_boxes.h"
+#include "player/clicked_boxes.h"
 #include "player/front_end.h"
 #include "player/waiting.h"
 #include "player/widget_properties.h"
@@ -51,11 +52,6 @@ void SendNamedKey(QWidget& widget, const std::string& key) {
   if (!text.isEmpty()) SendCharacter(widget, text[0]);
 }
 
-void ClickAt(QWidget& widget, QPoint position, Qt::MouseButton button = Qt::LeftButton) {
-  QWidget* const top = widget.window();
-  QTest::mouseClick(top->windowHandle(), button, Qt::NoModifier, widget.mapTo(top, position));
-}
-
 // What a click does something to: the kinds that scripts can click.
 bool IsClickable(const NamedControl& control) {
   return control.As<Button>() != nullptr || control.As<OptionButton>() != nullptr ||
@@ -69,42 +65,6 @@ QPoint ClickPoint(const QWidget& widget) {
   const bool marked = widget.inherits("QRadioButton") || widget.inherits("QCheckBox");
   return marked ? QPoint(std::min(10, center.x()), center.y()) : center;
 }
-
-// The box on the screen is answered by its own button.
-class ClickedBoxes : public MessageBoxes {
- public:
-  ClickedBoxes(Waits& waits, BoxAnswers& answers) : real_(waits), answers_(answers) {}
-
-  BoxAnswer Show(const std::string& title, const std::string& text, BoxIcon icon,
-                 BoxButtons buttons) override {
-    const BoxAnswer answer = answers_.Take({title, text, icon, buttons});
-    real_.onShown = [answer](QMessageBox& box) {
-      const auto wanted = answer == BoxAnswer::Yes  ? QMessageBox::Yes
-                          : answer == BoxAnswer::No ? QMessageBox::No
-                                                    : QMessageBox::Ok;
-      if (QAbstractButton* const button = box.button(wanted)) {
-        ClickAt(*button, button->rect().center());
-      }
-    };
-    return real_.Show(title, text, icon, buttons);
-  }
-
-  FilePath AskWhereToSave(const std::string& title, const std::string& name) override {
-    real_.onFileDialogShown = [this](QFileDialog& dialog) {
-      const FilePath file = answers_.TakeFile();
-      if (file.IsEmpty()) return dialog.reject();
-      dialog.findChild<QLineEdit*>()->setText(QString::fromStdString(file.Utf8()));
-      auto* const buttons = dialog.findChild<QDialogButtonBox*>();
-      QAbstractButton* const save = buttons->button(QDialogButtonBox::Save);
-      ClickAt(*save, save->rect().center());
-    };
-    return real_.AskWhereToSave(title, name);
-  }
-
- private:
-  QtMessageBoxes real_;
-  BoxAnswers& answers_;
-};
 
 // The real windows: keys, clicks and menu choices go through the widgets and their windows, and
 // what is checked is read back from them.

@@ -37,6 +37,9 @@ void GivenHistory::ReadAll() {
   const auto middle =
       text.size() < isLong ? std::string_view::npos : text.find("\n-- ", text.size() / 2);
   HistoryReader first(text.data());
+  // Memory that is never touched costs nothing, while growing would copy it all.
+  constexpr std::size_t shortGift = 80;  // bytes of a line
+  first.gifts.reserve(text.size() / shortGift);
   if (middle == std::string_view::npos) {
     first.Read(text.data(), text.data() + text.size());
     Add(std::move(first));
@@ -44,6 +47,7 @@ void GivenHistory::ReadAll() {
   }
   const char* const half = text.data() + middle + 1;
   HistoryReader second(text.data());
+  second.gifts.reserve(text.size() / shortGift / 2);
   const auto reading =
       std::async(std::launch::async, [&] { second.Read(half, text.data() + text.size()); });
   first.Read(text.data(), half);

@@ -1,6 +1,7 @@
 #include "giving/giving_figures.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace benevix {
 namespace {
@@ -79,11 +80,16 @@ GivingFigures FiguresOf(const GivenHistory& history, const DayRange& range,
   }
   std::stable_sort(figures.organizations.begin(), figures.organizations.end(),
                    [](const auto& a, const auto& b) { return a.total > b.total; });
-  std::stable_sort(figures.sessions.begin(), figures.sessions.end(), [&](auto a, auto b) {
+  // As a rule they stand in the order of time.
+  const auto isBefore = [&](std::uint32_t a, std::uint32_t b) {
     const GivenSession &left = sessions[a], &right = sessions[b];
-    return std::tie(right.day, right.hour, right.minute, b) <
-           std::tie(left.day, left.hour, left.minute, a);
-  });
+    return std::tie(left.day, left.hour, left.minute) <
+           std::tie(right.day, right.hour, right.minute);
+  };
+  if (!std::is_sorted(figures.sessions.begin(), figures.sessions.end(), isBefore)) {
+    std::stable_sort(figures.sessions.begin(), figures.sessions.end(), isBefore);
+  }
+  std::reverse(figures.sessions.begin(), figures.sessions.end());
   figures.byYear = periods.AreYears();
   figures.periods = periods.Take();
   return figures;

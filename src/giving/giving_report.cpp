@@ -153,13 +153,16 @@ void GivingReport::ShowFigures() {
 }
 
 void GivingReport::ShowGoal() {
-  const TypedAmount goal = ReadAmount(window_.Goal.text);
-  const auto given =
-      FiguresOf(report_->history, WholeYear(ThisYear()), [this](std::string_view transaction) {
-        return StateOf(report_->states, transaction);
-      }).given;
+  const Currency goal = Currency::FromDouble(ReadAmount(window_.Goal.text).number.value_or(0));
+  Currency given;
+  if (goal > Currency()) {
+    given =
+        FiguresOf(report_->history, WholeYear(ThisYear()), [this](std::string_view transaction) {
+          return StateOf(report_->states, transaction);
+        }).given;
+  }
   window_.GoalTitle.caption = "My goal for " + std::to_string(ThisYear());
-  benevix::ShowGoal(window_.GoalUse, given, Currency::FromDouble(goal.number.value_or(0)));
+  benevix::ShowGoal(window_.GoalUse, given, goal);
 }
 
 void GivingReport::Goal_KeyUp(const EventArgs& args) {
