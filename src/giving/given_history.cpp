@@ -9,6 +9,12 @@
 #include "giving/history_reader.h"
 
 namespace benevix {
+namespace {
+
+// Memory that is never touched costs nothing, while growing would copy all of it.
+constexpr std::size_t kShortGift = 80;  // bytes of a line
+
+}  // namespace
 
 GivenHistory::GivenHistory(const Files& files, const FilePath& file) {
   if (!files.Exists(file)) return;
@@ -17,43 +23,34 @@ GivenHistory::GivenHistory(const Files& files, const FilePath& file) {
     throw RuntimeError(FromUtf8(file.Utf8()) + ": too large");
   }
   bytes_.resize(reader->Size());
-  std::size_t size = 0;
-  while (size < bytes_.size()) {
-    const std::size_t count = reader->Read(bytes_.data() + size, bytes_.size() - size);
-    if (count == 0) break;
-    size += count;
-  }
-  bytes_.resize(size);
-  ReadAll();
+  std::size_t loaded = 0;
+  const auto load = [&](std::size_t end) {
+    for (std::size_t count = 1; count > 0 && loaded < end; loaded += count) {
+      count = reader->Read(bytes_.data() + loaded, end - loaded);
+    }
+  };
+  constexpr std::size_t isLong = std::size_t{1} << 20;  // worth a second thread
+  load(bytes_.size() < isLong ? 0 : bytes_.size() / 2);
+  // While the second half is loaded the records of the first one are read.
+  const auto end = std::string_view(bytes_.data(), loaded).rfind("\n-- ");
+  const std::size_t half = end == std::string_view::npos ? 0 : end + 1;
+  HistoryReader first(bytes_.data()), second(bytes_.data());
+  first.gifts.reserve(bytes_.size() / kShortGift);
+  second.gifts.reserve((bytes_.size() - half) / kShortGift);
+  const auto reading = std::async(half == 0 ? std::launch::deferred : std::launch::async,
+                                  [&] { first.Read(bytes_.data(), bytes_.data() + half); });
+  load(bytes_.size());
+  second.Read(bytes_.data() + half, bytes_.data() + loaded);
+  reading.wait();
+  bytes_.resize(loaded);
+  Add(std::move(first));
+  Add(std::move(second));
 }
 
 GivenHistory::GivenHistory(std::string_view records) : bytes_(records.begin(), records.end()) {
-  ReadAll();
-}
-
-void GivenHistory::ReadAll() {
-  constexpr std::size_t isLong = std::size_t{1} << 20;  // worth a second thread
-  const std::string_view text(bytes_.data(), bytes_.size());
-  const auto middle =
-      text.size() < isLong ? std::string_view::npos : text.find("\n-- ", text.size() / 2);
-  HistoryReader first(text.data());
-  // Memory that is never touched costs nothing, while growing would copy it all.
-  constexpr std::size_t shortGift = 80;  // bytes of a line
-  first.gifts.reserve(text.size() / shortGift);
-  if (middle == std::string_view::npos) {
-    first.Read(text.data(), text.data() + text.size());
-    Add(std::move(first));
-    return;
-  }
-  const char* const half = text.data() + middle + 1;
-  HistoryReader second(text.data());
-  second.gifts.reserve(text.size() / shortGift / 2);
-  const auto reading =
-      std::async(std::launch::async, [&] { second.Read(half, text.data() + text.size()); });
-  first.Read(text.data(), half);
-  reading.wait();
-  Add(std::move(first));
-  Add(std::move(second));
+  HistoryReader all(bytes_.data());
+  all.Read(bytes_.data(), bytes_.data() + bytes_.size());
+  Add(std::move(all));
 }
 
 void GivenHistory::Add(HistoryReader&& part) {
@@ -67,7 +64,7 @@ void GivenHistory::Add(HistoryReader&& part) {
     sessions_.push_back(session);
   }
   unread_ += part.unread;
-  if (before == 0) {
+  if (before == 0 && names_.size() == part.names.size()) {
     gifts_ = std::move(part.gifts);  // whose indexes are the same here
     return;
   }

@@ -77,7 +77,6 @@ class GivenHistory {
   [[nodiscard]] GiftTexts TextsOf(const Gift& gift) const;
 
  private:
-  void ReadAll();
   // Puts what a reader has found behind what is there.
   void Add(HistoryReader&& part);
 
