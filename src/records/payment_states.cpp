@@ -1,5 +1,6 @@
 #include "records/payment_states.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -53,17 +54,15 @@ TransactionStates ReadPaymentStates(const Environment& environment) {
 }
 
 bool PaymentStates::Set(const std::string& transaction, PaymentState state) {
-  for (const auto& [word, meaning] : kWords) {
-    if (meaning != state) continue;
-    try {
-      environment_.files.Append(FileOf(environment_),
-                                transaction + " " + std::string(word) + "\r\n");
-    } catch (const RuntimeError& error) {
-      messages_.Show("Whether the session " + transaction + " was paid could not be noted.\r\n" +
-                         std::string(error.what()),
-                     BoxIcon::Critical);
-      return false;
-    }
+  const auto* const word = std::ranges::find(kWords, state, &Word::second);
+  try {
+    environment_.files.Append(FileOf(environment_),
+                              transaction + " " + std::string(word->first) + "\r\n");
+  } catch (const RuntimeError& error) {
+    messages_.Show("Whether the session " + transaction + " was paid could not be noted.\r\n" +
+                       std::string(error.what()),
+                   BoxIcon::Critical);
+    return false;
   }
   return true;
 }
