@@ -69,7 +69,7 @@ struct frmReport : Window {
   Label SessionsTitle{"Sessions", {}, "Content"};
   Table Sessions{"A click, or Enter, shows a session's gifts",
                  {{"Date", false, 10},
-                  {"Transaction", false, 23},
+                  {"Transaction", false, 17},
                   {"Organizations", false, 30},
                   {"Given", true, 9},
                   {"Fees", true, 7},

@@ -186,14 +186,15 @@ void WindowBinding::ShowWindow(QWidget* transientParent, const QWidget* neighbou
   // Some desktops give the keys to every new window that may have them.
   widget_->setWindowFlag(Qt::WindowDoesNotAcceptFocus, neighbour != nullptr);
   widget_->setWindowModality(entry.modal ? Qt::ApplicationModal : Qt::NonModal);
+  // Before the window is made, so that the place is that of its frame.
+  if (!IsPlacedAgain()) {
+    PlaceWindow(*widget_, QPoint(window_.left, window_.top) / kTwipsPerPixel, transientParent,
+                neighbour);
+  }
   if (transientParent != nullptr) {
     // So it stays above its parent, and can be used while the parent is modal.
     widget_->winId();
     widget_->windowHandle()->setTransientParent(transientParent->windowHandle());
-  }
-  if (!IsPlacedAgain()) {
-    PlaceWindow(*widget_, QPoint(window_.left, window_.top) / kTwipsPerPixel, transientParent,
-                neighbour);
   }
   widget_->setAttribute(Qt::WA_ShowWithoutActivating, neighbour != nullptr);
   widget_->show();

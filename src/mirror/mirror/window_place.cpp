@@ -57,6 +57,7 @@ void PlaceWindow(QWidget& window, QPoint place, const QWidget* parent, const QWi
   if (window.isMaximized()) return;
   const QRect screen = (parent != nullptr ? *parent : window).screen()->availableGeometry();
   if (window.layout() != nullptr) window.layout()->activate();  // sets the size that it fixes
+  if (parent != nullptr) window.resize(window.size().boundedTo(RoomOnScreen(*parent)));
   QRect whole(place, window.size().grownBy(FrameOf(parent)));
   if (neighbour != nullptr) {
     const QRect beside(neighbour->mapToGlobal(QPoint()), neighbour->size());

@@ -8,7 +8,8 @@ namespace benevix {
 
 // Places a window that is about to be shown inside the free area of its screen: beside the
 // neighbour, if there is one; else at `place`, if that is not null; else over the middle of its
-// parent or, without one, of the screen. A maximized window is left to the desktop.
+// parent or, without one, of the screen. One with a parent is made no larger than the screen. A
+// maximized window is left to the desktop.
 void PlaceWindow(QWidget& window, QPoint place, const QWidget* parent, const QWidget* neighbour);
 
 // Places a window that is about to be shown where it stood before: `place` is the corner of what
