@@ -5,6 +5,7 @@
 
 #include "benevix/machine.h"
 #include "program/program.h"
+#include "quiet.h"
 #include "stopwatch.h"
 
 namespace benevix {
@@ -12,24 +13,6 @@ namespace {
 
 constexpr int kRuns = 301;
 constexpr auto kBudget = "9000";
-
-class NoWaits : public Waits {
- public:
-  void Begin() override {}
-  void End() override {}
-  void DoEvents() override {}
-};
-
-class NoBoxes : public MessageBoxes {
- public:
-  BoxAnswer Show(const std::string& /*title*/, const std::string& text, BoxIcon /*icon*/,
-                 BoxButtons /*buttons*/) override {
-    throw std::runtime_error("an unexpected message: " + text);
-  }
-  FilePath AskWhereToSave(const std::string& /*title*/, const std::string& /*name*/) override {
-    return {};
-  }
-};
 
 void Check(bool done, const char* action) {
   if (!done) throw std::runtime_error(std::string("failed: ") + action);

@@ -12,19 +12,16 @@
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
 #include "program/program.h"
+#include "quiet.h"
 #include "stopwatch.h"
 
 namespace benevix {
 namespace {
 
 // Saves where it is told, and is asked nothing else.
-class GivenFile : public MessageBoxes {
+class GivenFile : public NoBoxes {
  public:
   explicit GivenFile(std::string file) : file_(std::move(file)) {}
-  BoxAnswer Show(const std::string& /*title*/, const std::string& text, BoxIcon /*icon*/,
-                 BoxButtons /*buttons*/) override {
-    throw std::runtime_error("an unexpected message: " + text);
-  }
   FilePath AskWhereToSave(const std::string& /*title*/, const std::string& /*name*/) override {
     return FilePath(file_);
   }

@@ -16,6 +16,7 @@
 #include "donation_bench.h"
 #include "folder.h"
 #include "giving_bench.h"
+#include "lookup_bench.h"
 #include "make_list.h"
 #include "memory.h"
 #include "platform/linux/linux_files.h"
@@ -30,7 +31,8 @@ namespace fs = std::filesystem;
 constexpr int kOrganizations = 2'000'000;
 constexpr int kCountries = 250;
 constexpr int kGiven = 1000;
-constexpr int kGivenInBoth = 400;   // the shipped list has hardly more organizations
+constexpr int kGivenInBoth = 400;  // the shipped list has hardly more organizations
+constexpr int kFavorites = 5000;
 constexpr int kSessions = 100'000;  // of the history, with ten gifts each
 constexpr int kRuns = 9;
 constexpr int kNothingFound = 1;  // the exit status of the search programs
@@ -83,6 +85,13 @@ int Filter(const std::string& file) {
 int TellReport(const std::string& folder) {
   const ReportTimes times = TimeReport(folder);
   std::cout << times.shown << ' ' << times.csv << std::endl;
+  return 0;
+}
+
+// "--favorites FOLDER": the same for the favorites.
+int TellFavorites(const std::string& folder) {
+  const FavoriteTimes times = TimeFavorites(folder, kFavorites);
+  std::cout << times.menu << ' ' << times.added << std::endl;
   return 0;
 }
 
@@ -172,6 +181,33 @@ void BenchFilter(Report& report, const std::string& self, const std::string& lis
   report.Ratio("further letter / 16 ms", Median(further) / 16, 1);
 }
 
+void BenchLookups(Report& report, const std::string& self, const fs::path& folder) {
+  const fs::path table = folder / "Resources" / "ytd.dat";
+  MakeTable(table, kOrganizations);
+  const TableTimes amounts = TimeYearToDate(folder.string(), kOrganizations);
+  const double count = TimeToEnd({"wc", "-l", table.string()});
+  report.Title("Year-to-date amounts of a row, " + std::to_string(kOrganizations) + " records");
+  report.Line("the table", static_cast<double>(fs::file_size(table)) / kMegabyte, "MB");
+  report.Line("indexed, once", amounts.indexed, "ms");
+  report.Line("a row's amounts", amounts.row, "ms");
+  report.Line("wc -l", count, "ms");
+  report.Line("indexed / wc -l", amounts.indexed / count, "x");
+  report.Ratio("a row's amounts / 20 ms", amounts.row / 20, 1);
+  fs::remove(table);
+
+  std::vector<double> menus;
+  std::vector<double> added;
+  for (int run = 0; run < kRuns; ++run) {
+    const Two times({self, "--favorites", folder.string()});
+    menus.push_back(times.first);
+    added.push_back(times.second);
+  }
+  report.Title(std::to_string(kFavorites) + " favorites, one of them not in the list");
+  report.Line("their menu built", Median(menus), "ms");
+  report.Line("one more added and written", Median(added), "ms");
+  report.Ratio("their menu built / 50 ms", Median(menus) / 50, 1);
+}
+
 void BenchGiving(Report& report, const std::string& self, const fs::path& folder) {
   const fs::path history = folder / "Resources" / "history.dat";
   MakeHistory(history, kSessions);
@@ -257,6 +293,7 @@ Report Bench(const std::string& self, const fs::path& resources) {
   BenchFind(report, self, list.string());
   BenchFilter(report, self, list.string());
   BenchDonations(report, shipped, big);
+  BenchLookups(report, self, big);
   BenchStart(report, fs::path(self).parent_path(), shipped, big,
              static_cast<double>(fs::file_size(list)));
   BenchGiving(report, self, shipped);
@@ -274,6 +311,10 @@ int main(int argc, char** argv) {
     if (argc == 3 && std::string(argv[1]) == "--report") {
       const QApplication app(argc, argv);
       return TellReport(argv[2]);
+    }
+    if (argc == 3 && std::string(argv[1]) == "--favorites") {
+      const QApplication app(argc, argv);
+      return TellFavorites(argv[2]);
     }
     const bool json = argc == 3 && std::string(argv[1]) == "--json";
     if (argc != 1 && !json) throw std::runtime_error("usage: benevix-bench [--json FILE]");

@@ -1,6 +1,5 @@
 #include "database/organization_database.h"
 
-#include <charconv>
 #include <unordered_map>
 
 #include "base/number_text.h"
@@ -65,10 +64,7 @@ std::map<std::string, int> OrganizationDatabase::FindRowsById(
     const std::set<std::string>& ids) const {
   std::unordered_map<std::optional<std::int32_t>, std::string> wanted;
   for (const std::string& id : ids) {
-    std::int32_t number = 0;
-    const auto read = std::from_chars(id.data(), id.data() + id.size(), number);
-    // Only the form in which the list shows an ID.
-    if (read.ec == std::errc() && std::to_string(number) == id) wanted[number] = id;
+    if (const auto number = IdIn(id)) wanted[number] = id;
   }
   return FindFirst(list_.get(), wanted, [this](int row) { return list_->Id(row); });
 }

@@ -1,6 +1,7 @@
 #include "database/organization_list.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -63,6 +64,13 @@ std::optional<float> HeaderVersion(std::string_view line) {
   return ToSingle(Val(line.substr(kListHeader.size())));
 }
 
+std::optional<std::int32_t> IdIn(std::string_view text) {
+  std::int32_t id = 0;
+  const auto read = std::from_chars(text.data(), text.data() + text.size(), id);
+  if (read.ec != std::errc() || std::to_string(id) != text) return std::nullopt;
+  return id;
+}
+
 bool IsListVersion(float version) {
   // Versions count from 1; even one that counts by years stays below.
   constexpr float least = 0, limit = 10'000;
@@ -78,7 +86,7 @@ std::string ListFault(const Files& files, const FilePath& file) {
 }
 
 OrganizationList::OrganizationList(FileReader& file) {
-  const std::size_t size = file.Size();
+  const std::size_t size = file.State().size;
   if (size > std::numeric_limits<std::uint32_t>::max()) {
     damage_ = "too large";
     return;
@@ -94,7 +102,8 @@ OrganizationList::OrganizationList(FileReader& file) {
   bool intact = true;
   std::size_t loaded = 0;
   while (intact && loaded < size) {
-    const std::size_t count = file.Read(bytes_.data() + loaded, std::min(kReadSize, size - loaded));
+    const std::size_t count =
+        file.Read(loaded, bytes_.data() + loaded, std::min(kReadSize, size - loaded));
     if (count == 0) break;
     loaded += count;
     intact = scan.Advance(bytes_.data(), loaded, onLine);

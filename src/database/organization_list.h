@@ -95,6 +95,9 @@ class OrganizationList : public RowSource {
 // How a header line begins.
 inline constexpr std::string_view kListHeader = ";QUORL";
 
+// The ID that the list shows as this text; nothing for another text.
+std::optional<std::int32_t> IdIn(std::string_view text);
+
 // Whether a list can have this version.
 bool IsListVersion(float version);
 

@@ -19,14 +19,15 @@ constexpr std::size_t kShortGift = 80;  // bytes of a line
 GivenHistory::GivenHistory(const Files& files, const FilePath& file) {
   if (!files.Exists(file)) return;
   const auto reader = files.Open(file);
-  if (reader->Size() > std::numeric_limits<std::uint32_t>::max()) {
+  const std::size_t size = reader->State().size;
+  if (size > std::numeric_limits<std::uint32_t>::max()) {
     throw RuntimeError(FromUtf8(file.Utf8()) + ": too large");
   }
-  bytes_.resize(reader->Size());
+  bytes_.resize(size);
   std::size_t loaded = 0;
   const auto load = [&](std::size_t end) {
     for (std::size_t count = 1; count > 0 && loaded < end; loaded += count) {
-      count = reader->Read(bytes_.data() + loaded, end - loaded);
+      count = reader->Read(loaded, bytes_.data() + loaded, end - loaded);
     }
   };
   constexpr std::size_t isLong = std::size_t{1} << 20;  // worth a second thread

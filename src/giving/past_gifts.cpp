@@ -50,7 +50,7 @@ void PastGifts::Read() {
     if (!environment_.files.Exists(file)) return;
     // A short one is there at once.
     constexpr std::size_t isShort = std::size_t{1} << 20;
-    if (environment_.files.Open(file)->Size() < isShort) {
+    if (environment_.files.Open(file)->State().size < isShort) {
       index_ = read();
     } else {
       coming_ = std::async(std::launch::async, read);

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -14,15 +15,23 @@ inline std::filesystem::path PathOf(const std::string& utf8) {
   return {std::u8string(utf8.begin(), utf8.end())};
 }
 
-// Reads a file sequentially.
+// Which file it is and how it stands, as far as the clock of its file system tells: equal only when
+// it was neither replaced nor written in between.
+struct FileState {
+  std::size_t size = 0;  // bytes
+  std::uint64_t device = 0, number = 0;
+  std::int64_t seconds = 0, nanoseconds = 0;  // of its last change
+  friend bool operator==(const FileState&, const FileState&) = default;
+};
+
 class FileReader {
  public:
   virtual ~FileReader() = default;
-  // In bytes, when the file was opened.
-  [[nodiscard]] virtual std::size_t Size() const = 0;
-  // Reads up to `size` bytes and returns their number, 0 at the end of the file. Raises
-  // RuntimeError.
-  virtual std::size_t Read(char* buffer, std::size_t size) = 0;
+  // When the file was opened.
+  [[nodiscard]] virtual const FileState& State() const = 0;
+  // Reads up to `size` bytes from there on and returns their number, 0 at the end of the file.
+  // Several threads may read at once. Raises RuntimeError.
+  virtual std::size_t Read(std::size_t offset, char* buffer, std::size_t size) const = 0;
 };
 
 // A lock held; released by the destructor, and when the process ends in whatever way.

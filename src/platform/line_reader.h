@@ -9,11 +9,12 @@
 
 namespace benevix {
 
-// Reads a file line by line, without holding all of it in memory. Lines end with LF, which is not
-// returned; the last one may have none.
+// Reads a file line by line from an offset on, without holding all of it in memory. Lines end with
+// LF, which is not returned; the last one may have none.
 class LineReader {
  public:
-  explicit LineReader(std::unique_ptr<FileReader> file) : file_(std::move(file)) {}
+  explicit LineReader(std::unique_ptr<FileReader> file, std::size_t offset = 0)
+      : file_(std::move(file)), offset_(offset) {}
 
   // The next line, valid until the next call; nothing at the end. Raises RuntimeError when the file
   // cannot be read.
@@ -42,11 +43,14 @@ class LineReader {
     begin_ = 0;
     const std::size_t size = bytes_.size();
     bytes_.resize(size + chunk);
-    bytes_.resize(size + file_->Read(bytes_.data() + size, chunk));
-    return bytes_.size() > size;
+    const std::size_t count = file_->Read(offset_, bytes_.data() + size, chunk);
+    bytes_.resize(size + count);
+    offset_ += count;
+    return count > 0;
   }
 
   std::unique_ptr<FileReader> file_;
+  std::size_t offset_;  // of the next chunk
   std::string bytes_;
   std::size_t begin_ = 0;
 };

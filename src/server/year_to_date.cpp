@@ -3,6 +3,7 @@
 #include "base/lines.h"
 #include "base/runtime_error.h"
 #include "database/organization_list.h"
+#include "platform/line_reader.h"
 
 namespace benevix {
 
@@ -19,52 +20,39 @@ void YearToDate::DownloadYtd() {
     if (table.empty() || table[0] == '<') return;
     environment_.files.Replace(File(), table + "\r\n");
     run_.YtdState = 1;
+    OpenTable();  // now, so that the first row waits no longer than the others
   } catch (const RuntimeError&) {
     // The program also works without the table.
   }
 }
 
-void YearToDate::ShowYtd() {
-  std::string table;
-  try {
-    table = environment_.files.ReadAll(File());
-  } catch (const RuntimeError&) {
-    return;
+std::unique_ptr<FileReader> YearToDate::OpenTable() {
+  auto file = environment_.files.Open(File());
+  if (file->State() != indexed_) {
+    table_ = YearToDateTable(environment_.files.ReadAll(File()));
+    indexed_ = file->State();
   }
-  // Only CR LF ends a line of the copy; the records in a line end in LF.
-  std::string_view rest = table;
-  while (!rest.empty()) {
-    const auto end = rest.find("\r\n");
-    std::string amounts;
-    const Lookup lookup = FindRecord(rest.substr(0, end), amounts);
-    if (lookup == Lookup::Found) {
-      ShowAmounts(amounts);
-      return SetIndicator(true);
-    }
-    if (lookup == Lookup::Malformed) {
-      run_.YtdState = 2;
-      break;
-    }
-    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 2);
-  }
-  SetIndicator(false);
+  return file;
 }
 
-YearToDate::Lookup YearToDate::FindRecord(std::string_view text, std::string& amounts) const {
-  constexpr std::size_t shortest = 13;  // less than this is not searched
-  const std::string id = main_.ListView1.SelectedText(column::kId);
-  while (text.size() >= shortest) {
-    const std::string_view record = CutField(text, '\n');
-    const auto comma = record.find(',');
-    if (comma == std::string_view::npos) return Lookup::Malformed;
-    if (record.substr(0, comma) != id) continue;
-    amounts = record.substr(comma + 1);
-    return Lookup::Found;
+void YearToDate::ShowYtd() {
+  try {
+    auto file = OpenTable();
+    const auto id = IdIn(main_.ListView1.SelectedText(column::kId));
+    const auto amounts = id ? table_.Find(*id) : std::nullopt;
+    if (amounts) {
+      ShowAmounts(LineReader(std::move(file), *amounts).Next().value_or(""));
+    } else if (table_.IsDamaged()) {
+      run_.YtdState = 2;
+    }
+    SetIndicator(amounts.has_value());
+  } catch (const RuntimeError&) {
+    // A table that cannot be read.
   }
-  return Lookup::NotFound;
 }
 
 void YearToDate::ShowAmounts(std::string_view amounts) {
+  if (amounts.ends_with('\r')) amounts.remove_suffix(1);
   window_.Organization.caption = main_.ListView1.SelectedText(column::kOrganization);
   for (int i = 0; i < 4; ++i) {
     const std::string_view amount = i < 3 ? CutField(amounts, ',') : amounts;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string>
+#include <memory>
 #include <string_view>
 
 #include "controls/desk.h"
@@ -9,6 +9,7 @@
 #include "forms/frmYtdTag.h"
 #include "platform/environment.h"
 #include "server/server_files.h"
+#include "server/year_to_date_table.h"
 
 namespace benevix {
 
@@ -42,10 +43,9 @@ class YearToDate {
   void RemoveYtd();
 
  private:
-  enum class Lookup { Found, NotFound, Malformed };  // malformed: a record without ","
+  // Opens the copy, and indexes it when it is another one. Raises RuntimeError.
+  std::unique_ptr<FileReader> OpenTable();
   void SetIndicator(bool found);
-  // Searches one line of the copy for the selected row; `amounts` receives what follows its ID.
-  [[nodiscard]] Lookup FindRecord(std::string_view text, std::string& amounts) const;
   void ShowAmounts(std::string_view amounts);
   [[nodiscard]] FilePath File() const;
 
@@ -55,6 +55,8 @@ class YearToDate {
   frmBVX& main_;
   frmYtdTag& window_;
   Desk& desk_;
+  YearToDateTable table_;
+  FileState indexed_;  // of the copy, when the table was made from it
 };
 
 }  // namespace benevix

@@ -11,17 +11,16 @@ namespace {
 class Pieces : public FileReader {
  public:
   Pieces(std::string_view text, std::size_t piece)
-      : rest_(text), size_(text.size()), piece_(piece) {}
-  [[nodiscard]] std::size_t Size() const override { return size_; }
-  std::size_t Read(char* buffer, std::size_t size) override {
-    const std::size_t read = rest_.copy(buffer, std::min(size, piece_));
-    rest_.remove_prefix(read);
-    return read;
+      : text_(text), state_{.size = text.size()}, piece_(piece) {}
+  [[nodiscard]] const FileState& State() const override { return state_; }
+  std::size_t Read(std::size_t offset, char* buffer, std::size_t size) const override {
+    return text_.copy(buffer, std::min(size, piece_), offset);
   }
 
  private:
-  std::string_view rest_;
-  std::size_t size_, piece_;
+  std::string_view text_;
+  FileState state_;
+  std::size_t piece_;
 };
 
 }  // namespace

@@ -65,10 +65,11 @@ class OpenFile {
   }
 
   // Reads up to `size` bytes, fewer only at the end of the file; returns their number.
-  std::size_t Read(char* buffer, std::size_t size) const {
+  std::size_t Read(std::size_t offset, char* buffer, std::size_t size) const {
     std::size_t count = 0;
     while (count < size) {
-      const ssize_t result = read(descriptor_, buffer + count, size - count);
+      const ssize_t result =
+          pread(descriptor_, buffer + count, size - count, static_cast<off_t>(offset + count));
       if (result == 0) break;
       if (result < 0 && errno == EINTR) continue;
       if (result < 0) Fail(path_);
@@ -76,9 +77,9 @@ class OpenFile {
     }
     return count;
   }
-  [[nodiscard]] std::string Read(std::size_t size) const {
+  [[nodiscard]] std::string Read(std::size_t offset, std::size_t size) const {
     std::string bytes(size, '\0');
-    bytes.resize(Read(bytes.data(), size));
+    bytes.resize(Read(offset, bytes.data(), size));
     return bytes;
   }
 
@@ -116,16 +117,24 @@ class OpenFile {
   int descriptor_;
 };
 
+FileState StateOf(const OpenFile& file) {
+  const struct stat status = file.Status();
+  return {static_cast<std::size_t>(status.st_size), status.st_dev, status.st_ino,
+          status.st_ctim.tv_sec, status.st_ctim.tv_nsec};
+}
+
 class LinuxFileReader : public FileReader {
  public:
   explicit LinuxFileReader(const std::string& path)
-      : file_(path, O_RDONLY), size_(static_cast<std::size_t>(file_.Status().st_size)) {}
-  [[nodiscard]] std::size_t Size() const override { return size_; }
-  std::size_t Read(char* buffer, std::size_t size) override { return file_.Read(buffer, size); }
+      : file_(path, O_RDONLY), state_(StateOf(file_)) {}
+  [[nodiscard]] const FileState& State() const override { return state_; }
+  std::size_t Read(std::size_t offset, char* buffer, std::size_t size) const override {
+    return file_.Read(offset, buffer, size);
+  }
 
  private:
   OpenFile file_;
-  std::size_t size_;
+  FileState state_;
 };
 
 class LinuxFolderLock : public FolderLock {
@@ -248,9 +257,9 @@ std::unique_ptr<FileReader> LinuxFiles::Open(const FilePath& path) const {
 std::string LinuxFiles::ReadAll(const FilePath& path) const {
   const OpenFile file(path.Utf8(), O_RDONLY);
   const auto size = static_cast<std::size_t>(file.Status().st_size);
-  std::string bytes = file.Read(size + 1);  // the extra byte detects the end in one read
+  std::string bytes = file.Read(0, size + 1);  // the extra byte detects the end in one read
   while (bytes.size() > size) {
-    const std::string more = file.Read(kChunk);
+    const std::string more = file.Read(bytes.size(), kChunk);
     if (more.empty()) break;
     bytes += more;
   }
