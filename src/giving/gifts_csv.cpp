@@ -74,9 +74,8 @@ std::string GiftsCsv(const GivenHistory& history, const DayRange& range,
       csv += begin;
       AddText(csv, history.Organizations()[gift.organization]);
       AddAmount(csv, gift.amount);
-      const GiftTexts texts = history.TextsOf(gift);
-      AddText(csv, texts.from);
-      AddText(csv, texts.delivery);
+      AddText(csv, history.DonorOf(gift));
+      AddText(csv, history.DeliveryOf(gift));
       csv += gift.proof ? ",yes" : ",no";
       csv += gift.certificate ? ",yes" : ",no";
       csv += end;

@@ -1,18 +1,48 @@
 #include "giving/given_history.h"
 
-#include <cstring>
 #include <future>
 #include <limits>
 
+#include "base/lines.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "giving/history_reader.h"
+#include "platform/line_reader.h"
 
 namespace benevix {
 namespace {
 
 // Memory that is never touched costs nothing, while growing would copy all of it.
-constexpr std::size_t kShortGift = 80;  // bytes of a line
+constexpr std::size_t kShortGift = 80, kShortRecord = 160;  // bytes
+
+// Where a record begins near the middle of a long history, so that two threads can read it; the end
+// when there is none.
+std::size_t SecondPart(const FileReader& file, std::size_t size) {
+  constexpr std::size_t isLong = std::size_t{1} << 20, near = std::size_t{1} << 16;
+  if (size < isLong) return size;
+  std::string piece(near, '\0');
+  piece.resize(file.Read(size / 2, piece.data(), near));
+  const auto at = piece.find("\n-- ");
+  return at == std::string::npos ? size : size / 2 + at + 1;
+}
+
+// A thread's reader stands on its own stack, apart from the other one's.
+HistoryReader ReadPart(const Files& files, const FilePath& file, std::size_t begin,
+                       std::size_t end) {
+  HistoryReader records;
+  records.gifts.reserve((end - begin) / kShortGift);
+  records.sessions.reserve((end - begin) / kShortRecord);
+  LineReader lines(files.Open(file), begin, end);
+  while (const auto line = lines.Next()) records.Read(*line);
+  return records;
+}
+
+// The index that each of these has among those.
+std::vector<std::uint32_t> IndexesOf(const Names& these, Names& those) {
+  std::vector<std::uint32_t> indexes;
+  for (const std::string_view text : these.All()) indexes.push_back(those.Of(text));
+  return indexes;
+}
 
 }  // namespace
 
@@ -23,70 +53,41 @@ GivenHistory::GivenHistory(const Files& files, const FilePath& file) {
   if (size > std::numeric_limits<std::uint32_t>::max()) {
     throw RuntimeError(FromUtf8(file.Utf8()) + ": too large");
   }
-  bytes_.resize(size);
-  std::size_t loaded = 0;
-  const auto load = [&](std::size_t end) {
-    for (std::size_t count = 1; count > 0 && loaded < end; loaded += count) {
-      count = reader->Read(loaded, bytes_.data() + loaded, end - loaded);
-    }
-  };
-  constexpr std::size_t isLong = std::size_t{1} << 20;  // worth a second thread
-  load(bytes_.size() < isLong ? 0 : bytes_.size() / 2);
-  // While the second half is loaded the records of the first one are read.
-  const auto end = std::string_view(bytes_.data(), loaded).rfind("\n-- ");
-  const std::size_t half = end == std::string_view::npos ? 0 : end + 1;
-  HistoryReader first(bytes_.data()), second(bytes_.data());
-  first.gifts.reserve(bytes_.size() / kShortGift);
-  second.gifts.reserve((bytes_.size() - half) / kShortGift);
-  const auto reading = std::async(half == 0 ? std::launch::deferred : std::launch::async,
-                                  [&] { first.Read(bytes_.data(), bytes_.data() + half); });
-  load(bytes_.size());
-  second.Read(bytes_.data() + half, bytes_.data() + loaded);
-  reading.wait();
-  bytes_.resize(loaded);
-  Add(std::move(first));
-  Add(std::move(second));
+  const std::size_t middle = SecondPart(*reader, size);
+  auto second = std::async(middle == size ? std::launch::deferred : std::launch::async,
+                           [&] { return ReadPart(files, file, middle, size); });
+  gifts_.reserve(size / kShortGift);
+  sessions_.reserve(size / kShortRecord);
+  Add(ReadPart(files, file, 0, middle));
+  Add(second.get());
 }
 
-GivenHistory::GivenHistory(std::string_view records) : bytes_(records.begin(), records.end()) {
-  HistoryReader all(bytes_.data());
-  all.Read(bytes_.data(), bytes_.data() + bytes_.size());
-  Add(std::move(all));
+GivenHistory::GivenHistory(std::string_view records) {
+  HistoryReader all;
+  for (const std::string_view line : Lines(records)) all.Read(line);
+  Add(all);
 }
 
-void GivenHistory::Add(HistoryReader&& part) {
-  Names index(names_);
-  std::vector<std::uint32_t> indexes;
-  for (const std::string_view name : part.names) indexes.push_back(index.Of(name));
-  const auto before = static_cast<std::uint32_t>(gifts_.size());
+void GivenHistory::Add(const HistoryReader& part) {
+  const auto transactions = static_cast<std::uint32_t>(transactions_.size());
+  const auto gifts = static_cast<std::uint32_t>(gifts_.size());
+  transactions_ += part.transactions;
   for (GivenSession session : part.sessions) {
-    session.firstGift += before;
+    session.transaction += transactions;
+    session.firstGift += gifts;
     if (!session.hasPayment) session.paid = session.given;
     sessions_.push_back(session);
   }
-  unread_ += part.unread;
-  if (before == 0 && names_.size() == part.names.size()) {
-    gifts_ = std::move(part.gifts);  // whose indexes are the same here
-    return;
-  }
-  gifts_.reserve(before + part.gifts.size());
+  const auto organizations = IndexesOf(part.organizations, organizations_);
+  const auto donors = IndexesOf(part.donors, donors_);
+  const auto deliveries = IndexesOf(part.deliveries, deliveries_);
   for (Gift gift : part.gifts) {
-    gift.organization = indexes[gift.organization];
+    gift.organization = organizations[gift.organization];
+    gift.donor = donors[gift.donor];
+    gift.delivery = deliveries[gift.delivery];
     gifts_.push_back(gift);
   }
-}
-
-GiftTexts GivenHistory::TextsOf(const Gift& gift) const {
-  const char* const begin = bytes_.data() + gift.line;
-  const std::size_t left = bytes_.size() - gift.line;
-  const void* const end = std::memchr(begin, '\n', left);
-  std::string_view line(
-      begin,
-      end == nullptr ? left : static_cast<std::size_t>(static_cast<const char*>(end) - begin));
-  if (line.ends_with('\r')) line.remove_suffix(1);
-  GiftTexts texts;
-  texts.Read(line);
-  return texts;
+  unread_ += part.unread;
 }
 
 std::string PaymentMethod(std::string_view transaction) {

@@ -8,6 +8,7 @@
 #include "base/currency.h"
 #include "base/large_memory.h"
 #include "giving/day.h"
+#include "giving/names.h"
 #include "platform/files.h"
 
 namespace benevix {
@@ -16,7 +17,7 @@ namespace benevix {
 struct Gift {
   Currency amount;
   std::uint32_t organization = 0;  // index of Organizations()
-  std::uint32_t line = 0;          // where its line begins
+  std::uint32_t donor = 0, delivery = 0;
   bool proof = false, certificate = false;
 };
 
@@ -28,28 +29,17 @@ struct GivenSession {
   Currency given;                          // the sum of its gifts
   // As recorded; without a payment line what was paid is what was given.
   Currency budget, paid, serviceFee, cardFee;
-  std::uint32_t transaction = 0, transactionSize = 0;  // where the ID stands
+  std::uint32_t transaction = 0, transactionSize = 0;  // see Transaction()
   bool hasPayment = false;
 };
 
 using GiftList = std::vector<Gift, LargeAllocator<Gift>>;
+using SessionList = std::vector<GivenSession, LargeAllocator<GivenSession>>;
 
 class HistoryReader;
 
-// The texts of a gift, as they stand in the history.
-struct GiftTexts {
-  std::string_view name, amountText;
-  std::string_view from, delivery;  // who the donor is said to be, and how the gift is delivered
-  Currency amount;
-  bool proof = false, certificate = false;
-
-  // False for a line, without its indent, that is no gift.
-  bool Read(std::string_view line);
-};
-
-// What the history says, read in one pass over its bytes, which stay in memory: texts are cut from
-// them when they are asked for. A line that is no part of a record, or is damaged, is counted and
-// left out; the rest stands.
+// What the history says, read in one pass; of its bytes nothing stays in memory. A line that is no
+// part of a record, or is damaged, is counted and left out; the rest stands.
 class GivenHistory {
  public:
   GivenHistory() = default;
@@ -57,7 +47,7 @@ class GivenHistory {
   GivenHistory(const Files& files, const FilePath& file);
   // Some of its records.
   explicit GivenHistory(std::string_view records);
-  // Its names are views of its bytes.
+  // Its names are views of its own texts.
   GivenHistory(const GivenHistory&) = delete;
   GivenHistory& operator=(const GivenHistory&) = delete;
   GivenHistory(GivenHistory&&) = default;
@@ -65,25 +55,33 @@ class GivenHistory {
   ~GivenHistory() = default;
 
   // In the order of the file.
-  [[nodiscard]] const std::vector<GivenSession>& Sessions() const { return sessions_; }
+  [[nodiscard]] const SessionList& Sessions() const { return sessions_; }
   [[nodiscard]] const GiftList& Gifts() const { return gifts_; }
   // Their names; one name is one organization, since the history knows no more of it.
-  [[nodiscard]] const std::vector<std::string_view>& Organizations() const { return names_; }
+  [[nodiscard]] const std::vector<std::string_view>& Organizations() const {
+    return organizations_.All();
+  }
+  // Who the donor was said to be, and how the gift was delivered.
+  [[nodiscard]] std::string_view DonorOf(const Gift& gift) const {
+    return donors_.All()[gift.donor];
+  }
+  [[nodiscard]] std::string_view DeliveryOf(const Gift& gift) const {
+    return deliveries_.All()[gift.delivery];
+  }
   [[nodiscard]] int UnreadLines() const { return unread_; }
 
   [[nodiscard]] std::string_view Transaction(const GivenSession& session) const {
-    return {bytes_.data() + session.transaction, session.transactionSize};
+    return std::string_view(transactions_).substr(session.transaction, session.transactionSize);
   }
-  [[nodiscard]] GiftTexts TextsOf(const Gift& gift) const;
 
  private:
   // Puts what a reader has found behind what is there.
-  void Add(HistoryReader&& part);
+  void Add(const HistoryReader& part);
 
-  std::vector<char, LargeAllocator<char>> bytes_;
-  std::vector<GivenSession> sessions_;
+  SessionList sessions_;
   GiftList gifts_;
-  std::vector<std::string_view> names_;
+  std::string transactions_;  // the IDs, one behind the other
+  Names organizations_, donors_, deliveries_;
   int unread_ = 0;
 };
 

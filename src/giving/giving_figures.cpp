@@ -50,7 +50,7 @@ GivingFigures FiguresOf(const GivenHistory& history, const DayRange& range,
   GivingFigures figures;
   Periods periods(range);
   std::vector<OrganizationGifts> organizations(history.Organizations().size());
-  const std::vector<GivenSession>& sessions = history.Sessions();
+  const SessionList& sessions = history.Sessions();
   for (std::uint32_t index = 0; index < sessions.size(); ++index) {
     const GivenSession& session = sessions[index];
     if (!range.Has(session.day)) continue;
@@ -96,7 +96,7 @@ GivingFigures FiguresOf(const GivenHistory& history, const DayRange& range,
 }
 
 std::optional<DayRange> WholeRange(const GivenHistory& history) {
-  const std::vector<GivenSession>& sessions = history.Sessions();
+  const SessionList& sessions = history.Sessions();
   if (sessions.empty()) return std::nullopt;
   const auto [first, last] = std::minmax_element(
       sessions.begin(), sessions.end(), [](const auto& a, const auto& b) { return a.day < b.day; });

@@ -329,10 +329,10 @@ void GivingReport::GiveAgain() {
   std::vector<OptionsRecord> gifts;
   for (std::uint32_t i = session->firstGift; i < session->firstGift + session->gifts; ++i) {
     const Gift& gift = history.Gifts()[i];
-    const GiftTexts texts = history.TextsOf(gift);
-    gifts.push_back({std::string(texts.name), std::string(texts.amountText),
-                     std::string(texts.delivery), std::string(texts.from),
-                     gift.certificate ? "1" : "0", gift.proof ? "1" : "0"});
+    gifts.push_back({std::string(history.Organizations()[gift.organization]),
+                     Format(gift.amount, kAmountPattern), std::string(history.DeliveryOf(gift)),
+                     std::string(history.DonorOf(gift)), gift.certificate ? "1" : "0",
+                     gift.proof ? "1" : "0"});
   }
   const std::string date = DayText(session->day);
   if (others_.giveAgain(date, gifts)) desk_.Unload(window_);

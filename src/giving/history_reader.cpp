@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <cstring>
 
 namespace benevix {
 namespace {
@@ -95,7 +94,15 @@ std::optional<GivenSession> ReadHeading(std::string_view line) {
   return session;
 }
 
-}  // namespace
+// The texts of a gift's line.
+struct GiftTexts {
+  std::string_view name, from, delivery;
+  Currency amount;
+  bool proof = false, certificate = false;
+
+  // False for a line, without its indent, that is no gift.
+  bool Read(std::string_view line);
+};
 
 bool GiftTexts::Read(std::string_view line) {
   if (!Take(line, kOrganization)) return false;
@@ -114,23 +121,18 @@ bool GiftTexts::Read(std::string_view line) {
        at = FindMark(line, kAmount, line.find('$', at), next)) {
     name = line.substr(0, at - kAmount.size());
     from = line.substr(at);
-    amountText = from.substr(0, from.find(' '));
+    const std::string_view amountText = from.substr(0, from.find(' '));
     from.remove_prefix(amountText.size());
     if (Take(from, kFrom) && ReadAmount(amountText, amount)) return true;
   }
   return false;
 }
 
-void HistoryReader::Read(const char* at, const char* end) {
-  while (at < end) {
-    const void* const found = std::memchr(at, '\n', static_cast<std::size_t>(end - at));
-    const char* const next = found == nullptr ? end : static_cast<const char*>(found) + 1;
-    std::string_view line(at, static_cast<std::size_t>(next - at));
-    at = next;
-    TakeLast(line, "\n");
-    TakeLast(line, "\r");
-    if (!ReadLine(line)) ++unread;
-  }
+}  // namespace
+
+void HistoryReader::Read(std::string_view line) {
+  TakeLast(line, "\r");
+  if (!ReadLine(line)) ++unread;
 }
 
 bool HistoryReader::ReadLine(std::string_view line) {
@@ -157,8 +159,8 @@ bool HistoryReader::ReadHeadingLine(std::string_view line) {
 bool HistoryReader::ReadGift(std::string_view line) {
   GiftTexts texts;
   if (!texts.Read(line) || texts.amount < Currency() || !Count(texts.amount)) return false;
-  gifts.push_back(
-      {texts.amount, index_.Of(texts.name), PlaceOf(line), texts.proof, texts.certificate});
+  gifts.push_back({texts.amount, organizations.Of(texts.name), donors.Of(texts.from),
+                   deliveries.Of(texts.delivery), texts.proof, texts.certificate});
   GivenSession& session = sessions.back();
   session.given += texts.amount;
   ++session.gifts;
@@ -168,12 +170,13 @@ bool HistoryReader::ReadGift(std::string_view line) {
 bool HistoryReader::ReadTransaction(std::string_view line) {
   GivenSession& session = sessions.back();
   std::string_view id;
-  if (session.transaction != 0 || !Take(line, kTransaction) || !CutBefore(line, kBudget, id) ||
+  if (session.transactionSize != 0 || !Take(line, kTransaction) || !CutBefore(line, kBudget, id) ||
       !ReadAmount(line, session.budget)) {
     return false;
   }
-  session.transaction = PlaceOf(id);
+  session.transaction = static_cast<std::uint32_t>(transactions.size());
   session.transactionSize = static_cast<std::uint32_t>(id.size());
+  transactions += id;
   return true;
 }
 

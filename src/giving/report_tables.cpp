@@ -106,13 +106,13 @@ std::string SessionRows::GiftText(const Gift& gift, int column) const {
   const GivenHistory& history = report_->history;
   switch (column) {
     case 1:
-      return "from " + std::string(history.TextsOf(gift).from);
+      return "from " + std::string(history.DonorOf(gift));
     case 2:
       return std::string(history.Organizations()[gift.organization]);
     case 3:
       return Sum(gift.amount);
     case 6:
-      return std::string(history.TextsOf(gift).delivery);
+      return std::string(history.DeliveryOf(gift));
     case 7:
       return gift.certificate && gift.proof ? "Certificate, proof"
              : gift.certificate             ? "Certificate"

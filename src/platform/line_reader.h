@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -9,12 +11,13 @@
 
 namespace benevix {
 
-// Reads a file line by line from an offset on, without holding all of it in memory. Lines end with
-// LF, which is not returned; the last one may have none.
+// Reads the lines of a file between two offsets, without holding all of them in memory. Lines end
+// with LF, which is not returned; the last one may have none.
 class LineReader {
  public:
-  explicit LineReader(std::unique_ptr<FileReader> file, std::size_t offset = 0)
-      : file_(std::move(file)), offset_(offset) {}
+  explicit LineReader(std::unique_ptr<FileReader> file, std::size_t offset = 0,
+                      std::size_t end = std::numeric_limits<std::size_t>::max())
+      : file_(std::move(file)), offset_(offset), end_(end) {}
 
   // The next line, valid until the next call; nothing at the end. Raises RuntimeError when the file
   // cannot be read.
@@ -42,15 +45,15 @@ class LineReader {
     bytes_.erase(0, begin_);
     begin_ = 0;
     const std::size_t size = bytes_.size();
-    bytes_.resize(size + chunk);
-    const std::size_t count = file_->Read(offset_, bytes_.data() + size, chunk);
+    bytes_.resize(size + std::min(chunk, end_ - offset_));
+    const std::size_t count = file_->Read(offset_, bytes_.data() + size, bytes_.size() - size);
     bytes_.resize(size + count);
     offset_ += count;
     return count > 0;
   }
 
   std::unique_ptr<FileReader> file_;
-  std::size_t offset_;  // of the next chunk
+  std::size_t offset_, end_;  // of the next chunk, and of the last
   std::string bytes_;
   std::size_t begin_ = 0;
 };
