@@ -116,7 +116,7 @@ QString SheetOf(Scheme scheme, QFont font) {
   set("medium", QString::number(points * 1.15));
   set("large", QString::number(points * kMoneyScale));
   const QFontMetrics plain(font);
-  set("title", QString::number(plain.height() + 8));
+  set("title", QString::number(plain.height() + 6));
   set("track", QString::number(plain.height() + 8));
   QFont small = font;
   small.setPointSizeF(points * 0.9);
