@@ -83,8 +83,7 @@ void Charges::ShowBudgetUse(Currency serviceFees, const ByMethod& charges) {
   const auto addLeft = [&] {
     if (!allGiven) bar.parts.push_back({Part::Use::Left, "Left", values_.Balance});
   };
-  bar.parts.push_back(
-      {Part::Use::Given, allGiven ? "All given:" : "Given", values_.TotalDonated});
+  bar.parts.push_back({Part::Use::Given, allGiven ? "All given:" : "Given", values_.TotalDonated});
   if (main_.mnuDeductFees.checked) {
     const Currency cardFees = CardFeeTotal(main_.ListView1);
     bar.parts.push_back({Part::Use::ServiceFees, "Service fees", serviceFees});

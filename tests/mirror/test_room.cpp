@@ -1,5 +1,5 @@
-// Every window on small, usual and large screens: no text is cut, no control covers another or leaves
-// its window, and amounts stand near their names.
+// Every window on small, usual and large screens: no text is cut, no control covers another or
+// leaves its window, and amounts stand near their names.
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -26,7 +26,8 @@ constexpr int kInset = 8;       // before and behind the text of a cell
 void FillMainWindow(frmBVX& main) {
   main.Label8.caption = "123,456.78";
   main.Label6.caption =
-      "Verify your name shows correctly, then enter the donation as $ in the Donation box and press "
+      "Verify your name shows correctly, then enter the donation as $ in the Donation box and "
+      "press "
       "<Enter> ";
   main.ContinueNote.caption = "Opens after a Budget and a donation";
   main.UnfinishedText.caption =

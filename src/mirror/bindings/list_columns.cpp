@@ -27,11 +27,10 @@ void OfferColumns(QTableView& view, const ListView& list, const QPoint& place) {
     shown->setCheckable(true);
     shown->setChecked(!header.isSectionHidden(i));
     shown->setEnabled(i != column::kOrganization);
-    QObject::connect(shown, &QAction::toggled, &view,
-                     [&view, i](bool on) {
-                       view.setColumnHidden(i, !on);
-                       FitColumns(view);
-                     });
+    QObject::connect(shown, &QAction::toggled, &view, [&view, i](bool on) {
+      view.setColumnHidden(i, !on);
+      FitColumns(view);
+    });
   }
   menu.exec(header.mapToGlobal(place));
 }
@@ -87,9 +86,8 @@ void FitColumns(QTableView& view) {
     others += header.sectionSize(i);
   }
   header.setSectionResizeMode(last, QHeaderView::Stretch);
-  header.resizeSection(
-      column::kOrganization,
-      std::clamp(view.viewport()->width() - others, kNameLeast * unit, kNameMost * unit));
+  header.resizeSection(column::kOrganization, std::clamp(view.viewport()->width() - others,
+                                                         kNameLeast * unit, kNameMost * unit));
 }
 
 }  // namespace benevix

@@ -13,7 +13,7 @@
 namespace benevix {
 namespace {
 
-constexpr int kInset = 8;  // pixels before and behind a text
+constexpr int kInset = 8;    // pixels before and behind a text
 constexpr int kIndent = 16;  // pixels, of a name below its country
 constexpr int kEdge = 4;     // pixels, the bar at the edge of a row with a donation
 
@@ -66,8 +66,8 @@ bool ListDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
   const bool heading = KindOf(index) == ListModel::Kind::Heading;
   QStyleOptionViewItem cell = option;
   initStyleOption(&cell, heading ? index.siblingAtColumn(column::kCountry) : index);
-  const int width = heading ? view->viewport()->width() - 2 * kInset
-                            : TextPlace(index, option.rect).width();
+  const int width =
+      heading ? view->viewport()->width() - 2 * kInset : TextPlace(index, option.rect).width();
   if (event->type() != QEvent::ToolTip || cell.fontMetrics.horizontalAdvance(cell.text) <= width) {
     return QStyledItemDelegate::helpEvent(event, view, option, index);
   }

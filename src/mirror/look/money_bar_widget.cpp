@@ -12,8 +12,8 @@ namespace {
 // In pixels.
 constexpr int kLeast = 160;
 constexpr int kBarHeight = 8;
-constexpr int kGap = 6;       // between the bar and the names
-constexpr int kDot = 8;       // the mark before a name
+constexpr int kGap = 6;  // between the bar and the names
+constexpr int kDot = 8;  // the mark before a name
 constexpr int kDotGap = 6;
 constexpr int kNameGap = 24;  // between names
 
