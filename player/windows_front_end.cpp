@@ -266,10 +266,19 @@ class WindowsFrontEnd : public FrontEnd {
     return binding->WidgetOf(target.control->Base());
   }
 
+  // What is folded away for want of room: the user makes the window larger.
+  void MakeRoomFor(const QWidget* widget) {
+    constexpr QSize large(2560, 1440);
+    if (widget == nullptr || !widget->window()->isVisible()) return;
+    if (!widget->isHidden() && !widget->isVisible()) widget->window()->resize(large);
+    Settle();
+  }
+
   // The widget of a control that the user can reach, made the front one; null when he cannot.
   QWidget* Reach(const Target& target) {
     ClosePopUps();
     QWidget* const widget = WidgetOf(target);
+    MakeRoomFor(widget);
     if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) return nullptr;
     if (!program_->TheDesk().IsUsable(*target.window, target.control->Base())) return nullptr;
     widget->window()->activateWindow();

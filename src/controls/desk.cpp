@@ -120,10 +120,11 @@ bool Desk::IsOpen(const Entry& entry, const Control& control) {
 }
 
 bool Desk::TakesFocus(const NamedControl& control) {
+  if (const Table* const table = control.As<Table>()) return table->takesFocus;
   return control.As<TextBox>() != nullptr || control.As<Button>() != nullptr ||
          control.As<OptionButton>() != nullptr || control.As<CheckBox>() != nullptr ||
          control.As<ComboBox>() != nullptr || control.As<ListView>() != nullptr ||
-         control.As<Table>() != nullptr || control.As<ScrollBar>() != nullptr;
+         control.As<ScrollBar>() != nullptr;
 }
 
 void Desk::ChangeFocus(Entry& entry, Control* to) {

@@ -97,7 +97,7 @@ class Desk {
   // The shown windows from the bottom to the top.
   [[nodiscard]] const std::vector<Window*>& Shown() const { return shown_; }
 
-  // Whether a control of this kind can take the focus.
+  // Whether the control is of a kind that can take the focus.
   [[nodiscard]] static bool TakesFocus(const NamedControl& control);
 
  private:

@@ -268,7 +268,7 @@ bool Input::SelectRow(ListView& list, int row, MouseButton button, bool byKeyboa
 bool Input::SelectRow(Table& table, int row, bool byKeyboard) {
   if (row < 1 || row > table.Count()) return false;
   return Do(table, [&](Desk::Entry&) {
-    desk_.SetFocus(table);
+    if (table.takesFocus) desk_.SetFocus(table);
     table.selected = row;
     Fire(table, Event::ItemClick, {.byKeyboard = byKeyboard});
   });

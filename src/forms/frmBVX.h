@@ -38,6 +38,10 @@ struct frmBVX : Window {
     Unfinished.visible = false;
     PastGifts.visible = false;
     for (Button* button : {&ContinueUnfinished, &StartAfresh}) button->holder = "Unfinished";
+    GiftRows.takesFocus = false;
+    GiftRows.holder = "Gifts";
+    for (Label& label : GiftSumName) label.holder = "Gifts";
+    for (Label& label : GiftSum) label.holder = "Gifts";
     mnuAddFees.checked = true;
     mnuDirectCurr.checked = true;
     TMMenu.visible = false;
@@ -131,6 +135,12 @@ struct frmBVX : Window {
   Frame Frame9{"YTD Status"};
   Frame PastGifts{"Your gifts here"};  // to the selected organization, in earlier sessions
   Label PastGiftsText{"", {}, "PastGifts"};
+
+  // What is given in this session, beside the list where a window is wide enough.
+  Frame Gifts{"Your gifts"};
+  Label GiftsNote{"What you give in this session appears here.", {}, "Gifts"};
+  Table GiftRows{{}, {{"Organization", false, 24}, {"Amount", true, 10}}};
+  Label GiftSumName[4], GiftSum[4];  // the sum, then the fees
 
   // The session that the last run left unfinished; without the buttons, that this one is not kept.
   PictureBox Unfinished;
@@ -258,6 +268,11 @@ void visit(frmBVX& window, F&& f) {
   f("iLbl", window.iLbl);
   f("PastGifts", window.PastGifts);
   f("PastGiftsText", window.PastGiftsText);
+  f("Gifts", window.Gifts);
+  f("GiftsNote", window.GiftsNote);
+  f("GiftRows", window.GiftRows);
+  f("GiftSumName", window.GiftSumName);
+  f("GiftSum", window.GiftSum);
   f("Command1(1)", window.Command1);
   f("ContinueNote", window.ContinueNote);
   f("Label6", window.Label6);

@@ -38,7 +38,9 @@ void GivingReport::mnuReport_Click() {
   desk_.Load(window_);
   Read();
   unfolded_ = -1;
-  window_.Goal.Write(settings_.GetUserString(kGoalSetting));
+  const std::string goal = settings_.GetUserString(kGoalSetting);
+  const auto amount = ReadAmount(goal).number;
+  window_.Goal.Write(amount ? Sum(Currency::FromDouble(*amount)) : goal);
   int last = 0;  // the last year in which something was given
   for (const GivenSession& session : report_->history.Sessions()) {
     if (session.day.year <= ThisYear()) last = std::max(last, session.day.year);
@@ -179,8 +181,14 @@ void GivingReport::SaveGoal() {
     window_.Goal.note = goal.note;
     return;
   }
-  if (window_.Goal.text != settings_.GetUserString(kGoalSetting) &&
-      !settings_.SaveUserString(kGoalSetting, window_.Goal.text)) {
+  std::string stored;
+  if (goal.number) {
+    const Currency amount = Currency::FromDouble(*goal.number);
+    stored = amount.ToText();
+    window_.Goal.Write(Sum(amount));
+  }
+  if (stored != settings_.GetUserString(kGoalSetting) &&
+      !settings_.SaveUserString(kGoalSetting, stored)) {
     window_.Goal.note = kNotSavedNote;
   }
   ShowGoal();

@@ -43,6 +43,7 @@ Program::Program(const Environment& environment)
                        [this](const std::string& page) { help_.ShowPage(page); }}),
       charges_(main_, forms_.Get<frmPayOpt>(), values_, rates_),
       preview_(main_, values_, donationEntry_),
+      giftsPanel_(main_, listView_),
       journal_({main_, forms_.Get<frmPayOpt>(), values_}, desk_, database_, environment_.files,
                environment_.clock, environment_.info.Resource("session.journal"),
                [this](const std::string& reason) {
@@ -108,6 +109,7 @@ Program::Program(const Environment& environment)
     journal_.AfterEvent();
     listFilter_.AfterEvent();
     charges_.Show();
+    giftsPanel_.Show();
     viewer_.ShowWays();
     paymentStates_.AfterEvent();
     contact_.ShowWhatFollows();

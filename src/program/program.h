@@ -47,6 +47,7 @@
 #include "session/donation_entry.h"
 #include "session/edit_commands.h"
 #include "session/favorites.h"
+#include "session/gifts_panel.h"
 #include "session/list_filter.h"
 #include "session/list_typing.h"
 #include "session/list_view_events.h"
@@ -144,6 +145,7 @@ class Program {
   PaymentOptions paymentOptions_;
   Charges charges_;
   Preview preview_;
+  GiftsPanel giftsPanel_;
 
   Journal journal_;
   JournalCommands journalCommands_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/format.h"
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "session/totals.h"
@@ -14,7 +15,8 @@ namespace {
 std::string WholeDollarsNote(const std::string& text) {
   const auto typed = ReadAmount(text).number;
   if (!typed || *typed == ToInt32(*typed)) return {};
-  return "Whole dollars only: " + text + " counts as " + std::to_string(ToInt32(*typed));
+  const auto shown = [](double amount) { return FormatDouble(amount, kSumPattern); };
+  return "Whole dollars only: " + shown(*typed) + " counts as " + shown(ToInt32(*typed));
 }
 
 }  // namespace

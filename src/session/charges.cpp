@@ -78,8 +78,12 @@ void Charges::ShowBudgetUse(Currency serviceFees, const ByMethod& charges) {
   MoneyBar& bar = main_.BudgetUse;
   bar = MoneyBar();
   const int method = ChosenMethod();
-  const Part left{Part::Use::Left, "Left", values_.Balance};
-  bar.parts.push_back({Part::Use::Given, "Given", values_.TotalDonated});
+  // A part of 0.00 would look as if something were missing.
+  const bool allGiven = values_.Balance == Currency() && values_.TotalDonated != Currency();
+  const auto addLeft = [&] {
+    if (!allGiven) bar.parts.push_back({Part::Use::Left, "Left", values_.Balance});
+  };
+  bar.parts.push_back({Part::Use::Given, allGiven ? "All given:" : "Given", values_.TotalDonated});
   if (main_.mnuDeductFees.checked) {
     const Currency cardFees = CardFeeTotal(main_.ListView1);
     bar.parts.push_back({Part::Use::ServiceFees, "Service fees", serviceFees});
@@ -89,11 +93,11 @@ void Charges::ShowBudgetUse(Currency serviceFees, const ByMethod& charges) {
     if (values_.SessionFeeTaken) {
       bar.parts.push_back({Part::Use::MethodFee, "e-check fee taken", rates_.SessionFee});
     }
-    bar.parts.push_back(left);
+    addLeft();
   } else {
     const auto named = static_cast<std::size_t>(std::max(method, 0));
     const Currency fee = method >= 0 && charges[named] ? charges[named]->methodFee : Currency();
-    bar.parts.push_back(left);
+    addLeft();
     bar.parts.push_back({Part::Use::ServiceFees, "Service fees", serviceFees});
     bar.parts.push_back({Part::Use::MethodFee, kMethodFees[named], fee});
   }

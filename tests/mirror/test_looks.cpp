@@ -1,4 +1,4 @@
-// How the windows look: the contrast of every text, their smallest size, the arrangement they keep.
+// How the windows look: the contrast of every text, both schemes, the arrangement they keep.
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -94,43 +94,6 @@ TEST(LooksTest, EveryTextStandsOutOnItsGround) {
         }
       }
       EXPECT_GT(texts, 100);
-    }
-  }
-}
-
-// On a screen of 1024 x 640, within the frames that the desktop draws, and with long amounts.
-TEST(LooksTest, TheWindowsFitALowScreen) {
-  EveryWindow shown(Scheme::Light);
-  frmBVX& main = shown.forms.Get<frmBVX>();
-  shown.input.Enter([&] {
-    for (Label& amount : main.ChargeAmount) amount.caption = "123,456,789.00";
-    for (Label& fees : main.ChargeFees) {
-      fees.caption = "Service fees 12,345.00, Card fees 12,345,678.00, rounding 0.99";
-    }
-  });
-  QTest::qWait(0);
-  for (const Desk::Entry& entry : shown.desk.Entries()) {
-    const QSize least = shown.mirror.BindingOf(*entry.window)->Widget().minimumSizeHint();
-    EXPECT_LE(least.width(), 1016) << entry.name;
-    EXPECT_LE(least.height(), 596) << entry.name;
-  }
-}
-
-TEST(LooksTest, EveryLabelHasRoomForItsText) {
-  EveryWindow shown(Scheme::Light);
-  for (const Desk::Entry& entry : shown.desk.Entries()) {
-    const QWidget& window = shown.mirror.BindingOf(*entry.window)->Widget();
-    for (const QLabel* const label : window.findChildren<QLabel*>()) {
-      if (label->wordWrap() || !label->isVisible()) continue;
-      const QFontMetrics metrics = label->fontMetrics();
-      const QStringList parts = label->text().split(QLatin1Char('&'));
-      int width = metrics.horizontalAdvance(parts.first());
-      if (parts.size() > 1) {  // the marked letter is drawn by itself
-        width += metrics.horizontalAdvance(parts[1].left(1)) +
-                 metrics.horizontalAdvance(parts[1].mid(1));
-      }
-      EXPECT_LE(width, label->contentsRect().width())
-          << entry.name << "." << label->objectName().toStdString();
     }
   }
 }

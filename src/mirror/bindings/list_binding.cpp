@@ -79,7 +79,10 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
   }
 
   bool FilterMouse(const QEvent& event) {
-    if (event.type() == QEvent::Resize) emptyText_.resize(widget_.viewport()->size());
+    if (event.type() == QEvent::Resize) {
+      emptyText_.resize(widget_.viewport()->size());
+      FitColumns(widget_);
+    }
     // Its first press has chosen the row, or was for something that stood before the list.
     if (event.type() == QEvent::MouseButtonDblClick) return true;
     if (event.type() == QEvent::MouseButtonPress) pressed_ = true;

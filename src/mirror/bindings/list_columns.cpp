@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QShortcut>
 #include <QTableView>
+#include <algorithm>
 
 #include "controls/list_view.h"
 #include "database/organization_list.h"
@@ -12,19 +13,32 @@
 namespace benevix {
 namespace {
 
+// In average characters of the font.
+constexpr int kNameLeast = 24;
+constexpr int kNameMost = 60;
+constexpr int kLastLeast = 18;
+
 void OfferColumns(QTableView& view, const ListView& list, const QPoint& place) {
   const QHeaderView& header = *view.horizontalHeader();
   QMenu menu(&view);
-  for (int i = 0; i < ListView::kColumns; ++i) {
+  for (int i = column::kOrganization; i < ListView::kColumns; ++i) {
     const QString caption = ToQString(list.columns[static_cast<std::size_t>(i)]);
     QAction* const shown = menu.addAction(caption.isEmpty() ? QStringLiteral("Options") : caption);
     shown->setCheckable(true);
     shown->setChecked(!header.isSectionHidden(i));
     shown->setEnabled(i != column::kOrganization);
-    QObject::connect(shown, &QAction::toggled, &view,
-                     [&view, i](bool on) { view.setColumnHidden(i, !on); });
+    QObject::connect(shown, &QAction::toggled, &view, [&view, i](bool on) {
+      view.setColumnHidden(i, !on);
+      FitColumns(view);
+    });
   }
   menu.exec(header.mapToGlobal(place));
+}
+
+int LastColumn(const QHeaderView& header) {
+  int last = header.count() - 1;
+  while (last > 0 && header.isSectionHidden(last)) --last;
+  return last;
 }
 
 }  // namespace
@@ -38,17 +52,42 @@ void LayOutColumns(QTableView& view, const ListView& list) {
   QObject::connect(columns, &QShortcut::activated, &view, [&view, &list, &header] {
     OfferColumns(view, list, QPoint(0, header.height()));
   });
-  // These serve only the program.
-  for (const int hidden : {column::kId, column::kRecord, column::kFee, column::kCardFee}) {
+  // All but the first serve only the program.
+  for (const int hidden :
+       {column::kCountry, column::kId, column::kRecord, column::kFee, column::kCardFee}) {
     view.setColumnHidden(hidden, true);
   }
   const int unit = view.fontMetrics().averageCharWidth();
-  const int widths[ListView::kColumns] = {12, 46, 16, 18, 14, 20, 14, 14, 14, 14};  // characters
+  const int widths[ListView::kColumns] = {0, 46, 16, 18, 16, 20, 14, 14, 14, 14};  // characters
   header.setMinimumSectionSize(8 * unit);
-  for (int i = 0; i < ListView::kColumns; ++i) header.resizeSection(i, widths[i] * unit);
-  header.setSectionResizeMode(column::kOrganization, QHeaderView::Stretch);
+  for (int i = column::kOrganization; i < ListView::kColumns; ++i) {
+    header.resizeSection(i, widths[i] * unit);
+  }
+  header.setSectionResizeMode(column::kOrganization, QHeaderView::Fixed);
+  QObject::connect(&header, &QHeaderView::sectionResized, &view, [&view, &header](int section) {
+    const bool follows = section == column::kOrganization || section == LastColumn(header);
+    if (!follows) FitColumns(view);
+  });
   view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   view.verticalHeader()->setDefaultSectionSize(view.fontMetrics().height() + 10);
+}
+
+void FitColumns(QTableView& view) {
+  QHeaderView& header = *view.horizontalHeader();
+  const int unit = view.fontMetrics().averageCharWidth();
+  const int last = LastColumn(header);
+  if (last == column::kOrganization) return;
+  int others = kLastLeast * unit;
+  for (int i = column::kOrganization + 1; i < last; ++i) {
+    if (header.sectionResizeMode(i) == QHeaderView::Stretch) {  // it was the last one
+      header.setSectionResizeMode(i, QHeaderView::Interactive);
+      header.resizeSection(i, kLastLeast * unit);
+    }
+    others += header.sectionSize(i);
+  }
+  header.setSectionResizeMode(last, QHeaderView::Stretch);
+  header.resizeSection(column::kOrganization, std::clamp(view.viewport()->width() - others,
+                                                         kNameLeast * unit, kNameMost * unit));
 }
 
 }  // namespace benevix

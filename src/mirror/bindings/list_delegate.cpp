@@ -13,11 +13,18 @@
 namespace benevix {
 namespace {
 
-constexpr int kInset = 8;  // pixels before and behind a text
-constexpr int kEdge = 4;   // pixels, the bar at the edge of a row with a donation
+constexpr int kInset = 8;    // pixels before and behind a text
+constexpr int kIndent = 16;  // pixels, of a name below its country
+constexpr int kEdge = 4;     // pixels, the bar at the edge of a row with a donation
 
 ListModel::Kind KindOf(const QModelIndex& index) {
   return index.data(ListModel::kKindRole).value<ListModel::Kind>();
+}
+
+// Where the text of a cell that is no heading stands.
+QRect TextPlace(const QModelIndex& index, const QRect& cell) {
+  const int indent = index.column() == column::kOrganization ? kIndent : 0;
+  return cell.adjusted(kInset + indent, 0, -kInset, 0);
 }
 
 }  // namespace
@@ -46,7 +53,7 @@ void ListDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   }
   painter->setFont(cell.font);
   painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
-  const QRect inside = option.rect.adjusted(kInset, 0, -kInset, 0);
+  const QRect inside = TextPlace(index, option.rect);
   const QString text = cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, inside.width());
   if (!selected && (index.column() == column::kOrganization || index.column() == column::kType)) {
     PaintMarks(*painter, inside, text);
@@ -59,7 +66,8 @@ bool ListDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
   const bool heading = KindOf(index) == ListModel::Kind::Heading;
   QStyleOptionViewItem cell = option;
   initStyleOption(&cell, heading ? index.siblingAtColumn(column::kCountry) : index);
-  const int width = (heading ? view->viewport()->rect() : option.rect).width() - 2 * kInset;
+  const int width =
+      heading ? view->viewport()->width() - 2 * kInset : TextPlace(index, option.rect).width();
   if (event->type() != QEvent::ToolTip || cell.fontMetrics.horizontalAdvance(cell.text) <= width) {
     return QStyledItemDelegate::helpEvent(event, view, option, index);
   }
@@ -100,7 +108,7 @@ void ListDelegate::PaintHeading(QPainter& painter, const QStyleOptionViewItem& o
   initStyleOption(&cell, index);
   painter.setFont(cell.font);
   painter.setPen(selected ? option.palette.color(QPalette::HighlightedText) : colors.headingText);
-  const int start = view != nullptr ? view->columnViewportPosition(column::kCountry) : 0;
+  const int start = view != nullptr ? view->columnViewportPosition(column::kOrganization) : 0;
   const QRect row(start + kInset, option.rect.top(), option.rect.right() - start,
                   option.rect.height());
   const QString country = index.siblingAtColumn(column::kCountry).data().toString();

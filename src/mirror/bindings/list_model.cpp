@@ -2,6 +2,7 @@
 
 #include <QFont>
 
+#include "base/format.h"
 #include "database/organization_list.h"
 #include "mirror/look/texts.h"
 
@@ -14,13 +15,15 @@ QVariant AlignmentOf(int column) {
       Qt::Alignment((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
 }
 
-// A row is heard by its first cell, which is empty but for headings.
+// A row is heard by its first cell.
 QString SpokenRow(const ListView& list, int row) {
   QStringList texts;
-  for (const int column : {column::kOrganization, column::kType, column::kAmount}) {
+  for (const int column : {column::kCountry, column::kOrganization, column::kType}) {
     const std::string text = list.SubItem(row, column);
     if (!text.empty()) texts += Drawn(text);
   }
+  const std::string amount = list.SubItem(row, column::kAmount);
+  if (!amount.empty()) texts += ToQString(FormatText(amount, kSumPattern));
   return texts.join(QStringLiteral(", "));
 }
 
@@ -59,8 +62,7 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return Drawn(list_.SubItem(row, index.column()));
     case Qt::AccessibleTextRole:
-      return index.column() == 0 && KindOf(row) != Kind::Heading ? SpokenRow(list_, row)
-                                                                 : QVariant();
+      return index.column() == column::kOrganization ? SpokenRow(list_, row) : QVariant();
     case Qt::TextAlignmentRole:
       return AlignmentOf(index.column());
     case kKindRole:

@@ -93,6 +93,7 @@ class TableBinding : public QObject, public WidgetBinding<Table, QTableView> {
     view.setShowGrid(false);
     view.setWordWrap(false);
     view.setTabKeyNavigation(false);
+    if (!table.takesFocus) view.setFocusPolicy(Qt::NoFocus);
     view.installEventFilter(this);
     LayOut();
     connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, this,

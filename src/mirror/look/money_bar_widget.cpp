@@ -10,9 +10,11 @@ namespace benevix {
 namespace {
 
 // In pixels.
+constexpr int kLeast = 160;
 constexpr int kBarHeight = 8;
-constexpr int kGap = 6;       // between the bar and the names
-constexpr int kDot = 8;       // the mark before a name
+constexpr int kGap = 6;  // between the bar and the names
+constexpr int kDot = 8;  // the mark before a name
+constexpr int kDotGap = 6;
 constexpr int kNameGap = 24;  // between names
 
 }  // namespace
@@ -26,11 +28,22 @@ void MoneyBarWidget::SetParts(std::vector<Part> parts, const QString& remark) {
   if (parts_ == parts && remark_ == remark) return;
   parts_ = std::move(parts);
   remark_ = remark;
+  updateGeometry();
   update();
 }
 
 QSize MoneyBarWidget::sizeHint() const {
-  return {160, kBarHeight + kGap + fontMetrics().height()};
+  QFont bold = font();
+  bold.setBold(true);
+  int width = QFontMetrics(bold).horizontalAdvance(remark_);
+  for (const Part& part : parts_) {
+    width += kDot + kDotGap + fontMetrics().horizontalAdvance(part.text) + kNameGap;
+  }
+  return {std::max(width, kLeast), minimumSizeHint().height()};
+}
+
+QSize MoneyBarWidget::minimumSizeHint() const {
+  return {kLeast, kBarHeight + kGap + fontMetrics().height()};
 }
 
 void MoneyBarWidget::paintEvent(QPaintEvent* /*event*/) {
@@ -68,7 +81,7 @@ void MoneyBarWidget::PaintNames(QPainter& painter) const {
     painter.setPen(Qt::NoPen);
     painter.setBrush(part.color);
     painter.drawEllipse(x, top + (height - kDot) / 2, kDot, kDot);
-    x += kDot + 6;
+    x += kDot + kDotGap;
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(QRect(x, top, width() - x, height), Qt::AlignVCenter, part.text);
     x += fontMetrics().horizontalAdvance(part.text) + kNameGap;

@@ -22,8 +22,9 @@ class MoneyBarWidget : public QWidget {
   // Without parts it is an empty track. The remark stands behind the names.
   void SetParts(std::vector<Part> parts, const QString& remark);
 
+  // With room for all names.
   [[nodiscard]] QSize sizeHint() const override;
-  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

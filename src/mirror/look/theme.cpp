@@ -40,7 +40,7 @@ constexpr Tone kTint{0xd9eeec, 0x163a38};      // the guidance line's ground
 constexpr Tone kOnTint{0x083f3c, 0xd2f1ee};
 constexpr Tone kGiven{0xe6eaee, 0x2e353c};     // ground of boxes that no longer take an entry
 constexpr Tone kComputed{0xe8f1f1, 0x1c3030};  // ground of the Balance
-constexpr Tone kSand{0xf3efd8, 0x2f2d1e};      // ground of the fee modes
+constexpr Tone kSand{0xfaf9f3, 0x1b1c1a};      // ground of the fee modes
 constexpr Tone kMarked{0xfbe3a6, 0x544418};    // ground of a word that was searched for
 constexpr Tone kRed{0xb3201b, 0xff8f88};
 constexpr Tone kGreen{0x1f8f45, 0x4fc27a};
@@ -116,7 +116,7 @@ QString SheetOf(Scheme scheme, QFont font) {
   set("medium", QString::number(points * 1.15));
   set("large", QString::number(points * kMoneyScale));
   const QFontMetrics plain(font);
-  set("title", QString::number(plain.height() + 8));
+  set("title", QString::number(plain.height() + 6));
   set("track", QString::number(plain.height() + 8));
   QFont small = font;
   small.setPointSizeF(points * 0.9);
@@ -129,10 +129,12 @@ QString SheetOf(Scheme scheme, QFont font) {
     return QString::number(QFontMetrics(font).horizontalAdvance(QLatin1String(text)));
   };
   set("button", width("Continue"));
+  set("filter", width("Organizations that help people who were driven from their homes"));
   font.setPointSizeF(points * 1.15);
   set("guidance", QString::number(2 * QFontMetrics(font).lineSpacing()));
   font.setPointSizeF(points * kMoneyScale);
   set("amount", width("10,000.00"));
+  set("mostAmount", width("1,000,000,000.00"));
   font.setPointSizeF(font.pointSizeF() * 9 / TextBox().fontSize);  // an accepted Budget
   constexpr int margin = 2;  // pixels of an edit's own, above and below its line
   set("money", QString::number(QFontMetrics(font).height() + margin));

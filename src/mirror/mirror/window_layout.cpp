@@ -6,6 +6,8 @@
 #include <QTableView>
 
 #include "core/settings_store.h"
+#include "database/organization_list.h"
+#include "mirror/bindings/list_columns.h"
 #include "mirror/look/texts.h"
 #include "mirror/mirror/window_place.h"
 
@@ -13,6 +15,7 @@ namespace benevix {
 namespace {
 
 const std::string kPath = kSettingsPath + "\\Window";
+constexpr QLatin1String kList("ListView1");
 constexpr int kWidest = 10000;  // pixels of a column or a pane
 
 // The numbers of a saved text, or none when there are not `count` of them from `least` to kWidest.
@@ -44,14 +47,14 @@ void WindowLayout::Restore(QMainWindow& window) const {
     const QList<int> sizes = Numbers(settings_, "Splitter", splitter->count());
     if (!sizes.isEmpty()) splitter->setSizes(sizes);
   }
-  if (auto* const view = window.findChild<QTableView*>()) {
+  if (auto* const view = window.findChild<QTableView*>(kList)) {
     QHeaderView& header = *view->horizontalHeader();
     const QList<int> widths = Numbers(settings_, "Columns", header.count());
-    for (qsizetype i = 0; i < widths.size(); ++i) {
-      const int column = static_cast<int>(i);
-      header.setSectionHidden(column, widths[i] == 0);
-      if (widths[i] != 0) header.resizeSection(column, widths[i]);
+    for (int i = column::kOrganization; i < widths.size(); ++i) {
+      header.setSectionHidden(i, widths[i] == 0);
+      if (widths[i] != 0) header.resizeSection(i, widths[i]);
     }
+    FitColumns(*view);
   }
 }
 
@@ -68,7 +71,7 @@ void WindowLayout::Save(const QMainWindow& window) const {
   if (const auto* const splitter = window.findChild<QSplitter*>()) {
     SaveNumbers(settings_, "Splitter", splitter->sizes());
   }
-  if (const auto* const view = window.findChild<QTableView*>()) {
+  if (const auto* const view = window.findChild<QTableView*>(kList)) {
     QList<int> widths;
     for (int column = 0; column < view->horizontalHeader()->count(); ++column) {
       widths.append(view->horizontalHeader()->sectionSize(column));  // 0 when it is hidden
