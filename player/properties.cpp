@@ -92,9 +92,11 @@ struct Further {
     if (property == "Top") return std::to_string(list->top);
     if (property == "ShownRows") return RowsText(*list);
     if (property == "EmptyText") return list->emptyText;
+    const auto row = IndexIn(property.substr(0, property.find('.')), "Row");
+    if (!row || *row < 1 || *row > list->Count()) return std::nullopt;
+    if (property.ends_with(").Note")) return list->noteOf(*row);
     const auto cell = CellIn(property);
-    if (!cell || cell->row < 1 || cell->row > list->Count()) return std::nullopt;
-    return list->SubItem(cell->row, cell->column);
+    return cell ? Text(list->SubItem(cell->row, cell->column)) : std::nullopt;
   }
   Text operator()(const Table* table) const {
     if (property == "Count") return std::to_string(table->Count());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -38,6 +39,7 @@ struct ListView : Control {
   std::shared_ptr<const ShownRows> shownRows;
   std::vector<std::string> markedWords;
   std::string emptyText;
+  std::function<std::string(int row)> noteOf;  // what is told of a row where the mouse rests
 
   [[nodiscard]] int Count() const { return rows ? rows->Count() : 0; }
 

@@ -8,29 +8,35 @@ namespace {
 // A request is under way on the desk as long as this object lives.
 class Underway {
  public:
-  explicit Underway(Desk& desk) : desk_(desk) { desk_.SetRequesting(true); }
+  Underway(Desk& desk, Button& cancel) : desk_(desk), cancel_(cancel) { desk_.SetRequesting(true); }
   ~Underway() {
     desk_.SetRequesting(false);
-    desk_.SetActivity({});
+    Tell({});
   }
   Underway(const Underway&) = delete;
   Underway& operator=(const Underway&) = delete;
 
+  void Tell(const std::string& activity) {
+    desk_.SetActivity(activity);
+    cancel_.visible = !activity.empty();
+  }
+
  private:
   Desk& desk_;
+  Button& cancel_;
 };
 
 }  // namespace
 
 std::string RequestNotice::OpenURL(const std::string& address, const HttpOptions& options) {
   if (cancelled_) throw RuntimeError("cancelled");
-  const Underway underway(desk_);
+  Underway underway(desk_, cancel_);
   const std::string activity = options.purpose + " (Esc cancels)";
-  if (slow_) desk_.SetActivity(activity);
+  if (slow_) underway.Tell(activity);
   HttpOptions told = options;
   told.onSlow = [&] {
     slow_ = true;
-    desk_.SetActivity(activity);
+    underway.Tell(activity);
     const WaitScope redraw(waits_);  // updates the widgets
   };
   try {

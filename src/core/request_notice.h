@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "controls/controls.h"
 #include "controls/desk.h"
 #include "platform/http_client.h"
 #include "platform/waits.h"
@@ -10,11 +11,11 @@ namespace benevix {
 
 // Makes the requests of the whole program and tells on the desk that one is under way, which the
 // user may end, and what it is for, as soon as it takes longer than a moment. The windows then show
-// it, and the pointer is busy.
+// it, with a button that ends it, and the pointer is busy.
 class RequestNotice : public HttpClient {
  public:
-  RequestNotice(HttpClient& client, Desk& desk, Waits& waits)
-      : client_(client), desk_(desk), waits_(waits) {}
+  RequestNotice(HttpClient& client, Desk& desk, Waits& waits, Button& cancel)
+      : client_(client), desk_(desk), waits_(waits), cancel_(cancel) {}
 
   // Raises ProgramEnded when the user has ended the program meanwhile.
   std::string OpenURL(const std::string& address, const HttpOptions& options) override;
@@ -29,6 +30,7 @@ class RequestNotice : public HttpClient {
   HttpClient& client_;
   Desk& desk_;
   Waits& waits_;
+  Button& cancel_;
   bool slow_ = false;  // a request of this action was; the next one is told of at once
   bool cancelled_ = false;
 };

@@ -2,6 +2,7 @@
 
 #include "controls/controls.h"
 #include "forms/main_indexes.h"
+#include "forms/main_menu.h"
 
 namespace benevix {
 
@@ -10,7 +11,7 @@ inline constexpr const char* kNoNews = "No news";
 inline constexpr const char* kNoAmounts = "No amounts";
 
 // The main window.
-struct frmBVX : Window {
+struct frmBVX : Window, MainMenu {
   static constexpr const char* kName = "frmBVX";
   static constexpr int kWidth = 15360;  // twips; where the credit line comes in
 
@@ -35,6 +36,9 @@ struct frmBVX : Window {
     }
     EnableOrganizationCommands(false);
     ShowAll.visible = false;
+    CancelRequest.visible = false;
+    CancelRequest.endsRequests = true;
+    Offline.visible = false;
     Unfinished.visible = false;
     PastGifts.visible = false;
     for (Button* button : {&ContinueUnfinished, &StartAfresh}) button->holder = "Unfinished";
@@ -52,14 +56,6 @@ struct frmBVX : Window {
     Shape2.meaning = kNoAmounts;
     Shape5.meaning = kNoNews;
     SetShortcuts();
-  }
-
-  // The commands for the selected organization.
-  void EnableOrganizationCommands(bool enable) {
-    for (MenuItem* item : {&mnuMoreInfo, &mnuContactThem, &mnuGotheirWeb, &MMTellMe, &MMContactThem,
-                           &MMGoWeb, &mnuFavAddTop, &mnuFavAdd}) {
-      item->enabled = enable;
-    }
   }
 
   // A command with a menu item has its shortcut there.
@@ -106,8 +102,12 @@ struct frmBVX : Window {
   // Hidden once a Budget is entered; then the Balance that a typed donation would leave.
   Label Label8;
   Label Label6{"Type a Dollar amount in the Budget box and press <Enter>"};  // the hint line
-  Label Label12{"System Message", "Click to receive"};  // the news, kept in its tag
-  Label Label10{"Fees"};                                // heading of the fee options
+  Button CancelRequest{"Cancel", "Stop waiting for the server"};  // while there is a request
+  Label Label12{"System Message", "Click to receive"};            // the news, kept in its tag
+  Label Offline{"Offline",
+                "The server did not answer. News, Update List and information about organizations "
+                "need it, and so does Continue, which asks it again."};
+  Label Label10{"Fees"};  // heading of the fee options
   Label Label11[2] = {Label("Update List"), Label("&Help")};
   Label Label4{"Benevix helps you give."};  // the scrolling credit line, later the payment method
   Label iLbl{"YTD Status", {}, "Frame9"};   // opens and closes the year-to-date window
@@ -168,69 +168,6 @@ struct frmBVX : Window {
   PictureBox Image1, Image2, Image3, Image4, Image5, Picture2;
   Shape Shape1, Shape3, Shape4, Shape6;
   Line Line1, Line2, Line3;
-
-  MenuItem TFile{"&File"};
-  MenuItem mnuNew{"&New Session", "TFile"};
-  MenuItem mnuPrntSession{"Print this session", "TFile", true};
-  MenuItem mnuHistory{"History", "TFile"};
-  MenuItem mnuPrtHistory{"Print History", "TFile"};
-  MenuItem mnuReport{"Giving Report...", "TFile"};
-  MenuItem mnuUpdateList{"Update List", "TFile", true};
-  MenuItem mnuExit{"E&xit", "TFile", true};
-
-  MenuItem TEdit{"&Edit"};
-  MenuItem mnuCls{"Clear", "TEdit"};
-  MenuItem mnuCorrect{"Correct", "TEdit"};
-  MenuItem mnuUndo{"Undo", "TEdit", true};
-  MenuItem mnuRedo{"Redo", "TEdit"};
-
-  MenuItem TFavs{"&Favorites"};
-  MenuItem mnuDistribFavs{"Distribute", "TFavs"};
-  MenuItem mnuFavAddTop{"Add to Favorites", "TFavs", true};
-  MenuItem mnuCancelRemove{"Cancel Remove", "TFavs"};
-  MenuItem mnuFavsRemove{"Remove from Favorites", "TFavs"};
-  MenuArray mnuFavs{"TFavs", true};
-
-  MenuItem Tprefs{"&Preferences"};
-  MenuItem mnuChgPayMethod{"Change Payment Method", "Tprefs"};
-  MenuItem mnuRound{"Round Totals", "Tprefs", true};
-  MenuItem mnuTyped{"Donation field is", "Tprefs"};
-  MenuItem mnuDirectCurr{"Currency", "mnuTyped"};
-  MenuItem mnuPercentBal{"Percentage of Balance", "mnuTyped"};
-  MenuItem mnuFees{"Fees", "Tprefs"};
-  MenuItem mnuAddFees{"Add to my Budget", "mnuFees"};
-  MenuItem mnuDeductFees{"Deduct from my Budget", "mnuFees"};
-  MenuItem mnuSettings{"Contact Info", "Tprefs", true};
-  MenuItem mnuWiz{"Start with the Wizard", "Tprefs"};
-
-  MenuItem TResources{"&Resources"};
-  MenuItem mnuSearch{"Search", "TResources"};
-  MenuItem mnuLocate{"List Countries", "TResources"};
-  MenuArray lclist{"mnuLocate"};  // element i - 1 is the country heading of row i
-  MenuItem mnuShowWiz{"Show Wizard", "TResources"};
-  MenuItem mnuMoreInfo{"Tell me about this organization", "TResources", true};
-  MenuItem mnuContactThem{"Contact this organization", "TResources"};
-  MenuItem mnuGotheirWeb{"Go to their web site", "TResources"};
-  MenuItem mnuRecallSession{"Recall Last Session", "TResources", true};
-  MenuItem mnuSendCopy{"Send a copy of Benevix to a Friend", "TResources"};
-
-  MenuItem THelp{"&Help"};
-  MenuItem mnuAbout{"&About", "THelp"};
-  MenuItem gotoBVXweb{"Go to BVX on the web", "THelp"};
-  MenuItem mnuHelp{"&Help", "THelp"};
-  MenuItem mnuQhelp{"Quick Help", "THelp"};
-  MenuArray qhelp1{"mnuQhelp"};
-  MenuItem mnuSubmitList{"Submit to List", "THelp", true};
-
-  MenuItem TMMenu{"MouseMenu"};  // pop-up of the list
-  MenuItem MMTellMe{"Tell me about this organization", "TMMenu"};
-  MenuItem MMContactThem{"Contact this Organization", "TMMenu"};
-  MenuItem MMGoWeb{"Go to their Website", "TMMenu"};
-  MenuItem mnuFavAdd{"Add to Favorites", "TMMenu", true};
-  MenuItem MMHelp{"Help", "TMMenu", true};
-
-  MenuItem mnuWhatis{"What is it pop"};  // pop-up of the buttons
-  MenuItem whatisBtn1{"What is this button?", "mnuWhatis"};
 };
 
 template <class F>
@@ -276,7 +213,9 @@ void visit(frmBVX& window, F&& f) {
   f("Command1(1)", window.Command1);
   f("ContinueNote", window.ContinueNote);
   f("Label6", window.Label6);
+  f("CancelRequest", window.CancelRequest);
   f("Label12", window.Label12);
+  f("Offline", window.Offline);
   f("Label11", window.Label11);
   f("Label4", window.Label4);
   f("Inet1", window.Inet1);
@@ -299,61 +238,7 @@ void visit(frmBVX& window, F&& f) {
   f("Line1", window.Line1);
   f("Line2", window.Line2);
   f("Line3", window.Line3);
-  f("TFile", window.TFile);
-  f("mnuNew", window.mnuNew);
-  f("mnuPrntSession", window.mnuPrntSession);
-  f("mnuHistory", window.mnuHistory);
-  f("mnuPrtHistory", window.mnuPrtHistory);
-  f("mnuReport", window.mnuReport);
-  f("mnuUpdateList", window.mnuUpdateList);
-  f("mnuExit", window.mnuExit);
-  f("TEdit", window.TEdit);
-  f("mnuCls", window.mnuCls);
-  f("mnuCorrect", window.mnuCorrect);
-  f("mnuUndo", window.mnuUndo);
-  f("mnuRedo", window.mnuRedo);
-  f("TFavs", window.TFavs);
-  f("mnuDistribFavs", window.mnuDistribFavs);
-  f("mnuFavAddTop", window.mnuFavAddTop);
-  f("mnuCancelRemove", window.mnuCancelRemove);
-  f("mnuFavsRemove", window.mnuFavsRemove);
-  f("mnuFavs", window.mnuFavs);
-  f("Tprefs", window.Tprefs);
-  f("mnuChgPayMethod", window.mnuChgPayMethod);
-  f("mnuRound", window.mnuRound);
-  f("mnuTyped", window.mnuTyped);
-  f("mnuDirectCurr", window.mnuDirectCurr);
-  f("mnuPercentBal", window.mnuPercentBal);
-  f("mnuFees", window.mnuFees);
-  f("mnuAddFees", window.mnuAddFees);
-  f("mnuDeductFees", window.mnuDeductFees);
-  f("mnuSettings", window.mnuSettings);
-  f("mnuWiz", window.mnuWiz);
-  f("TResources", window.TResources);
-  f("mnuSearch", window.mnuSearch);
-  f("mnuLocate", window.mnuLocate);
-  f("lclist", window.lclist);
-  f("mnuShowWiz", window.mnuShowWiz);
-  f("mnuMoreInfo", window.mnuMoreInfo);
-  f("mnuContactThem", window.mnuContactThem);
-  f("mnuGotheirWeb", window.mnuGotheirWeb);
-  f("mnuRecallSession", window.mnuRecallSession);
-  f("mnuSendCopy", window.mnuSendCopy);
-  f("THelp", window.THelp);
-  f("mnuAbout", window.mnuAbout);
-  f("gotoBVXweb", window.gotoBVXweb);
-  f("mnuHelp", window.mnuHelp);
-  f("mnuQhelp", window.mnuQhelp);
-  f("qhelp1", window.qhelp1);
-  f("mnuSubmitList", window.mnuSubmitList);
-  f("TMMenu", window.TMMenu);
-  f("MMTellMe", window.MMTellMe);
-  f("MMContactThem", window.MMContactThem);
-  f("MMGoWeb", window.MMGoWeb);
-  f("mnuFavAdd", window.mnuFavAdd);
-  f("MMHelp", window.MMHelp);
-  f("mnuWhatis", window.mnuWhatis);
-  f("whatisBtn1", window.whatisBtn1);
+  visit(static_cast<MainMenu&>(window), f);
 }
 
 }  // namespace benevix

@@ -33,7 +33,7 @@ struct frmPayOpt : Window {
                    "info"),
       OptionButton("e-check",
                    "Transfer from your Bank account - Fees apply - Press Help for more info")};
-  // What each method would charge; shown after the first donation.
+  // What each method would charge and, before the first donation, costs.
   Label ChargeAmount[3], ChargeFees[3];
   Button Command1[2] = {Button("&Continue"), Button("&Help")};
 };

@@ -107,8 +107,12 @@ void Program::ConnectSessionMenus() {
   on(main_.mnuUpdateList, [this] { listUpdateCommand_.Label11_MouseUp(); });
   on(main_.mnuExit, [this] { desk_.Unload(main_); });
 
-  on(main_.mnuCls, [this] { editCommands_.mnuCls_Click(); });
-  on(main_.mnuCorrect, [this] { editCommands_.mnuCorrect_Click(); });
+  for (const MenuItem* item : {&main_.mnuCls, &main_.MMClear}) {
+    on(*item, [this] { editCommands_.mnuCls_Click(); });
+  }
+  for (const MenuItem* item : {&main_.mnuCorrect, &main_.MMCorrect}) {
+    on(*item, [this] { editCommands_.mnuCorrect_Click(); });
+  }
 
   on(main_.mnuUndo, [this] { journalCommands_.mnuUndo_Click(); });
   on(main_.mnuRedo, [this] { journalCommands_.mnuRedo_Click(); });
@@ -263,6 +267,7 @@ void Program::ConnectSmallWindows() {
     desk_.Unload(wait);
   });
   events_.On(wait.Command1, Event::Click, cancel);
+  events_.On(main_.CancelRequest, Event::Click, Plain([this] { requests_.Cancel(); }));
   events_.On(wait, Event::Close, cancel);
 
   frmWizard& wizard = forms_.Get<frmWizard>();

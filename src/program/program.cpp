@@ -1,6 +1,7 @@
 #include "program/program.h"
 
 #include "base/runtime_error.h"
+#include "session/gift_note.h"
 #include "session/hints.h"
 #include "session/new_session.h"
 
@@ -16,9 +17,9 @@ Environment WithHttp(const Environment& from, HttpClient& http) {
 }  // namespace
 
 Program::Program(const Environment& environment)
-    : requests_(environment.http, desk_, environment.waits),
+    : desk_(events_),
+      requests_(environment.http, desk_, environment.waits, main_.CancelRequest),
       environment_(WithHttp(environment, requests_)),
-      desk_(events_),
       input_(desk_, events_),
       settings_(environment_.registry),
       messages_(environment_.boxes, environment_.info, run_),
@@ -110,6 +111,7 @@ Program::Program(const Environment& environment)
     listFilter_.AfterEvent();
     charges_.Show();
     giftsPanel_.Show();
+    main_.Offline.visible = !run_.ServerOK;
     viewer_.ShowWays();
     paymentStates_.AfterEvent();
     contact_.ShowWhatFollows();
@@ -126,6 +128,7 @@ Program::Program(const Environment& environment)
     pastGifts_.Read();
     givingReport_.Refresh();
   };
+  main_.ListView1.noteOf = [this](int row) { return GiftNote(main_.ListView1, row); };
   input_.cancelRequest = [this] { requests_.Cancel(); };
   input_.onError = [this](const RuntimeError& error) {
     messages_.Show(error.what(), BoxIcon::Critical);

@@ -113,12 +113,12 @@ class Program {
   void ConnectContact();
   void ConnectSmallWindows();
 
-  RequestNotice requests_;
-  Environment environment_;  // whose requests go through that
   EventTable events_;
   Forms forms_;
   frmBVX& main_ = forms_.Get<frmBVX>();
   Desk desk_;
+  RequestNotice requests_;
+  Environment environment_;  // whose requests go through that
   Input input_;
   RunValues run_;
   std::unique_ptr<FolderLock> folderLock_;

@@ -26,6 +26,21 @@ std::string FeesText(std::size_t option, const Charge& charge) {
   return text;
 }
 
+// What a payment method costs: "2.9 % + 0.30", "5.00 a session" or "no fee".
+std::string CostText(int option, const FeeRates& rates) {
+  const Currency none;
+  const bool isCharged = Payee(rates, option) == rates.RatesField6;
+  if (isCharged && option == payment::kCreditCard) {
+    const Currency rate = rates.PublishedCardRate, fixed = rates.PublishedCardFixed;
+    std::string text = rate == none ? "" : rate.ToText() + " %";
+    if (fixed != none) text += (text.empty() ? "" : " + ") + Money(fixed);
+    if (!text.empty()) return text;
+  } else if (isCharged && rates.SessionFee != none) {
+    return Money(rates.SessionFee) + " a session";
+  }
+  return "no fee";
+}
+
 }  // namespace
 
 Charge ChargeWith(int option, const SessionValues& values, const FeeRates& rates,
@@ -127,8 +142,9 @@ void Charges::CompareWithCharge(Currency charge) {
 }
 
 void Charges::ShowCharge(std::size_t option, const std::optional<Charge>& charge) {
-  const std::string amount = charge ? Money(charge->amount) : "-";
-  const std::string fees = charge ? FeesText(option, *charge) : "once something is given";
+  const std::string amount = charge ? Money(charge->amount) : "";
+  const std::string fees =
+      charge ? FeesText(option, *charge) : CostText(static_cast<int>(option), rates_);
   const bool chosen = payment_.Option1[option].value;
   main_.ChargeAmount[option].caption = amount;
   main_.ChargeAmount[option].foreColor = chosen ? colors::kAccent : Label().foreColor;
@@ -136,7 +152,6 @@ void Charges::ShowCharge(std::size_t option, const std::optional<Charge>& charge
   payment_.ChargeAmount[option].caption = amount;
   payment_.ChargeAmount[option].visible = charge.has_value();
   payment_.ChargeFees[option].caption = fees;
-  payment_.ChargeFees[option].visible = charge.has_value();
 }
 
 }  // namespace benevix

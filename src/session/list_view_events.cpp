@@ -1,5 +1,6 @@
 #include "session/list_view_events.h"
 
+#include "database/organization_list.h"
 #include "session/hints.h"
 #include "session/totals.h"
 
@@ -12,6 +13,8 @@ void ListViewEvents::ListView1_ItemClick(const EventArgs& args) {
   if (args.button == MouseButton::Left) {
     LeftClick(organization, args.byKeyboard);
   } else {
+    const bool isGiven = !list.SelectedText(column::kRecord).empty();
+    for (MenuItem* const item : {&main_.MMClear, &main_.MMCorrect}) item->enabled = isGiven;
     ++main_.TMMenu.popUps;
   }
   if (run_.YtdState != 0) showYtd_();

@@ -63,6 +63,8 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
       return Drawn(list_.SubItem(row, index.column()));
     case Qt::AccessibleTextRole:
       return index.column() == column::kOrganization ? SpokenRow(list_, row) : QVariant();
+    case Qt::ToolTipRole:
+      return list_.noteOf ? Drawn(list_.noteOf(row)) : QVariant();
     case Qt::TextAlignmentRole:
       return AlignmentOf(index.column());
     case kKindRole:

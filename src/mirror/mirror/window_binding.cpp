@@ -4,7 +4,9 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMainWindow>
+#include <QPushButton>
 #include <QShortcut>
+#include <QStyle>
 #include <QToolTip>
 #include <QWindow>
 #include <string_view>
@@ -56,6 +58,7 @@ WindowBinding::WindowBinding(Desk& desk, const Desk::Entry& entry, BindingContex
     QSizePolicy policy = activityLine_->sizePolicy();
     policy.setRetainSizeWhenHidden(true);  // nothing moves when it appears
     activityLine_->setSizePolicy(policy);
+    activityLine_->hide();
   }
   for (const NamedControl& control : entry.controls) {
     auto binding = MakeBinding(control, *widget_, context_);
@@ -171,9 +174,22 @@ void WindowBinding::ApplyWindow() {
       widget_->unsetCursor();
     }
   }
-  if (activityLine_ != nullptr) {
-    activityLine_->setText(Drawn(desk_.Activity()));
-    activityLine_->setVisible(!desk_.Activity().empty());
+  ShowActivity();
+}
+
+// What the program waits for stands where the donor looks, and no button looks as if it could be
+// pressed meanwhile but the one that ends the wait.
+void WindowBinding::ShowActivity() {
+  if (activityLine_ == nullptr) return;
+  const QString activity = Drawn(desk_.Activity());
+  if (activityLine_->text() == activity) return;
+  activityLine_->setText(activity);
+  activityLine_->setVisible(!activity.isEmpty());
+  for (const auto& [named, binding] : bound_) {
+    auto* const button = qobject_cast<QPushButton*>(binding->Widget());
+    if (button == nullptr || named->Base().endsRequests) continue;
+    button->setProperty("waits", !activity.isEmpty());
+    button->style()->polish(button);
   }
 }
 

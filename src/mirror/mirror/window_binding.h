@@ -58,6 +58,7 @@ class WindowBinding : public QObject {
   void ApplyControls();
   void ApplyNote();
   void ApplyWindow();
+  void ShowActivity();
   // Whether the user had a place for the window, where it is now.
   bool IsPlacedAgain();
   void ShowWindow(QWidget* transientParent, const QWidget* neighbour);
