@@ -157,6 +157,7 @@ struct Frame : Control {
 struct PictureBox : Control {
   PictureBox() = default;
   explicit PictureBox(std::string tip) : Control(std::move(tip)) {}
+  bool isButton = false;  // it takes the focus, and Enter and the space bar press it
 };
 
 // A mark whose colours tell something; it can be clicked.

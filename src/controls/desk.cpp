@@ -121,6 +121,7 @@ bool Desk::IsOpen(const Entry& entry, const Control& control) {
 
 bool Desk::TakesFocus(const NamedControl& control) {
   if (const Table* const table = control.As<Table>()) return table->takesFocus;
+  if (const PictureBox* const picture = control.As<PictureBox>()) return picture->isButton;
   return control.As<TextBox>() != nullptr || control.As<Button>() != nullptr ||
          control.As<OptionButton>() != nullptr || control.As<CheckBox>() != nullptr ||
          control.As<ComboBox>() != nullptr || control.As<ListView>() != nullptr ||

@@ -207,7 +207,11 @@ bool Input::Key(const Control& control, int key) {
   const bool done = Do(control, [&](Desk::Entry&) { Fire(control, Event::KeyUp, {.key = key}); });
   if (!done || !entry.loaded || entry.loads != life) return done;
   const NamedControl& named = Named(entry, control);
-  if (key == keys::kEnter && named.As<Button>() != nullptr) {
+  const PictureBox* const picture = named.As<PictureBox>();
+  const bool isButton = picture != nullptr && picture->isButton;
+  if (key == keys::kEnter && (isButton || named.As<Button>() != nullptr)) {
+    Click(named);
+  } else if (key == ' ' && isButton) {  // the widgets of the other buttons do so by themselves
     Click(named);
   } else if (key != keys::kEnter || !BreaksLines(named)) {
     AnswerKey(entry, key);

@@ -13,6 +13,7 @@ struct frmSplash : Window {
     NotProtected.visible = false;
     NotProtected.foreColor = colors::kRed;
     endsRequests = Image2[1].endsRequests = true;
+    for (PictureBox& door : Image2) door.isButton = true;
     Image2[0].shortcut = kEnterShortcut;
     Image2[1].shortcut = kEscapeShortcut;
   }

@@ -24,6 +24,8 @@ struct frmTellAFriend : Window {
   Label Label1[4] = {Label("Your Friend's Name"), Label("Friend's E-mail"), Label("Your Name"),
                      Label("Your E-mail")};
   TextBox Text1[4];
+  Label MessageTitle{"The message that is sent"};
+  Label Message;
   Button Command1[2] = {Button("&Send"), Button("&Cancel")};
 };
 
@@ -31,6 +33,8 @@ template <class F>
 void visit(frmTellAFriend& window, F&& f) {
   f("Label1", window.Label1);
   f("Text1", window.Text1);
+  f("MessageTitle", window.MessageTitle);
+  f("Message", window.Message);
   f("Command1", window.Command1);
 }
 

@@ -26,24 +26,44 @@ void Wizard::mnuWiz_Click() {
 }
 
 void Wizard::Form_Load() {
-  page_ = Page::Welcome;
   window_.caption = info_.deployment.product + " Options ";
-  window_.Label1.caption =
-      "Welcome to " + info_.deployment.product + "\r\nThis wizard will help you get started";
-  for (OptionButton& option : window_.Option1) option.visible = false;
+  ShowPage(Page::Welcome);
 }
 
-void Wizard::ShowQuestion(Page page, const std::string& question, const std::string& first,
-                          const std::string& second) {
+void Wizard::ShowPage(Page page) {
   page_ = page;
+  const bool isQuestion = page != Page::Welcome;
+  window_.Step.caption = "Step " + std::to_string(static_cast<int>(page) + 1) + " of 3";
+  window_.Command3.visible = isQuestion;
+  window_.Command1.enabled = !isQuestion;
+  for (OptionButton& option : window_.Option1) option.visible = isQuestion;
+  for (Label& meaning : window_.Meaning) meaning.visible = isQuestion;
   // As in the menu, the fee mode is fixed after the first donation.
   window_.Closed.visible = page == Page::Fees && !main_.mnuAddFees.enabled;
+  switch (page) {
+    case Page::Welcome:
+      window_.Label1.caption =
+          "Welcome to " + info_.deployment.product + "\r\nThis wizard will help you get started";
+      return desk_.SetFocus(window_.Command1);
+    case Page::Fees:
+      return ShowQuestion(
+          "Choose the method you want Fees to be calculated",
+          {"Add to my Budget", "The Budget is given whole; the fees are paid on top of it."},
+          {"Deduct from my Budget", "The fees come out of the Budget; less of it is given."});
+    case Page::DonationMode:
+      return ShowQuestion(
+          "The amounts you type as Donation are:", {"Currency", "10 gives 10.00 dollars."},
+          {"% of Balance", "10 gives a tenth of what is left of the Budget."});
+  }
+}
+
+void Wizard::ShowQuestion(const std::string& question, const Answer& first, const Answer& second) {
   window_.Label1.caption = question;
-  window_.Option1[0].caption = first;
-  window_.Option1[1].caption = second;
-  for (OptionButton& option : window_.Option1) {
-    option.visible = true;
-    option.value = false;
+  for (int i = 0; const Answer* const answer : {&first, &second}) {
+    window_.Option1[i].caption = answer->caption;
+    window_.Option1[i].value = false;
+    window_.Meaning[i].caption = answer->meaning;
+    ++i;
   }
   desk_.SetFocus(window_.Option1[0]);
 }
@@ -56,18 +76,23 @@ void Wizard::Command1_Click() {
   const bool first = window_.Option1[0].value;
   switch (page_) {
     case Page::Welcome:
-      window_.Command1.enabled = false;
-      return ShowQuestion(Page::Fees, "Choose the method you want Fees to be calculated",
-                          "Add to my Budget", "Deduct from my Budget");
+      return ShowPage(Page::Fees);
     case Page::Fees:
-      window_.Command1.enabled = false;
       if (main_.mnuAddFees.enabled) SetFeeMode(main_, first ? FeeMode::Add : FeeMode::Deduct);
-      return ShowQuestion(Page::DonationMode, "The amounts you type as Donation are:", "Currency",
-                          "% of Balance");
+      return ShowPage(Page::DonationMode);
     case Page::DonationMode:
       SetDonationMode(main_, first ? DonationMode::Currency : DonationMode::Percentage);
       return desk_.Unload(window_);
   }
+}
+
+void Wizard::Command3_Click() {
+  if (page_ == Page::Fees) return ShowPage(Page::Welcome);
+  ShowPage(Page::Fees);
+  const bool adds = main_.mnuAddFees.checked;
+  window_.Option1[0].value = adds;
+  window_.Option1[1].value = !adds;
+  window_.Command1.enabled = true;
 }
 
 void Wizard::Command2_Click() {

@@ -32,12 +32,17 @@ class Wizard {
   void Option1_MouseUp(int index);
   void Command1_Click();
   void Command2_Click();
+  // Back to the page before, whose answer is the one in force.
+  void Command3_Click();
 
  private:
   enum class Page { Welcome, Fees, DonationMode };
+  struct Answer {
+    std::string caption, meaning;
+  };
 
-  void ShowQuestion(Page page, const std::string& question, const std::string& first,
-                    const std::string& second);
+  void ShowPage(Page page);
+  void ShowQuestion(const std::string& question, const Answer& first, const Answer& second);
 
   frmWizard& window_;
   frmBVX& main_;

@@ -15,8 +15,25 @@ bool LooksLikeAddress(const std::string& text) {
 }  // namespace
 
 void TellAFriend::Form_Load() {
-  window_.Text1[kOwnName].Write(StoredText("UsrName"));
-  window_.Text1[kOwnMail].Write(StoredText("UsrMail"));
+  const auto fill = [&](int field, const std::string& name, int donorsField) {
+    const std::string stored = StoredText(name);
+    window_.Text1[field].Write(stored.empty() ? donor_.Text1[donorsField].text : stored);
+  };
+  fill(kOwnName, "UsrName", contact_field::kFullName);
+  fill(kOwnMail, "UsrMail", contact_field::kEMail);
+}
+
+void TellAFriend::ShowMessage() {
+  if (desk_.IsShown(window_)) window_.Message.caption = Body();
+}
+
+std::string TellAFriend::Body() const {
+  const auto field = [&](int index) { return window_.Text1[index].text; };
+  return "Dear " + field(kFriendName) +
+         " I'm using Benevix for all my charity donations. I believe it will be useful for you "
+         "too. You can download it for FREE at " +
+         server_.Base() + "downloads/benevix1.zip \r\nBest Regards, " + field(kOwnName) + " \r\n" +
+         field(kOwnMail);
 }
 
 std::string TellAFriend::StoredText(const std::string& name) {
@@ -44,15 +61,9 @@ void TellAFriend::Send() {
   settings_.SaveUserString("UsrName", codec_.Scramble(window_.Text1[kOwnName].text));
   settings_.SaveUserString("UsrMail", codec_.Scramble(window_.Text1[kOwnMail].text));
   const auto field = [&](int index) { return window_.Text1[index].text; };
-  const std::string body =
-      "Dear " + field(kFriendName) +
-      " I'm using Benevix for all my charity donations. I believe it will be useful for you too. "
-      "You can download it for FREE at " +
-      server_.Base() + "downloads/benevix1.zip \r\nBest Regards, " + field(kOwnName) + " \r\n" +
-      field(kOwnMail);
   const MailOutcome outcome =
       SendMailNotice(server_, {field(kOwnMail), field(kFriendMail),
-                               field(kFriendName) + " Check this out - Benevix", body});
+                               field(kFriendName) + " Check this out - Benevix", Body()});
   if (outcome.result != MailResult::Sent) {
     messages_.ShowMessage(message::kMailFailed, message_kind::kFailedToConnect);
     return;

@@ -4,6 +4,7 @@
 #include "core/codec.h"
 #include "core/messages.h"
 #include "core/settings_store.h"
+#include "forms/frmPersInfo.h"
 #include "forms/frmTellAFriend.h"
 #include "server/server_files.h"
 
@@ -13,23 +14,29 @@ namespace benevix {
 // settings `UsrName` and `UsrMail`.
 class TellAFriend {
  public:
-  TellAFriend(frmTellAFriend& window, Desk& desk, SettingsStore& settings, const TextCodec& codec,
-              ServerFiles& server, Messages& messages)
+  TellAFriend(frmTellAFriend& window, const frmPersInfo& donor, Desk& desk, SettingsStore& settings,
+              const TextCodec& codec, ServerFiles& server, Messages& messages)
       : window_(window),
+        donor_(donor),
         desk_(desk),
         settings_(settings),
         codec_(codec),
         server_(server),
         messages_(messages) {}
 
+  // Begins with the sender of last time or, without one, the donor.
   void Form_Load();
   void Command1_Click(int index);
+  // Shows the message that Send would send.
+  void ShowMessage();
 
  private:
   void Send();
+  [[nodiscard]] std::string Body() const;
   [[nodiscard]] std::string StoredText(const std::string& name);
 
   frmTellAFriend& window_;
+  const frmPersInfo& donor_;
   Desk& desk_;
   SettingsStore& settings_;
   const TextCodec& codec_;

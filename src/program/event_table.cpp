@@ -275,6 +275,7 @@ void Program::ConnectSmallWindows() {
   events_.On(wizard.Option1, Event::MouseUp,
              [this](int index, EventArgs&) { wizard_.Option1_MouseUp(index); });
   events_.On(wizard.Command1, Event::Click, Plain([this] { wizard_.Command1_Click(); }));
+  events_.On(wizard.Command3, Event::Click, Plain([this] { wizard_.Command3_Click(); }));
   events_.On(wizard.Command2, Event::Click, Plain([this] { wizard_.Command2_Click(); }));
 
   frmSrch& search = forms_.Get<frmSrch>();

@@ -86,7 +86,8 @@ Program::Program(const Environment& environment)
                          const std::string& message) {
                     return printing_.PrintMessage(from, to, subject, message);
                   }}),
-      tellAFriend_(forms_.Get<frmTellAFriend>(), desk_, settings_, codec_, server_, messages_),
+      tellAFriend_(forms_.Get<frmTellAFriend>(), forms_.Get<frmPersInfo>(), desk_, settings_,
+                   codec_, server_, messages_),
       lastSession_(main_, values_, rates_, desk_, settings_, database_, messages_, environment_,
                    [this] { NewSession(); }),
       notice_(main_, charges_, server_, contact_, ranking_, lastSession_, journal_, environment_),
@@ -115,6 +116,7 @@ Program::Program(const Environment& environment)
     viewer_.ShowWays();
     paymentStates_.AfterEvent();
     contact_.ShowWhatFollows();
+    tellAFriend_.ShowMessage();
     preview_.Show();
     pastGifts_.Show();
     journalCommands_.Show();

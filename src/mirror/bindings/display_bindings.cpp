@@ -98,7 +98,9 @@ class PictureBinding : public WidgetBinding<PictureBox, QWidget> {
       : WidgetBinding(picture, widget, context),
         mouse_(
             widget, [this] { context_.input.Click(control_); },
-            [this] { context_.input.Hover(control_); }) {}
+            [this] { context_.input.Hover(control_); }) {
+    if (picture.isButton) widget.setFocusPolicy(Qt::StrongFocus);
+  }
 
  private:
   MouseFilter mouse_;

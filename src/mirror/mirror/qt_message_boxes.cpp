@@ -33,6 +33,14 @@ QWidget* WindowBelow() {
   return active != nullptr && active->isVisible() ? active : nullptr;
 }
 
+// Messages are laid out with blanks for a box of its own font; here the lines are aligned on the
+// left.
+QString Lines(const std::string& text) {
+  QStringList lines = Drawn(text).split(QLatin1Char('\n'));
+  for (QString& line : lines) line = line.simplified();
+  return lines.join(QLatin1Char('\n')).trimmed();
+}
+
 }  // namespace
 
 BoxAnswer QtMessageBoxes::Show(const std::string& title, const std::string& text, BoxIcon icon,
@@ -40,7 +48,7 @@ BoxAnswer QtMessageBoxes::Show(const std::string& title, const std::string& text
   const bool asks = buttons != BoxButtons::OK;
   // This updates the windows: one that closes now must not close the box with it.
   const WaitScope wait(waits_);
-  QMessageBox box(Icon(icon), Drawn(title), Drawn(text),
+  QMessageBox box(Icon(icon), Drawn(title), Lines(text),
                   asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, WindowBelow());
   box.setTextFormat(Qt::PlainText);
   if (asks) box.setEscapeButton(QMessageBox::No);
