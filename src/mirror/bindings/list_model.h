@@ -15,8 +15,8 @@ class ListModel : public QAbstractTableModel {
 
   ListModel(const ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
 
-  // Updates the view where texts or rows have changed since the last time. True when there are other
-  // rows.
+  // Updates the view where texts or rows have changed since the last time. True when there are
+  // other rows.
   bool Refresh();
 
   int rowCount(const QModelIndex& parent = {}) const override;
