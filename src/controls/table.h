@@ -34,7 +34,7 @@ struct Table : Control {
   [[nodiscard]] int Count() const { return rows ? rows->Count() : 0; }
 
   std::vector<Column> columns;
-  int widest = 0;            // the column that takes what room is left
+  int widest = 0;            // the column of names, with most of the room that is left
   bool takesFocus = true;    // otherwise its rows only lead elsewhere, and the keys pass it by
   bool canBeSorted = false;  // by a click on a column's heading
   int sorted = -1;           // the column by which the rows are sorted, -1 for none

@@ -6,6 +6,7 @@
 #include "base/format.h"
 #include "base/runtime_error.h"
 #include "session/payment_amount.h"
+#include "session/totals.h"
 
 namespace benevix {
 namespace {
@@ -94,7 +95,7 @@ void Charges::ShowBudgetUse(Currency serviceFees, const ByMethod& charges) {
   bar = MoneyBar();
   const int method = ChosenMethod();
   // A part of 0.00 would look as if something were missing.
-  const bool allGiven = values_.Balance == Currency() && values_.TotalDonated != Currency();
+  const bool allGiven = IsAllGiven(values_);
   const auto addLeft = [&] {
     if (!allGiven) bar.parts.push_back({Part::Use::Left, "Left", values_.Balance});
   };

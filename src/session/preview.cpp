@@ -2,6 +2,7 @@
 
 #include "base/format.h"
 #include "base/runtime_error.h"
+#include "session/totals.h"
 
 namespace benevix {
 
@@ -28,10 +29,7 @@ void Preview::ShowEstimate() {
 }
 
 std::string Preview::WhatContinueWaitsFor() const {
-  if (main_.Command1.enabled) {
-    const bool allGiven = values_.Balance == Currency() && values_.TotalDonated != Currency();
-    return allGiven ? "All is given" : std::string();
-  }
+  if (main_.Command1.enabled) return IsAllGiven(values_) ? "All is given" : "";
   if (values_.Budget == Currency()) return "Opens after a Budget and a donation";
   const Currency fee = donation_.ServiceFee();
   // So little is left already; only an entry opens it.

@@ -29,6 +29,10 @@ void OpenContinue(const SessionValues& values, frmBVX& main) {
   main.Command1.enabled = values.Balance <= values.BvxFee;
 }
 
+bool IsAllGiven(const SessionValues& values) {
+  return values.Balance == Currency() && values.TotalDonated != Currency();
+}
+
 bool HasBudget(const SessionValues& values, const frmBVX& main) {
   const TextBox& box = main.Text1[money_box::kBudget];
   return !box.text.empty() && (!box.typed || values.Budget != Currency());

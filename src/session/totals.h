@@ -16,6 +16,9 @@ void method73(const SessionValues& values, frmBVX& main, Desk& desk);
 // Enables Continue if the Balance does not exceed the last service fee.
 void OpenContinue(const SessionValues& values, frmBVX& main);
 
+// Whether something is given and nothing is left.
+bool IsAllGiven(const SessionValues& values);
+
 // Whether donations can be given: the Budget box shows a Budget, not only a text that is still
 // being typed.
 bool HasBudget(const SessionValues& values, const frmBVX& main);

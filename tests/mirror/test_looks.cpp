@@ -134,7 +134,7 @@ TEST(LooksTest, TheMainWindowKeepsItsArrangement) {
   auto& window =
       dynamic_cast<QMainWindow&>(shown.mirror.BindingOf(shown.forms.Get<frmBVX>())->Widget());
   window.resize(1100, 700);
-  auto& view = *window.findChild<QTableView*>();
+  auto& view = *window.findChild<QTableView*>("ListView1");
   view.setColumnWidth(2, 77);
   view.setColumnHidden(6, false);
   layout.Save(window);

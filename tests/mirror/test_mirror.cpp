@@ -175,7 +175,7 @@ TEST_F(MirrorTest, TheFocusAloneChoosesNoRow) {
   EXPECT_GT(main.ListView1.selected, 0);
 }
 
-TEST_F(MirrorTest, AListIsNewAtTheAddressOfTheLastOneToo) {
+TEST_F(MirrorTest, AListIsNewAtTheAddressOfTheLastOneAndScrolls) {
   struct Rows : SampleRows {
     [[nodiscard]] int Count() const override { return count; }
     [[nodiscard]] std::string Text(int row, int column) const override {
@@ -198,6 +198,12 @@ TEST_F(MirrorTest, AListIsNewAtTheAddressOfTheLastOneToo) {
   };
   EXPECT_TRUE(tipAt(1).startsWith(QStringLiteral("Org 2n")));
   EXPECT_EQ(tipAt(2), QStringLiteral("Ctrl+L"));
+  rows->count = 500;
+  input.Enter([&] {
+    main.ListView1.SetRows(rows);
+    main.ListView1.EnsureVisible(300);
+  });
+  EXPECT_EQ(view.rowAt(0), 299);
 }
 
 TEST_F(MirrorTest, TheSecondPressOfADoubleClickIsNoClick) {

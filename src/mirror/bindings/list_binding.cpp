@@ -49,7 +49,8 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
 
  private:
   void ApplyKind() override {
-    model_.Refresh();
+    // The view cannot scroll among rows that it has not laid out yet.
+    if (model_.Refresh()) widget_.doItemsLayout();
     // A row that is not shown stays selected.
     const QModelIndex selected = model_.IndexOf(control_.selected, column::kOrganization);
     if (widget_.currentIndex().row() != selected.row()) {
@@ -62,7 +63,8 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
     }
     if (scrolls_ != control_.scrolls) {
       scrolls_ = control_.scrolls;
-      widget_.scrollTo(model_.IndexOf(control_.top, 0), QAbstractItemView::PositionAtTop);
+      widget_.scrollTo(model_.IndexOf(control_.top, column::kOrganization),
+                       QAbstractItemView::PositionAtTop);
     }
     if (filtered_ != control_.shownRows) {
       filtered_ = control_.shownRows;

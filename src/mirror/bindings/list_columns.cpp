@@ -4,10 +4,10 @@
 #include <QMenu>
 #include <QShortcut>
 #include <QTableView>
-#include <algorithm>
 
 #include "controls/list_view.h"
 #include "database/organization_list.h"
+#include "mirror/bindings/column_room.h"
 #include "mirror/look/texts.h"
 
 namespace benevix {
@@ -63,7 +63,6 @@ void LayOutColumns(QTableView& view, const ListView& list) {
   for (int i = column::kOrganization; i < ListView::kColumns; ++i) {
     header.resizeSection(i, widths[i] * unit);
   }
-  header.setSectionResizeMode(column::kOrganization, QHeaderView::Fixed);
   QObject::connect(&header, &QHeaderView::sectionResized, &view, [&view, &header](int section) {
     const bool follows = section == column::kOrganization || section == LastColumn(header);
     if (!follows) FitColumns(view);
@@ -73,21 +72,13 @@ void LayOutColumns(QTableView& view, const ListView& list) {
 }
 
 void FitColumns(QTableView& view) {
-  QHeaderView& header = *view.horizontalHeader();
   const int unit = view.fontMetrics().averageCharWidth();
-  const int last = LastColumn(header);
-  if (last == column::kOrganization) return;
-  int others = kLastLeast * unit;
-  for (int i = column::kOrganization + 1; i < last; ++i) {
-    if (header.sectionResizeMode(i) == QHeaderView::Stretch) {  // it was the last one
-      header.setSectionResizeMode(i, QHeaderView::Interactive);
-      header.resizeSection(i, kLastLeast * unit);
-    }
-    others += header.sectionSize(i);
-  }
-  header.setSectionResizeMode(last, QHeaderView::Stretch);
-  header.resizeSection(column::kOrganization, std::clamp(view.viewport()->width() - others,
-                                                         kNameLeast * unit, kNameMost * unit));
+  const ColumnRoom room{.names = column::kOrganization,
+                        .least = kNameLeast * unit,
+                        .most = kNameMost * unit,
+                        .rest = LastColumn(*view.horizontalHeader()),
+                        .restLeast = kLastLeast * unit};
+  room.Share(*view.horizontalHeader(), view.viewport()->width());
 }
 
 }  // namespace benevix

@@ -6,6 +6,7 @@
 #include <QTableView>
 #include <algorithm>
 
+#include "mirror/bindings/column_room.h"
 #include "mirror/bindings/make_binding.h"
 #include "mirror/bindings/widget_binding.h"
 #include "mirror/look/texts.h"
@@ -113,6 +114,7 @@ class TableBinding : public QObject, public WidgetBinding<Table, QTableView> {
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (watched == widget_.viewport()) {
+      if (event->type() == QEvent::Resize) ShareRoom();
       if (event->type() == QEvent::MouseButtonDblClick) return true;  // a double click is one click
       if (event->type() == QEvent::MouseButtonPress) pressed_ = true;
       if (event->type() == QEvent::MouseButtonRelease) pressed_ = false;
@@ -152,16 +154,28 @@ class TableBinding : public QObject, public WidgetBinding<Table, QTableView> {
     for (int i = 0; i < model_.columnCount(); ++i) {
       const Table::Column& column = control_.columns[static_cast<std::size_t>(i)];
       const QString caption = ToQString(column.caption) + QStringLiteral(" \u25be");
-      header.resizeSection(
-          i, std::max(column.width * digit, QFontMetrics(bold).horizontalAdvance(caption)) +
-                 2 * inset);
+      const int least = QFontMetrics(bold).horizontalAdvance(caption) + 2 * inset;
+      if (i == control_.widest) room_.least = least;
+      header.resizeSection(i, std::max(column.width * digit + 2 * inset, least));
     }
     header.setMinimumSectionSize(8 * digit);
-    header.setSectionResizeMode(control_.widest, QHeaderView::Stretch);
+    room_.names = room_.rest = control_.widest;
+    for (int i = control_.widest + 1; i < model_.columnCount(); ++i) {
+      if (!control_.columns[static_cast<std::size_t>(i)].isNumber) room_.rest = i;
+    }
+    constexpr int longest = 56;  // digits
+    room_.most = longest * digit;
+    room_.restLeast = header.sectionSize(room_.rest);
+    ShareRoom();
+    connect(&header, &QHeaderView::sectionResized, this, [this](int section) {
+      if (section != room_.names && section != room_.rest) ShareRoom();
+    });
     widget_.verticalHeader()->hide();
     widget_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     widget_.verticalHeader()->setDefaultSectionSize(widget_.fontMetrics().height() + 8);
   }
+
+  void ShareRoom() { room_.Share(*widget_.horizontalHeader(), widget_.viewport()->width()); }
 
   void ApplyKind() override {
     const bool isNew = model_.Refresh();
@@ -187,6 +201,7 @@ class TableBinding : public QObject, public WidgetBinding<Table, QTableView> {
   }
 
   TableModel model_;
+  ColumnRoom room_;
   bool pressed_ = false;
 };
 

@@ -15,8 +15,13 @@ constexpr int kMost = 90;
 }  // namespace
 
 FoldingPane::FoldingPane(QWidget* parent) : QWidget(parent) {
+  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
   hide();  // until it is known that there is room
   parent->installEventFilter(this);
+}
+
+QSize FoldingPane::sizeHint() const {
+  return {width_, QWidget::sizeHint().height()};
 }
 
 bool FoldingPane::eventFilter(QObject* watched, QEvent* event) {
@@ -27,7 +32,8 @@ bool FoldingPane::eventFilter(QObject* watched, QEvent* event) {
 
 void FoldingPane::Fit(int room) {
   const int unit = fontMetrics().averageCharWidth();
-  setFixedWidth(std::clamp(room / 4, kLeast * unit, kMost * unit));
+  width_ = std::clamp(room / 4, kLeast * unit, kMost * unit);
+  updateGeometry();
   setVisible(room >= (kRoomBeside + kLeast) * unit);
 }
 

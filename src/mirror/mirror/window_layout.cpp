@@ -52,9 +52,11 @@ void WindowLayout::Restore(QMainWindow& window) const {
     const QList<int> widths = Numbers(settings_, "Columns", header.count());
     for (int i = column::kOrganization; i < widths.size(); ++i) {
       header.setSectionHidden(i, widths[i] == 0);
+    }
+    FitColumns(*view);  // of what is shown now
+    for (int i = column::kOrganization; i < widths.size(); ++i) {
       if (widths[i] != 0) header.resizeSection(i, widths[i]);
     }
-    FitColumns(*view);
   }
 }
 
