@@ -65,10 +65,13 @@ class Donor {
 
 }  // namespace
 
-DonationTimes TimeDonationEntries(const std::string& folder, int given) {
+DonationTimes TimeDonationEntries(const std::string& folder, int given, Steps steps) {
   NoWaits waits;
   NoBoxes boxes;
   Machine machine(folder + "/benevix", waits, boxes);
+  Environment environment = machine.TheEnvironment();
+  const auto other =
+      steps == Steps::InFile ? nullptr : environment.files.Lock(environment.info.folder, {});
   Program program(machine.TheEnvironment());
   program.Main();
   Donor donor(program);
@@ -80,6 +83,7 @@ DonationTimes TimeDonationEntries(const std::string& folder, int given) {
     donor.Give(given);
     times.push_back(watch.Milliseconds());
   }
+  environment.files.Remove(environment.info.Resource("session.journal"));
   return {program.TheForms().Get<frmBVX>().ListView1.Count(), given, Median(times)};
 }
 

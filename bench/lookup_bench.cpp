@@ -105,7 +105,7 @@ FavoriteTimes TimeFavorites(const std::string& folder, int favorites) {
   if (main.mnuFavs.items.size() != static_cast<std::size_t>(favorites)) {
     throw std::runtime_error("the favorites were not found");
   }
-  main.ListView1.selected = 3;
+  input.SelectRow(main.ListView1, 3, MouseButton::Left);
   const Stopwatch add;
   input.ChooseMenu(main.mnuFavAdd);
   times.added = add.Milliseconds();

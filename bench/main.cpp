@@ -2,24 +2,20 @@
 
 #include <QApplication>
 #include <QStandardPaths>
-#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
-#include <iostream>
 #include <stdexcept>
 #include <string>
 
 #include "child.h"
-#include "database/organization_list.h"
-#include "database/row_filter.h"
+#include "children.h"
 #include "donation_bench.h"
 #include "folder.h"
 #include "giving_bench.h"
 #include "lookup_bench.h"
 #include "make_list.h"
 #include "memory.h"
-#include "platform/linux/linux_files.h"
 #include "report.h"
 #include "stopwatch.h"
 
@@ -28,72 +24,12 @@ namespace {
 using namespace benevix;
 namespace fs = std::filesystem;
 
-constexpr int kOrganizations = 2'000'000;
 constexpr int kCountries = 250;
-constexpr int kGiven = 1000;
-constexpr int kGivenInBoth = 400;  // the shipped list has hardly more organizations
-constexpr int kFavorites = 5000;
+constexpr int kGivenInBoth = 400;   // the shipped list has hardly more organizations
 constexpr int kSessions = 100'000;  // of the history, with ten gifts each
 constexpr int kRuns = 9;
 constexpr int kNothingFound = 1;  // the exit status of the search programs
 constexpr double kMegabyte = 1e6;
-constexpr auto kNowhere = "Zebra";  // a word that the list has not
-
-// "--load FILE": loads the list in a new process, as the program does at its start, and writes the
-// milliseconds and the bytes of memory that it took.
-int Load(const std::string& file) {
-  const double before = MemoryOf("self").resident;
-  const Stopwatch watch;
-  const OrganizationList list(*LinuxFiles().Open(FilePath(file)));
-  const double elapsed = watch.Milliseconds();
-  if (list.Count() < kOrganizations) return 1;
-  std::cout << elapsed << ' ' << MemoryOf("self").resident - before << std::endl;
-  return 0;
-}
-
-// "--find FILE": loads the list in a new process and writes the milliseconds of a search for a word
-// that no organization has.
-int Find(const std::string& file) {
-  const OrganizationList list(*LinuxFiles().Open(FilePath(file)));
-  const Stopwatch watch;
-  const OrganizationList::Found found = list.FindText(kNowhere, 1);
-  const double elapsed = watch.Milliseconds();
-  if (found.beginning != 0 || found.part != 0) return 1;
-  std::cout << elapsed << std::endl;
-  return 0;
-}
-
-// "--filter FILE": the same for the filter of the list: the first letter, and the slowest of the
-// further ones.
-int Filter(const std::string& file) {
-  const OrganizationList list(*LinuxFiles().Open(FilePath(file)));
-  double first = 0, further = 0;
-  for (const std::string word : {"and", "water", "zebra"}) {
-    ShownRows before;
-    for (std::size_t size = 1; size <= word.size(); ++size) {
-      const Stopwatch watch;
-      before = RowsWith(list, {word.substr(0, size)}, nullptr);
-      double& slowest = size == 1 ? first : further;
-      slowest = std::max(slowest, watch.Milliseconds());
-    }
-  }
-  std::cout << first << ' ' << further << std::endl;
-  return 0;
-}
-
-// "--report FOLDER": the same for the giving report of a program folder.
-int TellReport(const std::string& folder) {
-  const ReportTimes times = TimeReport(folder);
-  std::cout << times.shown << ' ' << times.csv << std::endl;
-  return 0;
-}
-
-// "--favorites FOLDER": the same for the favorites.
-int TellFavorites(const std::string& folder) {
-  const FavoriteTimes times = TimeFavorites(folder, kFavorites);
-  std::cout << times.menu << ' ' << times.added << std::endl;
-  return 0;
-}
 
 void BenchLoad(Report& report, const std::string& self, const std::string& list) {
   std::vector<double> loads;
@@ -122,18 +58,23 @@ void BenchLoad(Report& report, const std::string& self, const std::string& list)
 }
 
 void BenchDonations(Report& report, const fs::path& shipped, const fs::path& big) {
-  const DonationTimes few = TimeDonationEntries(shipped.string(), kGivenInBoth);
-  const DonationTimes many = TimeDonationEntries(big.string(), kGivenInBoth);
-  const DonationTimes full = TimeDonationEntries(big.string(), kGiven);
+  const DonationTimes few = TimeDonationEntries(shipped.string(), kGivenInBoth, Steps::InFile);
+  const DonationTimes many = TimeDonationEntries(big.string(), kGivenInBoth, Steps::InFile);
+  const DonationTimes full = TimeDonationEntries(big.string(), kGiven, Steps::InFile);
+  const DonationTimes entry = TimeDonationEntries(big.string(), kGiven, Steps::InMemory);
   report.Title("One donation entry, with its step in the journal");
   for (const DonationTimes& times : {few, many, full}) {
     report.Line(
         std::to_string(times.rows) + " rows, " + std::to_string(times.given) + " donations given",
         times.entry, "ms");
   }
+  report.Line("of it the entry itself", entry.entry, "ms");
+  report.Line("and writing its step to the disk", full.entry - entry.entry, "ms");
   constexpr double limit = 0.1;  // milliseconds
   report.Ratio("1000 donations given / 0.1 ms", full.entry / limit, 1);
+  report.Ratio("the entry itself / 0.1 ms", entry.entry / limit, 1);
   report.Ratio("long list / shipped list", many.entry / few.entry, 1.2);
+  report.Ratio("1000 / 400 donations given", full.entry / many.entry, 1.2);
 }
 
 void BenchFind(Report& report, const std::string& self, const std::string& list) {
@@ -305,17 +246,7 @@ Report Bench(const std::string& self, const fs::path& resources) {
 int main(int argc, char** argv) {
   try {
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
-    if (argc == 3 && std::string(argv[1]) == "--load") return Load(argv[2]);
-    if (argc == 3 && std::string(argv[1]) == "--find") return Find(argv[2]);
-    if (argc == 3 && std::string(argv[1]) == "--filter") return Filter(argv[2]);
-    if (argc == 3 && std::string(argv[1]) == "--report") {
-      const QApplication app(argc, argv);
-      return TellReport(argv[2]);
-    }
-    if (argc == 3 && std::string(argv[1]) == "--favorites") {
-      const QApplication app(argc, argv);
-      return TellFavorites(argv[2]);
-    }
+    if (const auto status = RunAsChild(argc, argv)) return *status;
     const bool json = argc == 3 && std::string(argv[1]) == "--json";
     if (argc != 1 && !json) throw std::runtime_error("usage: benevix-bench [--json FILE]");
     // Offscreen, so that results of different machines can be compared.

@@ -48,6 +48,9 @@ class LineScan {
  public:
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
+  // From `begin` on, where a line begins.
+  explicit LineScan(std::size_t begin = 0) : seen_(begin), lineBegin_(begin) {}
+
   // Scans on from where the last call stopped to `end`; `text` always begins at the same byte.
   // Calls line(begin, end, comma) for each line feed, with the offsets of the line's first byte, of
   // the line feed and of the last comma before it, which may belong to an earlier line (kNone
@@ -60,8 +63,8 @@ class LineScan {
   [[nodiscard]] std::size_t LastComma() const { return lastComma_; }
 
  private:
-  std::size_t seen_ = 0;
-  std::size_t lineBegin_ = 0;
+  std::size_t seen_;
+  std::size_t lineBegin_;
   std::size_t lastComma_ = kNone;
 };
 

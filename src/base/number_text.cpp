@@ -1,7 +1,9 @@
 #include "base/number_text.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <utility>
 
@@ -26,6 +28,16 @@ struct Digits {
 
 // Nothing when the value is too large for a double.
 std::optional<double> ToDouble(const Digits& digits) {
+  constexpr std::array powers = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  if (digits.exponent == 0 && digits.whole.size() + digits.decimals.size() < powers.size()) {
+    // Both are exact, so that only the quotient is rounded.
+    std::int64_t number = 0;
+    for (const std::string& part : {std::cref(digits.whole), std::cref(digits.decimals)}) {
+      for (const char digit : part) number = number * 10 + (digit - '0');
+    }
+    return static_cast<double>(number) / powers[digits.decimals.size()];
+  }
   const std::string text = (digits.whole.empty() ? "0" : digits.whole) + "." + digits.decimals +
                            "0e" + std::to_string(digits.exponent);
   double value = 0;

@@ -1,6 +1,6 @@
 #include "database/organization_database.h"
 
-#include <unordered_map>
+#include <unordered_set>
 
 #include "base/number_text.h"
 #include "base/runtime_error.h"
@@ -43,39 +43,28 @@ void OrganizationDatabase::BuildCountriesMenu() {
   }
 }
 
-namespace {
-
-// The first row of each wanted key, under its name in `wanted`; keyOf(row) is the key of a row.
-template <class Keys, class KeyOf>
-std::map<std::string, int> FindFirst(const OrganizationList* list, Keys wanted, KeyOf keyOf) {
-  std::map<std::string, int> rows;
-  for (int row = 1; list != nullptr && row <= list->Count() && !wanted.empty(); ++row) {
-    const auto found = wanted.find(keyOf(row));
-    if (found == wanted.end()) continue;
-    rows[found->second] = row;
-    wanted.erase(found);
-  }
-  return rows;
-}
-
-}  // namespace
-
 std::map<std::string, int> OrganizationDatabase::FindRowsById(
     const std::set<std::string>& ids) const {
-  std::unordered_map<std::optional<std::int32_t>, std::string> wanted;
+  std::set<std::int32_t> numbers;
   for (const std::string& id : ids) {
-    if (const auto number = IdIn(id)) wanted[number] = id;
+    if (const auto number = IdIn(id)) numbers.insert(*number);
   }
-  return FindFirst(list_.get(), wanted, [this](int row) { return list_->Id(row); });
+  std::map<std::string, int> rows;
+  if (!list_) return rows;
+  for (const auto& [id, row] : list_->FindIds(numbers)) rows[std::to_string(id)] = row;
+  return rows;
 }
 
 std::map<std::string, int> OrganizationDatabase::FindRowsByName(
     const std::set<std::string>& names) const {
-  std::unordered_map<std::string_view, std::string> wanted;
-  for (const std::string& name : names) wanted.emplace(name, name);
+  std::unordered_set<std::string_view> wanted(names.begin(), names.end());
   wanted.erase("");
-  return FindFirst(list_.get(), wanted,
-                   [this](int row) { return list_->View(row, column::kOrganization); });
+  std::map<std::string, int> rows;
+  for (int row = 1; list_ && row <= list_->Count() && !wanted.empty(); ++row) {
+    const std::string_view name = list_->View(row, column::kOrganization);
+    if (wanted.erase(name) != 0) rows[std::string(name)] = row;
+  }
+  return rows;
 }
 
 }  // namespace benevix

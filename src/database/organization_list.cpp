@@ -1,12 +1,13 @@
 #include "database/organization_list.h"
 
 #include <algorithm>
+#include <bitset>
 #include <charconv>
-#include <cmath>
 #include <cstring>
+#include <future>
 #include <limits>
+#include <thread>
 
-#include "base/line_scan.h"
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
@@ -15,31 +16,24 @@
 namespace benevix {
 namespace {
 
-constexpr std::size_t kIdLength = 8;
-constexpr std::size_t kNameBegin = 9;
-// Bytes per read; they are scanned while still in the processor's cache.
-constexpr std::size_t kReadSize = std::size_t{256} << 10;
-// For reserving memory: few lines are shorter, and memory that is never touched costs nothing.
-constexpr std::size_t kShortLine = 32;
-
-std::string_view WithoutReturn(std::string_view line) {
-  if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-  return line;
-}
-
-// Whether eight characters are all digits; such a number cannot be out of range.
-bool IsPlainId(const char* digits) {
-  std::uint64_t eight = 0;
-  std::memcpy(&eight, digits, kIdLength);
-  constexpr std::uint64_t ones = 0x0101010101010101;
-  // Digits are 0x30 to 0x39: the high half is 3, and adding 6 to the low half does not carry.
-  const std::uint64_t high = eight & (ones * 0xF0);
-  const std::uint64_t carried = (eight + ones * 6) & (ones * 0xF0);
-  return high == ones * 0x30 && carried == ones * 0x30;
-}
-
-std::int32_t OrganizationId(std::string_view line) {
-  return ToInt32(std::trunc(Val(line.substr(0, kIdLength))));
+// Where the parts of the file end that are loaded side by side, each behind a line; the last one at
+// the end of the file.
+std::vector<std::size_t> PartEnds(const FileReader& file, std::size_t size) {
+  constexpr std::size_t isLong = std::size_t{1} << 20;  // worth another thread
+  constexpr std::size_t mostParts = 4;                  // more would wait for the memory
+  const std::size_t parts = std::clamp<std::size_t>(
+      std::min<std::size_t>(size / isLong, std::thread::hardware_concurrency()), 1, mostParts);
+  std::vector<std::size_t> ends;
+  std::string around(std::size_t{4} << 10, '\0');
+  for (std::size_t part = 1; part < parts; ++part) {
+    const std::size_t from = size / parts * part;
+    const std::size_t count = file.Read(from, around.data(), around.size());
+    const std::size_t lineEnd = std::string_view(around.data(), count).find('\n');
+    // A line can be longer; then this part and the next one are loaded as one.
+    if (lineEnd != std::string_view::npos) ends.push_back(from + lineEnd + 1);
+  }
+  ends.push_back(size);
+  return ends;
 }
 
 struct OrganizationTexts {
@@ -53,16 +47,7 @@ OrganizationTexts TextsOf(std::string_view line) {
   return {rest.substr(0, comma), comma + 2 < rest.size() ? rest.substr(comma + 2) : ""};
 }
 
-bool IsBlank(std::string_view line) {
-  return line.find_first_not_of(' ') == std::string_view::npos;
-}
-
 }  // namespace
-
-std::optional<float> HeaderVersion(std::string_view line) {
-  if (!line.starts_with(kListHeader)) return std::nullopt;
-  return ToSingle(Val(line.substr(kListHeader.size())));
-}
 
 std::optional<std::int32_t> IdIn(std::string_view text) {
   std::int32_t id = 0;
@@ -85,77 +70,31 @@ std::string ListFault(const Files& files, const FilePath& file) {
   }
 }
 
-OrganizationList::OrganizationList(FileReader& file) {
+OrganizationList::OrganizationList(const FileReader& file) {
   const std::size_t size = file.State().size;
   if (size > std::numeric_limits<std::uint32_t>::max()) {
-    damage_ = "too large";
+    lines_.damage = "too large";
     return;
   }
   bytes_.resize(size);
-  lineStarts_.reserve(size / kShortLine);
-  LineScan scan;
-  const auto onLine = [this](std::size_t begin, std::size_t end, std::size_t comma) {
-    if (!IsPlainOrganization(begin, comma)) return AddLine(begin, end, comma);
-    lineStarts_.push_back(static_cast<std::uint32_t>(begin));
-    return true;
-  };
-  bool intact = true;
-  std::size_t loaded = 0;
-  while (intact && loaded < size) {
-    const std::size_t count =
-        file.Read(loaded, bytes_.data() + loaded, std::min(kReadSize, size - loaded));
-    if (count == 0) break;
-    loaded += count;
-    intact = scan.Advance(bytes_.data(), loaded, onLine);
+  lines_.starts.reserve(size / kShortLine);
+  const std::vector<std::size_t> ends = PartEnds(file, size);
+  std::vector<ListLines> others(ends.size() - 1);
+  std::vector<std::future<void>> loads;
+  for (std::size_t i = 0; i < others.size(); ++i) {
+    loads.push_back(std::async(
+        std::launch::async, [&, i] { others[i].Load(file, bytes_.data(), ends[i], ends[i + 1]); }));
   }
-  bytes_.resize(loaded);
-  if (intact && scan.LineBegin() < loaded) AddLine(scan.LineBegin(), loaded, scan.LastComma());
-}
-
-bool OrganizationList::IsPlainOrganization(std::size_t begin, std::size_t lastComma) const {
-  return lastComma != LineScan::kNone && lastComma >= begin + kNameBegin &&
-         IsPlainId(bytes_.data() + begin);
-}
-
-bool OrganizationList::AddLine(std::size_t begin, std::size_t end, std::size_t lastComma) {
-  const std::string_view line = WithoutReturn({bytes_.data() + begin, end - begin});
-  if (line.empty()) return true;
-  if (line[0] == ';') {
-    try {
-      if (const auto version = HeaderVersion(line)) version_ = version;
-    } catch (const RuntimeError& error) {
-      damage_ = error.what();
-    }
-    return damage_.empty();
+  lines_.Load(file, bytes_.data(), 0, ends[0]);
+  for (std::size_t i = 0; i < others.size(); ++i) {
+    loads[i].get();
+    if (lines_.loaded == ends[i]) lines_.Append(others[i]);
   }
-  if (line[0] == '[') {
-    headings_.push_back(static_cast<int>(lineStarts_.size()) + 1);
-  } else {
-    const bool inLine = lastComma != LineScan::kNone && lastComma >= begin;
-    if (!CheckOrganization(line, inLine ? lastComma - begin : LineScan::kNone)) return false;
-  }
-  lineStarts_.push_back(static_cast<std::uint32_t>(begin));
-  return true;
-}
-
-bool OrganizationList::CheckOrganization(std::string_view line, std::size_t comma) {
-  const bool hasComma =
-      comma != LineScan::kNone && (comma >= kNameBegin || line.size() <= kNameBegin);
-  if (!hasComma && !IsBlank(line)) {
-    damage_ = "an organization without a comma behind its name";
-    return false;
-  }
-  try {
-    OrganizationId(line);
-  } catch (const RuntimeError&) {
-    damage_ = "an organization's number is too large";
-    return false;
-  }
-  return true;
+  bytes_.resize(lines_.loaded);
 }
 
 std::string_view OrganizationList::Line(int row) const {
-  return LineAt(lineStarts_[static_cast<std::size_t>(row - 1)]);
+  return LineAt(lines_.starts[static_cast<std::size_t>(row - 1)]);
 }
 
 std::string_view OrganizationList::LineAt(std::size_t begin) const {
@@ -168,9 +107,10 @@ std::string_view OrganizationList::LineAt(std::size_t begin) const {
 }
 
 std::string OrganizationList::Fault() const {
-  if (!damage_.empty()) return damage_;
-  if (version_ && !IsListVersion(*version_)) return "version " + SingleToText(*version_);
-  return version_ || Count() > 0 ? "" : "empty";
+  if (!lines_.damage.empty()) return lines_.damage;
+  if (lines_.version && !IsListVersion(*lines_.version))
+    return "version " + SingleToText(*lines_.version);
+  return lines_.version || Count() > 0 ? "" : "empty";
 }
 
 std::string OrganizationList::Text(int row, int column) const {
@@ -181,14 +121,29 @@ std::string OrganizationList::Text(int row, int column) const {
 }
 
 std::optional<std::int32_t> OrganizationList::Id(int row) const {
-  const std::string_view line = Line(row);
-  if (line[0] == '[') return std::nullopt;
-  return OrganizationId(line);
+  const char* const line = bytes_.data() + lines_.starts[static_cast<std::size_t>(row - 1)];
+  if (*line == '[') return std::nullopt;
+  const auto length = static_cast<std::size_t>(bytes_.data() + bytes_.size() - line);
+  return length >= kIdLength && IsPlainId(line) ? PlainId(line) : OrganizationId(Line(row));
+}
+
+std::map<std::int32_t, int> OrganizationList::FindIds(const std::set<std::int32_t>& ids) const {
+  // By the last bits of its ID nearly every row is known not to be wanted.
+  constexpr std::size_t bits = std::size_t{1} << 16;
+  std::bitset<bits> mayBeWanted;
+  const auto bit = [](std::int32_t id) { return static_cast<std::uint32_t>(id) % bits; };
+  for (const std::int32_t id : ids) mayBeWanted.set(bit(id));
+  std::map<std::int32_t, int> rows;
+  for (int row = 1; row <= Count() && rows.size() < ids.size(); ++row) {
+    const auto id = Id(row);
+    if (id && mayBeWanted[bit(*id)] && ids.contains(*id)) rows.try_emplace(*id, row);
+  }
+  return rows;
 }
 
 const char* OrganizationList::PlaceInTexts(int row, const char* place, std::size_t size) const {
   const char* const name =
-      bytes_.data() + lineStarts_[static_cast<std::size_t>(row - 1)] + kNameBegin;
+      bytes_.data() + lines_.starts[static_cast<std::size_t>(row - 1)] + kNameBegin;
   if (place < name) return name;
   const auto find = [&](char wanted, const char* end) {
     return static_cast<const char*>(
@@ -205,7 +160,7 @@ int OrganizationList::FindWord(const WordSearch& word, int from, int to) const {
   const char* const bytes = bytes_.data();
   const char* const end = bytes + bytes_.size();
   const auto begin = [&](int row) {
-    return bytes + lineStarts_[static_cast<std::size_t>(row - 1)];
+    return bytes + lines_.starts[static_cast<std::size_t>(row - 1)];
   };
   const char* const limit = to < Count() ? begin(to + 1) : end;
   const char* at = from <= to ? begin(from) : limit;
@@ -230,7 +185,7 @@ int OrganizationList::FindName(std::string_view word, int from) const {
 int OrganizationList::FindNameIn(std::string_view word, int from, int to) const {
   for (int row = from; row <= to; ++row) {
     // Comparing the first letter skips most rows without cutting out the name.
-    const std::size_t at = lineStarts_[static_cast<std::size_t>(row - 1)] + kNameBegin;
+    const std::size_t at = lines_.starts[static_cast<std::size_t>(row - 1)] + kNameBegin;
     if (at >= bytes_.size() || !SameLetter(bytes_[at], word[0])) continue;
     if (BeginsWith(View(row, column::kOrganization), word)) return row;
   }
@@ -238,9 +193,9 @@ int OrganizationList::FindNameIn(std::string_view word, int from, int to) const 
 }
 
 int OrganizationList::RowOf(std::size_t begin) const {
-  const auto found = std::ranges::lower_bound(lineStarts_, begin);
-  const bool isRow = found != lineStarts_.end() && *found == begin;
-  return isRow ? static_cast<int>(found - lineStarts_.begin()) + 1 : 0;
+  const auto found = std::ranges::lower_bound(lines_.starts, begin);
+  const bool isRow = found != lines_.starts.end() && *found == begin;
+  return isRow ? static_cast<int>(found - lines_.starts.begin()) + 1 : 0;
 }
 
 OrganizationList::Found OrganizationList::FindText(std::string_view word, int partFrom) const {

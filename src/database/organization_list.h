@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,6 +11,7 @@
 #include "base/large_memory.h"
 #include "base/word_search.h"
 #include "controls/list_view.h"
+#include "database/list_lines.h"
 #include "platform/files.h"
 
 namespace benevix {
@@ -34,15 +37,18 @@ class OrganizationList : public RowSource {
  public:
   // Reads the file; raises RuntimeError when that fails. A bad line ends the list before it, and a
   // file of 4 GiB or more is not read at all; Damage() then says why.
-  explicit OrganizationList(FileReader& file);
+  explicit OrganizationList(const FileReader& file);
 
-  [[nodiscard]] int Count() const override { return static_cast<int>(lineStarts_.size()); }
+  [[nodiscard]] int Count() const override { return static_cast<int>(lines_.starts.size()); }
   [[nodiscard]] std::string Text(int row, int column) const override;
 
   // As Text, without a copy, for a row in range; empty for ID and the written columns.
   [[nodiscard]] std::string_view View(int row, int column) const;
   // The ID of an organization, nothing for a heading; the row must be in range.
   [[nodiscard]] std::optional<std::int32_t> Id(int row) const;
+
+  // The first row of each of these IDs that the list has.
+  [[nodiscard]] std::map<std::int32_t, int> FindIds(const std::set<std::int32_t>& ids) const;
 
   // The first of the organizations from row `from` to `to`, with no heading between them, whose
   // name or type contains the word; 0 without one.
@@ -61,21 +67,16 @@ class OrganizationList : public RowSource {
   [[nodiscard]] Found FindText(std::string_view word, int partFrom) const;
 
   // The rows of the country headings, in order.
-  [[nodiscard]] const std::vector<int>& Headings() const { return headings_; }
+  [[nodiscard]] const std::vector<int>& Headings() const { return lines_.headings; }
   // The version of the last header line.
-  [[nodiscard]] const std::optional<float>& Version() const { return version_; }
+  [[nodiscard]] const std::optional<float>& Version() const { return lines_.version; }
   // Why the load ended early, or empty.
-  [[nodiscard]] const std::string& Damage() const { return damage_; }
+  [[nodiscard]] const std::string& Damage() const { return lines_.damage; }
   // Why another list is better than this one: its damage, an absurd version, which no update would
   // ever exceed, or nothing in it; or empty.
   [[nodiscard]] std::string Fault() const;
 
  private:
-  // Fast check that nearly every line passes; the others go through AddLine.
-  [[nodiscard]] bool IsPlainOrganization(std::size_t begin, std::size_t lastComma) const;
-  // Both return false at a bad line and set damage_.
-  bool AddLine(std::size_t begin, std::size_t end, std::size_t lastComma);
-  bool CheckOrganization(std::string_view line, std::size_t comma);
   [[nodiscard]] std::string_view Line(int row) const;
   // `place`, behind the beginning of the row's line, when `size` bytes from there on belong to its
   // name or its type; otherwise a place behind it up to which none does.
@@ -86,14 +87,8 @@ class OrganizationList : public RowSource {
   [[nodiscard]] int FindNameIn(std::string_view word, int from, int to) const;
 
   std::vector<char, LargeAllocator<char>> bytes_;
-  std::vector<std::uint32_t, LargeAllocator<std::uint32_t>> lineStarts_;
-  std::vector<int> headings_;
-  std::optional<float> version_;
-  std::string damage_;
+  ListLines lines_;
 };
-
-// How a header line begins.
-inline constexpr std::string_view kListHeader = ";QUORL";
 
 // The ID that the list shows as this text; nothing for another text.
 std::optional<std::int32_t> IdIn(std::string_view text);
@@ -103,8 +98,5 @@ bool IsListVersion(float version);
 
 // The Fault of a list file, also when it cannot be read; never raises.
 std::string ListFault(const Files& files, const FilePath& file);
-
-// The version in a header line; nothing for any other line. Raises RuntimeError beyond a float.
-std::optional<float> HeaderVersion(std::string_view line);
 
 }  // namespace benevix

@@ -60,16 +60,22 @@ Charge ChargeWith(int option, const SessionValues& values, const FeeRates& rates
   return charge;
 }
 
+void Charges::TakeTotals() {
+  const ListView& list = main_.ListView1;
+  if (totals_.loads == list.loads && totals_.changes == list.changes) return;
+  totals_ = {list.loads, list.changes, ServiceFeeTotal(list), CardFeeTotal(list)};
+}
+
 void Charges::Show() {
   ByMethod charges;
   try {
-    const Currency serviceFees = ServiceFeeTotal(main_.ListView1);
+    TakeTotals();
     if (values_.TotalDonated != Currency()) {
       for (int option = 0; auto& charge : charges) {
-        charge = ChargeWith(option++, values_, rates_, serviceFees, main_.mnuRound.checked);
+        charge = ChargeWith(option++, values_, rates_, totals_.service, main_.mnuRound.checked);
       }
     }
-    ShowBudgetUse(serviceFees, charges);
+    ShowBudgetUse(charges);
   } catch (const RuntimeError&) {
     charges = {};
     main_.BudgetUse = MoneyBar();
@@ -89,7 +95,7 @@ PaymentDue Charges::Due() const {
 
 // Fees that are added to the Budget come after the Balance in the bar. Deducted ones are named for
 // what they are: taken already, whatever method is chosen in the end and whatever it will charge.
-void Charges::ShowBudgetUse(Currency serviceFees, const ByMethod& charges) {
+void Charges::ShowBudgetUse(const ByMethod& charges) {
   using Part = MoneyBar::Part;
   MoneyBar& bar = main_.BudgetUse;
   bar = MoneyBar();
@@ -101,10 +107,9 @@ void Charges::ShowBudgetUse(Currency serviceFees, const ByMethod& charges) {
   };
   bar.parts.push_back({Part::Use::Given, allGiven ? "All given:" : "Given", values_.TotalDonated});
   if (main_.mnuDeductFees.checked) {
-    const Currency cardFees = CardFeeTotal(main_.ListView1);
-    bar.parts.push_back({Part::Use::ServiceFees, "Service fees", serviceFees});
-    if (cardFees != Currency()) {
-      bar.parts.push_back({Part::Use::MethodFee, "Card fees taken", cardFees});
+    bar.parts.push_back({Part::Use::ServiceFees, "Service fees", totals_.service});
+    if (totals_.card != Currency()) {
+      bar.parts.push_back({Part::Use::MethodFee, "Card fees taken", totals_.card});
     }
     if (values_.SessionFeeTaken) {
       bar.parts.push_back({Part::Use::MethodFee, "e-check fee taken", rates_.SessionFee});
@@ -114,7 +119,7 @@ void Charges::ShowBudgetUse(Currency serviceFees, const ByMethod& charges) {
     const auto named = static_cast<std::size_t>(std::max(method, 0));
     const Currency fee = method >= 0 && charges[named] ? charges[named]->methodFee : Currency();
     addLeft();
-    bar.parts.push_back({Part::Use::ServiceFees, "Service fees", serviceFees});
+    bar.parts.push_back({Part::Use::ServiceFees, "Service fees", totals_.service});
     bar.parts.push_back({Part::Use::MethodFee, kMethodFees[named], fee});
   }
   bar.toolTip = "Budget " + Money(values_.Budget);

@@ -32,7 +32,7 @@ struct PaymentDue {
 };
 
 // Shows, before anything is finalized, how the Budget is used and what each payment method would
-// charge. All of it is derived from the session; nothing is stored.
+// charge. All of it is derived from the session.
 class Charges {
  public:
   Charges(frmBVX& main, frmPayOpt& payment, const SessionValues& values, const FeeRates& rates)
@@ -48,8 +48,16 @@ class Charges {
 
  private:
   using ByMethod = std::array<std::optional<Charge>, 3>;
+  // Of all rows, as long as none is written: most events write none.
+  struct FeeTotals {
+    int loads = 0, changes = 0;  // of the list
+    Currency service, card;
+  };
 
-  void ShowBudgetUse(Currency serviceFees, const ByMethod& charges);
+  // Takes the totals anew where a row was written. Raises RuntimeError on overflow.
+  void TakeTotals();
+
+  void ShowBudgetUse(const ByMethod& charges);
   // Names what the chosen method will charge where that differs from the Budget's use.
   void CompareWithCharge(Currency charge);
   void ShowCharge(std::size_t option, const std::optional<Charge>& charge);
@@ -58,6 +66,7 @@ class Charges {
   frmPayOpt& payment_;
   const SessionValues& values_;
   const FeeRates& rates_;
+  FeeTotals totals_;
 };
 
 }  // namespace benevix

@@ -105,13 +105,19 @@ TEST(OrganizationList, ReadsRandomBytesLikeTheReferenceReader) {
   }
   EXPECT_GT(damaged, 50);
   EXPECT_LT(damaged, 450);
-  // Larger than one read, with lines across the borders of reads.
+  // Larger than one read, with lines across the borders of reads and in several parts.
   std::string bytes = "[" + std::string(3'000'000, 'x') + "]\n";
-  while (bytes.size() < 4'000'000) {
+  while (bytes.size() < 8'000'000) {
+    if (random() % 99 == 0) bytes += "[Country]\n;QUORL" + std::to_string(bytes.size()) + "\n";
     bytes += "0" + std::to_string(1'000'000 + random() % 9'000'000) + " " +
              std::string(random() % 3000, 'n') + ", " + std::string(random() % 9, 't') + "\r\n";
   }
   EXPECT_TRUE(Loaded(bytes) == ReadSimply(bytes));
+  for (const std::size_t place : {std::size_t{3'000'003}, bytes.size()}) {
+    bytes.insert(place, "bad\n");
+    EXPECT_TRUE(Loaded(bytes) == ReadSimply(bytes) && Loaded(bytes).ends_with("damaged"));
+    bytes.erase(place, 4);
+  }
 }
 
 }  // namespace

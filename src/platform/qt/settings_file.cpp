@@ -24,10 +24,9 @@ QByteArray Utf8(const std::string& text) {
 
 RegistryValues ValuesOf(const SettingsText& text, const QByteArray& path) {
   RegistryValues values;
-  for (const QByteArray& name : text.Names(path)) {
-    const auto line = text.Value(path, name);
-    const auto value = line ? FromLine(*line) : std::nullopt;
-    if (value) values.emplace(FromUtf8(name.toStdString()), *value);
+  for (const auto& [name, line] : text.ValuesOf(path)) {
+    if (auto value = FromLine(line))
+      values.emplace(FromUtf8(name.toStdString()), *std::move(value));
   }
   return values;
 }
@@ -35,16 +34,18 @@ RegistryValues ValuesOf(const SettingsText& text, const QByteArray& path) {
 // False when a value has no form in the file.
 bool SetValues(SettingsText& text, const QByteArray& path, const RegistryValues& values) {
   const RegistryValues old = ValuesOf(text, path);
+  SettingsText::Changes changes;
   for (const auto& [name, value] : old) {
-    if (!values.contains(name)) text.RemoveValue(path, Utf8(name));
+    if (!values.contains(name)) changes[Utf8(name)] = std::nullopt;
   }
   for (const auto& [name, value] : values) {
     const auto known = old.find(name);
     if (known != old.end() && known->second == value) continue;
     const auto line = ToLine(value.type, value.bytes);
     if (!line) return false;
-    text.SetValue(path, Utf8(name), *line);
+    changes[Utf8(name)] = line;
   }
+  text.Change(path, std::move(changes));
   return true;
 }
 
@@ -59,7 +60,7 @@ class SettingsFile::Key : public RegistryKey {
     const auto line = ToLine(type, bytes);
     if (access_ == Access::Query || !line) return kFailed;
     return settings_.Change(root_, [&](SettingsText& text) {
-      text.SetValue(path_, Utf8(name), *line);
+      text.Change(path_, {{Utf8(name), line}});
       return true;
     });
   }
@@ -77,8 +78,9 @@ class SettingsFile::Key : public RegistryKey {
 
   ResultCode Delete(const std::string& name) override {
     if (access_ == Access::Query) return kFailed;
-    return settings_.Change(
-        root_, [&](SettingsText& text) { return text.RemoveValue(path_, Utf8(name)); });
+    return settings_.Change(root_, [&](SettingsText& text) {
+      return text.Change(path_, {{Utf8(name), std::nullopt}}) > 0;
+    });
   }
 
  private:

@@ -14,16 +14,30 @@ bool Same(const QByteArray& a, const QByteArray& b) {
 }
 
 // The key path in a header line "[path]"; nothing for other lines.
-std::optional<QByteArray> KeyOf(const QByteArray& line) {
-  const QByteArray text = line.trimmed();
+std::optional<QByteArray> KeyOf(QByteArrayView line) {
+  const QByteArrayView text = line.trimmed();
   if (!text.startsWith('[') || !text.endsWith(']')) return std::nullopt;
-  return QByteArray::fromPercentEncoding(text.mid(1, text.size() - 2));
+  return QByteArray::fromPercentEncoding(text.sliced(1, text.size() - 2).toByteArray());
 }
 
-std::optional<QByteArray> NameOf(const QByteArray& line) {
-  const QByteArray text = line.left(line.indexOf('=')).trimmed();
-  if (!line.contains('=') || text.startsWith('#') || text.startsWith(';')) return std::nullopt;
-  return text == kDefaultName ? QByteArray("") : QByteArray::fromPercentEncoding(text);
+std::optional<QByteArray> NameOf(QByteArrayView line) {
+  const qsizetype end = line.indexOf('=');
+  if (end < 0) return std::nullopt;
+  const QByteArrayView text = line.first(end).trimmed();
+  if (text.startsWith('#') || text.startsWith(';')) return std::nullopt;
+  return text == kDefaultName ? QByteArray("")
+                              : QByteArray::fromPercentEncoding(text.toByteArray());
+}
+
+QByteArray ValueIn(const QByteArray& line) {
+  QByteArrayView value = QByteArrayView(line).sliced(line.indexOf('=') + 1);
+  if (value.endsWith('\r')) value.chop(1);
+  while (value.startsWith(' ')) value = value.sliced(1);
+  return value.toByteArray();
+}
+
+QByteArray LineOf(const QByteArray& name, const QByteArray& value) {
+  return (name.isEmpty() ? QByteArray(kDefaultName) : InOneLine(name, " =[]#;(")) + '=' + value;
 }
 
 }  // namespace
@@ -42,16 +56,6 @@ qsizetype SettingsText::EndOfKey(qsizetype header) const {
   return next - lines_.begin();
 }
 
-qsizetype SettingsText::ValueAt(qsizetype header, const QByteArray& name) const {
-  if (header < 0) return -1;
-  const auto end = lines_.begin() + EndOfKey(header);
-  const auto found = std::find_if(lines_.begin() + header + 1, end, [&](const QByteArray& line) {
-    const auto lineName = NameOf(line);
-    return lineName && Same(*lineName, name);
-  });
-  return found == end ? -1 : found - lines_.begin();
-}
-
 bool SettingsText::HasKey(const QByteArray& path) const {
   return std::any_of(lines_.begin(), lines_.end(), [&](const QByteArray& line) {
     const auto key = KeyOf(line);
@@ -67,15 +71,6 @@ void SettingsText::AddKey(const QByteArray& path) {
   lines_.append("");
 }
 
-QList<QByteArray> SettingsText::Names(const QByteArray& path) const {
-  QList<QByteArray> names;
-  const qsizetype header = HeaderAt(path);
-  for (qsizetype i = header + 1; header >= 0 && i < EndOfKey(header); ++i) {
-    if (const auto name = NameOf(lines_[i])) names.append(*name);
-  }
-  return names;
-}
-
 bool SettingsText::RemoveKey(const QByteArray& path) {
   const qsizetype header = HeaderAt(path);
   if (header < 0) return false;
@@ -83,39 +78,52 @@ bool SettingsText::RemoveKey(const QByteArray& path) {
   return true;
 }
 
+SettingsText::Values SettingsText::ValuesOf(const QByteArray& path) const {
+  Values values;
+  const qsizetype header = HeaderAt(path);
+  const qsizetype end = header < 0 ? 0 : EndOfKey(header);
+  for (qsizetype i = header + 1; i < end; ++i) {
+    // A file written by hand may have a value twice; the first one counts.
+    if (const auto name = NameOf(lines_[i])) values.try_emplace(*name, ValueIn(lines_[i]));
+  }
+  return values;
+}
+
 std::optional<QByteArray> SettingsText::Value(const QByteArray& path,
                                               const QByteArray& name) const {
-  const qsizetype at = ValueAt(HeaderAt(path), name);
-  if (at < 0) return std::nullopt;
-  QByteArray value = lines_[at].mid(lines_[at].indexOf('=') + 1);
-  if (value.endsWith('\r')) value.chop(1);
-  while (value.startsWith(' ')) value.remove(0, 1);
-  return value;
+  const Values values = ValuesOf(path);
+  const auto found = values.find(name);
+  if (found == values.end()) return std::nullopt;
+  return found->second;
 }
 
-void SettingsText::SetValue(const QByteArray& path, const QByteArray& name,
-                            const QByteArray& value) {
-  AddKey(path);
-  const qsizetype header = HeaderAt(path);
-  const QByteArray lineName =
-      name.isEmpty() ? QByteArray(kDefaultName) : InOneLine(name, " =[]#;(");
-  const QByteArray line = lineName + '=' + value;
-  const qsizetype at = ValueAt(header, name);
-  if (at >= 0) {
-    lines_[at] = line;
-    return;
+int SettingsText::Change(const QByteArray& path, Changes changes) {
+  const auto isSet = [](const auto& change) { return change.second.has_value(); };
+  if (std::any_of(changes.begin(), changes.end(), isSet)) AddKey(path);
+  const qsizetype begin = HeaderAt(path) + 1;
+  if (begin == 0) return 0;
+  const qsizetype end = EndOfKey(begin - 1);
+  QList<QByteArray> lines = lines_.first(begin);
+  int known = 0;
+  for (qsizetype i = begin; i < end; ++i) {
+    const auto name = NameOf(lines_[i]);
+    const auto change = name ? changes.find(*name) : changes.end();
+    if (change == changes.end()) {
+      lines.append(lines_[i]);
+      continue;
+    }
+    ++known;
+    if (!change->second) continue;  // also where it stands a second time
+    lines.append(LineOf(change->first, *change->second));
+    changes.erase(change);
   }
-  qsizetype end = EndOfKey(header);
-  while (lines_[end - 1].trimmed().isEmpty()) --end;
-  lines_.insert(end, line);
-}
-
-bool SettingsText::RemoveValue(const QByteArray& path, const QByteArray& name) {
-  bool removed = false;  // a file written by hand may have the value twice
-  for (qsizetype at = 0; (at = ValueAt(HeaderAt(path), name)) >= 0; removed = true) {
-    lines_.removeAt(at);
+  qsizetype last = lines.size();
+  while (lines[last - 1].trimmed().isEmpty()) --last;
+  for (const auto& [name, value] : changes) {
+    if (value) lines.insert(last++, LineOf(name, *value));
   }
-  return removed;
+  lines_ = lines + lines_.sliced(end);
+  return known;
 }
 
 }  // namespace benevix

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <map>
 #include <optional>
 
 namespace benevix {
@@ -18,24 +19,29 @@ class SettingsText {
   // Also true for a key that exists only as the parent of another.
   [[nodiscard]] bool HasKey(const QByteArray& path) const;
   void AddKey(const QByteArray& path);
-  // The names of a key's values, in their order; none without such a key.
-  [[nodiscard]] QList<QByteArray> Names(const QByteArray& path) const;
   // Removes the key with its values; false when it has no header line.
   bool RemoveKey(const QByteArray& path);
 
-  // The text after the "=" without leading blanks and line end; nothing without such a value.
+  struct IgnoringCase {
+    bool operator()(const QByteArray& a, const QByteArray& b) const {
+      return a.compare(b, Qt::CaseInsensitive) < 0;
+    }
+  };
+  // By name; a value is the text after the "=" without leading blanks and line end.
+  using Values = std::map<QByteArray, QByteArray, IgnoringCase>;
+  // The values of a key; none without such a key.
+  [[nodiscard]] Values ValuesOf(const QByteArray& path) const;
   [[nodiscard]] std::optional<QByteArray> Value(const QByteArray& path,
                                                 const QByteArray& name) const;
-  // `value` must be a single line. Adds a missing key.
-  void SetValue(const QByteArray& path, const QByteArray& name, const QByteArray& value);
-  // False when the value does not exist.
-  bool RemoveValue(const QByteArray& path, const QByteArray& name);
+  // The values to be set, each a single line, and those to be removed, which are without one.
+  using Changes = std::map<QByteArray, std::optional<QByteArray>, IgnoringCase>;
+  // Adds a missing key for a value. Returns how many lines with these names there were.
+  int Change(const QByteArray& path, Changes changes);
 
  private:
   // Line numbers; -1 when there is no such line.
   [[nodiscard]] qsizetype HeaderAt(const QByteArray& path) const;
   [[nodiscard]] qsizetype EndOfKey(qsizetype header) const;
-  [[nodiscard]] qsizetype ValueAt(qsizetype header, const QByteArray& name) const;
 
   QList<QByteArray> lines_;
 };
