@@ -107,7 +107,10 @@ Text ReadWidget(const QWidget& widget, const std::string& property, const Text& 
 }
 
 Text ReadWindow(const QWidget& widget, const std::string& property, const Text& fromStruct) {
-  if (property == "Caption") return Shown(widget.windowTitle());
+  if (property == "Caption") {
+    return fromStruct && widget.windowTitle() == TitleOf(*fromStruct) ? fromStruct
+                                                                      : Shown(widget.windowTitle());
+  }
   if (property == "Shown") return BooleanText(widget.isVisible());
   if (property == "Enabled") return BooleanText(widget.isEnabled());
   if (property == "MousePointer") {

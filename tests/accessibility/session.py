@@ -26,7 +26,7 @@ def serve():
 
 
 def answer_the_wizard():
-    wizard = "Benevix Options "
+    wizard = "Benevix Options"
     check_names()
     with hearing(NAME, "label", "Choose the method you want Fees to be calculated"):
         press("push button", "Continue", wizard)
@@ -42,11 +42,11 @@ def type_a_budget():
     with hearing(TEXT, "text", "Balance", "200.00"):
         key(ENTER)
     find("label", "Select from the list another organization to donate to.")
-    find("dialog", " Payment Options")
+    find("dialog", "Payment Options - Benevix")
     check_names()
     press("radio button", "Credit Card")
     with hearing(NAME, "label", "Credit Card Payment method "):
-        press("push button", "Continue", " Payment Options")
+        press("push button", "Continue", "Payment Options - Benevix")
 
 
 def give():
@@ -61,7 +61,7 @@ def give():
 
 
 def tell_who_gives():
-    contact = " Contact Information"
+    contact = "Contact Information - Benevix"
     for field, text in (("Full Name", "Robin Sample"), ("Address", "12 Example Street"),
                         ("City", "Springfield"), ("State", "Oregon"), ("Postal Code", "97000"),
                         ("Country", "U.S.A."), ("E-mail", "robin@sample.example")):

@@ -13,6 +13,13 @@ QString Drawn(const std::string& text) {
   return text.size() <= most ? ToQString(text) : ToQString(text.substr(0, most)) + QChar(0x2026);
 }
 
+QString TitleOf(const std::string& caption) {
+  constexpr const char* name = "Benevix";
+  const QString title = Drawn(caption).trimmed();
+  if (title.contains(QLatin1String(name), Qt::CaseInsensitive)) return title;
+  return title + QLatin1String(" - ") + QLatin1String(name);
+}
+
 std::string FromQString(const QString& text) {
   return FromUtf8(text.toStdString());
 }

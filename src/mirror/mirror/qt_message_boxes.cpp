@@ -48,7 +48,7 @@ BoxAnswer QtMessageBoxes::Show(const std::string& title, const std::string& text
   const bool asks = buttons != BoxButtons::OK;
   // This updates the windows: one that closes now must not close the box with it.
   const WaitScope wait(waits_);
-  QMessageBox box(Icon(icon), Drawn(title), Lines(text),
+  QMessageBox box(Icon(icon), TitleOf(title), Lines(text),
                   asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, WindowBelow());
   box.setTextFormat(Qt::PlainText);
   if (asks) box.setEscapeButton(QMessageBox::No);

@@ -164,7 +164,7 @@ void WindowBinding::ApplyNote() {
 }
 
 void WindowBinding::ApplyWindow() {
-  widget_->setWindowTitle(Drawn(window_.caption));
+  widget_->setWindowTitle(TitleOf(window_.caption));
   widget_->setEnabled(desk_.IsEnabled(window_));
   const bool busy = window_.mousePointer == MousePointer::Hourglass;
   if (busy != (widget_->cursor().shape() == Qt::WaitCursor)) {
