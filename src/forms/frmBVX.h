@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/controls.h"
+#include "forms/main_decoration.h"
 #include "forms/main_indexes.h"
 #include "forms/main_menu.h"
 
@@ -11,7 +12,7 @@ inline constexpr const char* kNoNews = "No news";
 inline constexpr const char* kNoAmounts = "No amounts";
 
 // The main window.
-struct frmBVX : Window, MainMenu {
+struct frmBVX : Window, MainDecoration, MainMenu {
   static constexpr const char* kName = "frmBVX";
   static constexpr int kWidth = 15360;  // twips; where the credit line comes in
 
@@ -44,8 +45,9 @@ struct frmBVX : Window, MainMenu {
     for (Button* button : {&ContinueUnfinished, &StartAfresh}) button->holder = "Unfinished";
     GiftRows.takesFocus = false;
     GiftRows.holder = "Gifts";
-    for (Label& label : GiftSumName) label.holder = "Gifts";
-    for (Label& label : GiftSum) label.holder = "Gifts";
+    for (auto* labels : {&GiftSumName, &GiftSum}) {
+      for (Label& label : *labels) label.holder = "Gifts";
+    }
     mnuAddFees.checked = true;
     mnuDirectCurr.checked = true;
     TMMenu.visible = false;
@@ -164,10 +166,6 @@ struct frmBVX : Window, MainMenu {
   Shape Shape2;              // the year-to-date indicator
   Shape Shape5;              // the news indicator
   Shape Shape7;              // the ring around the news indicator
-  // Decoration that has no widgets in the drawing.
-  PictureBox Image1, Image2, Image3, Image4, Image5, Picture2;
-  Shape Shape1, Shape3, Shape4, Shape6;
-  Line Line1, Line2, Line3;
 };
 
 template <class F>
@@ -222,23 +220,11 @@ void visit(frmBVX& window, F&& f) {
   f("Inet2", window.Inet2);
   f("Timer1", window.Timer1);
   f("Timer2", window.Timer2);
-  f("Image1", window.Image1);
-  f("Image2", window.Image2);
-  f("Image3", window.Image3);
-  f("Image4", window.Image4);
-  f("Image5", window.Image5);
-  f("Picture2", window.Picture2);
-  f("Shape1", window.Shape1);
   f("Shape2", window.Shape2);
-  f("Shape3", window.Shape3);
-  f("Shape4", window.Shape4);
   f("Shape5", window.Shape5);
-  f("Shape6", window.Shape6);
   f("Shape7", window.Shape7);
-  f("Line1", window.Line1);
-  f("Line2", window.Line2);
-  f("Line3", window.Line3);
-  visit(static_cast<MainMenu&>(window), f);
+  visitDecoration(window, f);
+  visitMenu(window, f);
 }
 
 }  // namespace benevix

@@ -81,7 +81,7 @@ struct MainMenu {
 };
 
 template <class F>
-void visit(MainMenu& menu, F&& f) {
+void visitMenu(MainMenu& menu, F&& f) {
   f("TFile", menu.TFile);
   f("mnuNew", menu.mnuNew);
   f("mnuPrntSession", menu.mnuPrntSession);

@@ -20,6 +20,11 @@ std::string Sum(Currency amount) {
   return Format(amount, kSumPattern);
 }
 
+std::string GoalText(const std::string& stored) {
+  const auto amount = ReadAmount(stored).number;
+  return amount ? Sum(Currency::FromDouble(*amount)) : stored;
+}
+
 // How often something is, in words: "1 line", "2 lines".
 std::string Number(int count, const std::string& one) {
   return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
@@ -38,9 +43,7 @@ void GivingReport::mnuReport_Click() {
   desk_.Load(window_);
   Read();
   unfolded_ = -1;
-  const std::string goal = settings_.GetUserString(kGoalSetting);
-  const auto amount = ReadAmount(goal).number;
-  window_.Goal.Write(amount ? Sum(Currency::FromDouble(*amount)) : goal);
+  window_.Goal.Write(GoalText(settings_.GetUserString(kGoalSetting)));
   int last = 0;  // the last year in which something was given
   for (const GivenSession& session : report_->history.Sessions()) {
     if (session.day.year <= ThisYear()) last = std::max(last, session.day.year);
@@ -171,22 +174,14 @@ void GivingReport::Goal_KeyUp(const EventArgs& args) {
   if (args.key == keys::kEnter || args.key == keys::kTab) SaveGoal();
 }
 
-void GivingReport::Goal_LostFocus() {
-  SaveGoal();
-}
-
 void GivingReport::SaveGoal() {
   const TypedAmount goal = ReadAmount(window_.Goal.text);
   if (!goal.number && !window_.Goal.text.empty()) {
     window_.Goal.note = goal.note;
     return;
   }
-  std::string stored;
-  if (goal.number) {
-    const Currency amount = Currency::FromDouble(*goal.number);
-    stored = amount.ToText();
-    window_.Goal.Write(Sum(amount));
-  }
+  const std::string stored = goal.number ? Currency::FromDouble(*goal.number).ToText() : "";
+  window_.Goal.Write(GoalText(stored));
   if (stored != settings_.GetUserString(kGoalSetting) &&
       !settings_.SaveUserString(kGoalSetting, stored)) {
     window_.Goal.note = kNotSavedNote;

@@ -46,7 +46,7 @@ class GivingReport {
   void Text1_KeyUp(const EventArgs& args);
   void Text1_LostFocus();
   void Goal_KeyUp(const EventArgs& args);
-  void Goal_LostFocus();
+  void Goal_LostFocus() { SaveGoal(); }
   void Organizations_ColumnClick(int column);
   void Sessions_ItemClick(const EventArgs& args);
   void Sessions_KeyUp(const EventArgs& args);
