@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -33,7 +34,13 @@ class ButtonBinding : public WidgetBinding<Button, QPushButton> {
   void SetMnemonic(QChar letter) override { mnemonic_ = letter; }
 
  private:
-  void ApplyKind() override { widget_.setText(WithMnemonic(Drawn(control_.caption), mnemonic_)); }
+  void ApplyKind() override {
+    widget_.setText(WithMnemonic(Drawn(control_.caption), mnemonic_));
+    // Never narrower than its own text, nor than a short word and its usual padding.
+    widget_.ensurePolished();
+    const int least = widget_.fontMetrics().horizontalAdvance(QStringLiteral("Continue")) + 32;
+    widget_.setMinimumWidth(std::max(least, widget_.sizeHint().width()));
+  }
 
   QChar mnemonic_;
 };

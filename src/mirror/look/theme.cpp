@@ -128,7 +128,6 @@ QString SheetOf(Scheme scheme, QFont font) {
   const auto width = [&font](const char* text) {
     return QString::number(QFontMetrics(font).horizontalAdvance(QLatin1String(text)));
   };
-  set("button", width("Continue"));
   set("filter", width("Organizations that help people who were driven from their homes"));
   font.setPointSizeF(points * 1.15);
   set("guidance", QString::number(2 * QFontMetrics(font).lineSpacing()));
