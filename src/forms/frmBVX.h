@@ -50,6 +50,7 @@ struct frmBVX : Window, MainDecoration, MainMenu {
     }
     mnuAddFees.checked = true;
     mnuDirectCurr.checked = true;
+    mnuNoFavs.enabled = false;
     TMMenu.visible = false;
     mnuWhatis.visible = false;
     lclist.items[0];  // element 0 of both is always there, without a caption until it is filled

@@ -17,7 +17,7 @@ struct frmInfo : Window {
     Label1.height = kPanelHeight;
     VScroll1.holder = "Picture1";
     Label3.shortcut = "Ctrl+T";
-    Back.visible = Browser.visible = false;
+    Back.visible = Browser.visible = NextStep.visible = false;
     Back.shortcut = "Alt+Left";
   }
 
@@ -29,6 +29,7 @@ struct frmInfo : Window {
   PictureBox Picture1;  // the text panel
   Label Label1;         // its text; its tag is the window's caption with it
   ScrollBar VScroll1;
+  Label NextStep;  // what else can be done where there is no text
   Label Label2{"Retrieving Information. Please wait..."};
   Label Label3{"TRANSLATE"};  // tag "Yes" once it was clicked
   PageViewer wb1;             // the page
@@ -41,6 +42,7 @@ void visit(frmInfo& window, F&& f) {
   f("Picture1", window.Picture1);
   f("Label1", window.Label1);
   f("VScroll1", window.VScroll1);
+  f("NextStep", window.NextStep);
   f("Label2", window.Label2);
   f("Label3", window.Label3);
   f("wb1", window.wb1);

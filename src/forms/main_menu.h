@@ -34,6 +34,7 @@ struct MainMenu {
   MenuItem mnuFavAddTop{"Add to Favorites", "TFavs", true};
   MenuItem mnuCancelRemove{"Cancel Remove", "TFavs"};
   MenuItem mnuFavsRemove{"Remove from Favorites", "TFavs"};
+  MenuItem mnuNoFavs{"None yet: select an organization and choose Add to Favorites", "TFavs", true};
   MenuArray mnuFavs{"TFavs", true};
 
   MenuItem Tprefs{"&Preferences"};
@@ -100,6 +101,7 @@ void visitMenu(MainMenu& menu, F&& f) {
   f("mnuFavAddTop", menu.mnuFavAddTop);
   f("mnuCancelRemove", menu.mnuCancelRemove);
   f("mnuFavsRemove", menu.mnuFavsRemove);
+  f("mnuNoFavs", menu.mnuNoFavs);
   f("mnuFavs", menu.mnuFavs);
   f("Tprefs", menu.Tprefs);
   f("mnuChgPayMethod", menu.mnuChgPayMethod);

@@ -23,13 +23,15 @@ void InformationViewer::AwaitText() {
   desk_.Show(window_, Modality::Modeless, Attention::KeepsMainDisabled);
 }
 
-void InformationViewer::ShowText(const std::string& text, const std::string& title) {
+void InformationViewer::ShowText(const std::string& text, const std::string& title,
+                                 const std::string& nextStep) {
   // The height is estimated from the number of lines until the text is drawn.
   constexpr int lineHeight = 195;  // twips
   constexpr std::ptrdiff_t maxLines = 1'000'000;
   const auto lines = std::min(1 + std::count(text.begin(), text.end(), '\n'), maxLines);
   window_.caption = window_.Label1.tag = title;
   window_.Label1.caption = text;
+  window_.NextStep.caption = nextStep;
   window_.Label1.height = std::max(frmInfo::kPanelHeight, static_cast<int>(lines) * lineHeight);
   window_.Label1.top = window_.VScroll1.value = 0;
   window_.Picture1.visible = true;
@@ -78,6 +80,7 @@ void InformationViewer::OpenInBrowser(const std::string& address) {
 void InformationViewer::ShowWays() {
   window_.Back.visible = window_.wb1.visible && (window_.wb1.canGoBack || HasText());
   window_.Browser.visible = window_.wb1.visible && IsWebAddress(Address());
+  window_.NextStep.visible = window_.Picture1.visible && !window_.NextStep.caption.empty();
 }
 
 }  // namespace benevix

@@ -21,8 +21,8 @@ class InformationViewer {
 
   // Opens the viewer before its text has arrived; disables the main window.
   void AwaitText();
-  // Shows the text, scrolled to its beginning.
-  void ShowText(const std::string& text, const std::string& title);
+  // Shows the text, scrolled to its beginning, and below it what else can be done, if anything.
+  void ShowText(const std::string& text, const std::string& title, const std::string& nextStep);
 
   void Form_Load();
   void VScroll1_Scroll();
@@ -33,7 +33,7 @@ class InformationViewer {
   // The same for any page of the web; when no browser can be opened, the user is told the address.
   void OpenInBrowser(const std::string& address);
   // Back is there when there is something behind the page, the way to the browser with a page of
-  // the web.
+  // the web; the next step belongs to the text.
   void ShowWays();
 
  private:

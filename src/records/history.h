@@ -12,7 +12,8 @@
 namespace benevix {
 
 // What a command says that needs the history while there is none.
-inline constexpr const char* kNoHistory = "There is no donation history yet";
+inline constexpr const char* kNoHistory =
+    "There is no donation history yet: it begins with the first session that you send";
 
 // The donation history: a text file that is only appended to.
 class History {

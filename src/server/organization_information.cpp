@@ -6,6 +6,8 @@
 namespace benevix {
 namespace {
 
+constexpr const char* kUnavailable = "  Information Unavailable at this time. Try again later.";
+
 bool BeginsWithHttp(const std::string& address) {
   return address.compare(0, 4, "http") == 0;
 }
@@ -21,7 +23,10 @@ void OrganizationInformation::MoreInfo() {
   }
   viewer_.AwaitText();
   const std::string page = InformationPage(id);
-  viewer_.ShowText(page, "About " + main_.ListView1.SelectedText(column::kOrganization));
+  viewer_.ShowText(page, "About " + main_.ListView1.SelectedText(column::kOrganization),
+                   page == kUnavailable
+                       ? "The Resources menu leads to their web site, and to a message to them."
+                       : "");
 }
 
 std::string OrganizationInformation::InformationPage(const std::string& id) {
@@ -39,7 +44,7 @@ std::string OrganizationInformation::InformationPage(const std::string& id) {
       // The next attempt may succeed.
     }
   }
-  return "  Information Unavailable at this time. Try again later.";
+  return kUnavailable;
 }
 
 void OrganizationInformation::Contact() {

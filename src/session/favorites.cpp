@@ -107,6 +107,7 @@ void Favorites::Show(std::vector<Favorite> favorites) {
 }
 
 void Favorites::BuildMenu() {
+  main_.mnuNoFavs.visible = favorites_.empty();
   auto& items = main_.mnuFavs.items;
   items.clear();
   int index = 0;

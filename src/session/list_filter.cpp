@@ -61,6 +61,7 @@ void ListFilter::ShowRows() {
   main_.ShowAll.visible = list.shownRows != nullptr;
   basis_ = basis;
   list.emptyText.clear();
+  if (list.Count() == 0) list.emptyText = "The list is empty\nUpdate List (F5) fetches another one";
   if (list.ShownCount() > 0 || !list.shownRows) return;
   const std::string words = " has \"" + basis.text + "\"";
   list.emptyText = list.markedWords.empty() ? "Nothing has been given in this session"
