@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTest>
 #include <QToolTip>
@@ -173,6 +174,29 @@ TEST_F(MirrorTest, TheFocusAloneChoosesNoRow) {
   EXPECT_EQ(main.ListView1.selected, 0);
   QTest::keyClick(&view, Qt::Key_Down);
   EXPECT_GT(main.ListView1.selected, 0);
+}
+
+TEST_F(MirrorTest, ALongListIsWalkedByItsKeys) {
+  struct Rows : SampleRows {
+    [[nodiscard]] int Count() const override { return 2'000'000; }
+  };
+  auto& view = Widget<QTableView>(main.ListView1);
+  input.Enter([this] { main.ListView1.SetRows(std::make_shared<Rows>()); });
+  view.setFocus(Qt::TabFocusReason);
+  const int page = view.viewport()->height() / view.visualRect(view.model()->index(0, 1)).height();
+  QTest::keyClick(&view, Qt::Key_Home);
+  for (const auto& [key, next] : {std::pair(Qt::Key_Down, 2), std::pair(Qt::Key_PageDown, 2 + page),
+                                  std::pair(Qt::Key_End, 2'000'000),
+                                  std::pair(Qt::Key_Up, 1'999'999), std::pair(Qt::Key_Home, 1)}) {
+    QTest::keyClick(&view, key);
+    EXPECT_EQ(main.ListView1.selected, next);
+    const QRect drawn = view.visualRect(view.currentIndex());
+    EXPECT_TRUE(view.viewport()->rect().contains(QRect(0, drawn.top(), 1, drawn.height()))) << next;
+  }
+  view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum());
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
+                    view.visualRect(view.model()->index(1'999'999, 1)).center());
+  EXPECT_EQ(main.ListView1.selected, 2'000'000);
 }
 
 TEST_F(MirrorTest, AListIsNewAtTheAddressOfTheLastOneToo) {
