@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <algorithm>
+#include <limits>
 
 namespace benevix {
 
@@ -27,21 +28,26 @@ int FixedRowsView::RowsOnPage() const {
   return std::max(1, viewport()->height() / RowHeight());
 }
 
+int FixedRowsView::TopRow() const {
+  return verticalScrollBar()->value();
+}
+
 int FixedRowsView::verticalOffset() const {
-  return verticalScrollBar()->value() * RowHeight();
+  const qint64 pixels = qint64{TopRow()} * RowHeight();
+  return static_cast<int>(std::min<qint64>(pixels, std::numeric_limits<int>::max()));
 }
 
 QRect FixedRowsView::visualRect(const QModelIndex& index) const {
   if (!index.isValid() || isColumnHidden(index.column())) return {};
-  return {columnViewportPosition(index.column()), index.row() * RowHeight() - verticalOffset(),
+  return {columnViewportPosition(index.column()), (index.row() - TopRow()) * RowHeight(),
           columnWidth(index.column()), RowHeight()};
 }
 
 QModelIndex FixedRowsView::indexAt(const QPoint& place) const {
-  const int y = place.y() + verticalOffset();
+  const int row = TopRow() + place.y() / RowHeight();
   const int column = columnAt(place.x());
-  if (y < 0 || y / RowHeight() >= Rows() || column < 0) return {};
-  return model()->index(y / RowHeight(), column);
+  if (place.y() < 0 || row >= Rows() || column < 0) return {};
+  return model()->index(row, column);
 }
 
 void FixedRowsView::scrollTo(const QModelIndex& index, ScrollHint hint) {
@@ -142,9 +148,10 @@ QModelIndex FixedRowsView::moveCursor(CursorAction action, Qt::KeyboardModifiers
 QRegion FixedRowsView::visualRegionForSelection(const QItemSelection& selection) const {
   QRegion region;
   for (const QItemSelectionRange& range : selection) {
-    const int top = range.top() * RowHeight() - verticalOffset();
-    const int height = (range.bottom() - range.top() + 1) * RowHeight();
-    region += QRect(0, top, viewport()->width(), height) & viewport()->rect();
+    const int first = std::max(range.top() - TopRow(), 0);
+    const int last = std::min(range.bottom() - TopRow(), RowsOnPage());
+    if (first > last) continue;
+    region += QRect(0, first * RowHeight(), viewport()->width(), (last - first + 1) * RowHeight());
   }
   return region;
 }
@@ -157,8 +164,8 @@ void FixedRowsView::dataChanged(const QModelIndex& first, const QModelIndex& las
 
 void FixedRowsView::paintEvent(QPaintEvent* event) {
   const QRect area = event->rect();
-  const int first = (area.top() + verticalOffset()) / RowHeight();
-  const int last = std::min(Rows() - 1, (area.bottom() + verticalOffset()) / RowHeight());
+  const int first = TopRow() + area.top() / RowHeight();
+  const int last = std::min(Rows() - 1, TopRow() + area.bottom() / RowHeight());
   QStyleOptionViewItem option;
   initViewItemOption(&option);
   option.state &= ~QStyle::State_MouseOver;

@@ -33,6 +33,7 @@ class FixedRowsView : public QTableView {
  private:
   [[nodiscard]] int Rows() const { return model() == nullptr ? 0 : model()->rowCount(); }
   [[nodiscard]] int RowHeight() const;
+  [[nodiscard]] int TopRow() const;
   // How many rows are seen whole.
   [[nodiscard]] int RowsOnPage() const;
   // The next column to the right (`step` 1) or left (-1) that is not hidden; the same at the end.
