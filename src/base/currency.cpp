@@ -78,8 +78,8 @@ std::uint64_t Magnitude(std::int64_t value) {
   return value < 0 ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value);
 }
 
-// The units of a plain amount such as "1250.50"; nothing for any other text. A double of so few digits
-// is so close to the amount that it would be rounded to the same.
+// The units of a plain amount such as "1250.50"; nothing for any other text. A double of so few
+// digits is so close to the amount that it would be rounded to the same.
 std::optional<std::int64_t> PlainUnits(std::string_view text) {
   constexpr std::size_t mostDigits = 11, mostDecimals = 4;
   const std::size_t point = std::min(text.find('.'), text.size());
