@@ -65,6 +65,13 @@ int TellReport(const std::string& folder) {
   return 0;
 }
 
+// The filter, until its rows are painted.
+int TellShownFilter(const std::string& folder) {
+  const FilterTimes times = TimeFilter(folder);
+  std::cout << times.first << ' ' << times.further << std::endl;
+  return 0;
+}
+
 // The favorites.
 int TellFavorites(const std::string& folder) {
   const FavoriteTimes times = TimeFavorites(folder, kFavorites);
@@ -86,7 +93,10 @@ std::optional<int> RunAsChild(int argc, char** argv) {
   static const std::map<std::string, int (*)(const std::string&)> plain = {
       {"--load", Load}, {"--find", Find}, {"--filter", Filter}};
   static const std::map<std::string, int (*)(const std::string&)> windowed = {
-      {"--donations", TellDonations}, {"--report", TellReport}, {"--favorites", TellFavorites}};
+      {"--donations", TellDonations},
+      {"--report", TellReport},
+      {"--favorites", TellFavorites},
+      {"--shown-filter", TellShownFilter}};
   if (const auto found = plain.find(argv[1]); found != plain.end()) return found->second(argv[2]);
   const auto found = windowed.find(argv[1]);
   if (found == windowed.end()) return std::nullopt;

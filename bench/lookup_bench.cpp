@@ -1,6 +1,7 @@
 #include "lookup_bench.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <stdexcept>
@@ -65,22 +66,64 @@ TableTimes TimeYearToDate(const std::string& folder, int organizations) {
   return {times.front(), Median({times.begin() + 1, times.end()})};
 }
 
+namespace {
+
+// The program with its main window shown.
+class Shown {
+ public:
+  explicit Shown(const std::string& folder)
+      : scheme_(DesktopScheme()),
+        mirror_(scheme_, Mirror::Timers::Hold),
+        machine_(folder + "/benevix", mirror_, boxes_),
+        environment_(machine_.TheEnvironment()),
+        program_(environment_) {
+    ApplyTheme(*qApp, scheme_);
+    mirror_.Attach(program_.TheDesk(), program_.TheInput());
+    program_.Main();
+    TheInput().Click(program_.TheForms().Get<frmSplash>().Image2[0]);
+    QApplication::processEvents();
+  }
+  Shown(const Shown&) = delete;
+  Shown& operator=(const Shown&) = delete;
+  ~Shown() { mirror_.Detach(); }
+
+  [[nodiscard]] Environment& TheEnvironment() { return environment_; }
+  [[nodiscard]] Program& TheProgram() { return program_; }
+  [[nodiscard]] frmBVX& Main() { return program_.TheForms().Get<frmBVX>(); }
+  [[nodiscard]] Input& TheInput() { return program_.TheInput(); }
+
+ private:
+  Scheme scheme_;
+  Mirror mirror_;
+  NoBoxes boxes_;
+  Machine machine_;
+  Environment environment_;
+  Program program_;
+};
+
+}  // namespace
+
+FilterTimes TimeFilter(const std::string& folder) {
+  Shown shown(folder);
+  FilterTimes times;
+  for (const std::string word : {"and", "water", "zebra"}) {
+    for (std::size_t size = 1; size <= word.size(); ++size) {
+      const Stopwatch watch;
+      shown.TheInput().Type(shown.Main().Filter, word.substr(0, size));
+      QApplication::processEvents();
+      double& slowest = size == 1 ? times.first : times.further;
+      slowest = std::max(slowest, watch.Milliseconds());
+    }
+  }
+  return times;
+}
+
 FavoriteTimes TimeFavorites(const std::string& folder, int favorites) {
   setenv("XDG_CONFIG_HOME", (folder + "/favorites").c_str(), 1);
-  const Scheme scheme = DesktopScheme();
-  ApplyTheme(*qApp, scheme);
-  Mirror mirror(scheme, Mirror::Timers::Hold);
-  NoBoxes boxes;
-  Machine machine(folder + "/benevix", mirror, boxes);
-  Environment environment = machine.TheEnvironment();
-  Program program(environment);
-  mirror.Attach(program.TheDesk(), program.TheInput());
-  program.Main();
-  frmBVX& main = program.TheForms().Get<frmBVX>();
-  Input& input = program.TheInput();
-  input.Click(program.TheForms().Get<frmSplash>().Image2[0]);
-  QApplication::processEvents();
-
+  Shown shown(folder);
+  Environment& environment = shown.TheEnvironment();
+  frmBVX& main = shown.Main();
+  Input& input = shown.TheInput();
   SettingsStore(environment.registry)
       .ChangeStrings(Root::CurrentUser, kFavoritesPath, [&](SettingsTexts& stored) {
         const int step = main.ListView1.Count() / favorites;
@@ -96,7 +139,7 @@ FavoriteTimes TimeFavorites(const std::string& folder, int favorites) {
   OrganizationDatabase database(main, run, settings, environment.files,
                                 environment.info.Resource("sharedb.dat"));
   database.LoadOrganizationList();
-  ListViewEvents rows(main, values, program.TheDesk(), run, [] {});
+  ListViewEvents rows(main, values, shown.TheProgram().TheDesk(), run, [] {});
   Favorites own(main, settings, database, rows);
   FavoriteTimes times;
   const Stopwatch watch;
@@ -109,7 +152,6 @@ FavoriteTimes TimeFavorites(const std::string& folder, int favorites) {
   const Stopwatch add;
   input.ChooseMenu(main.mnuFavAdd);
   times.added = add.Milliseconds();
-  mirror.Detach();
   return times;
 }
 

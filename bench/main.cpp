@@ -107,15 +107,15 @@ struct Two {
   double first = 0, second = 0;
 };
 
-void BenchFilter(Report& report, const std::string& self, const std::string& list) {
+void BenchFilter(Report& report, const Command& child, const std::string& what) {
   std::vector<double> first;
   std::vector<double> further;
   for (int run = 0; run < kRuns; ++run) {
-    const Two times({self, "--filter", list});
+    const Two times(child);
     first.push_back(times.first);
     further.push_back(times.second);
   }
-  report.Title("Filter as you type, the rows found");
+  report.Title("Filter as you type, " + what);
   report.Line("first letter", Median(first), "ms");
   report.Line("each further letter", Median(further), "ms");
   report.Ratio("first letter / 50 ms", Median(first) / 50, 1);
@@ -232,7 +232,8 @@ Report Bench(const std::string& self, const fs::path& resources) {
   MakeProgramFolder(big, list, resources);
   BenchLoad(report, self, list.string());
   BenchFind(report, self, list.string());
-  BenchFilter(report, self, list.string());
+  BenchFilter(report, {self, "--filter", list.string()}, "the rows found");
+  BenchFilter(report, {self, "--shown-filter", big.string()}, "the rows painted");
   BenchDonations(report, shipped, big);
   BenchLookups(report, self, big);
   BenchStart(report, fs::path(self).parent_path(), shipped, big,

@@ -1,7 +1,9 @@
 #include "base/currency.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include "base/number_text.h"
 #include "base/runtime_error.h"
@@ -76,6 +78,23 @@ std::uint64_t Magnitude(std::int64_t value) {
   return value < 0 ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value);
 }
 
+// The units of a plain amount such as "1250.50"; nothing for any other text. A double of so few
+// digits is so close to the amount that it would be rounded to the same.
+std::optional<std::int64_t> PlainUnits(std::string_view text) {
+  constexpr std::size_t mostDigits = 11, mostDecimals = 4;
+  const std::size_t point = std::min(text.find('.'), text.size());
+  const std::size_t decimals = point < text.size() ? text.size() - point - 1 : 0;
+  if (point > mostDigits || decimals > mostDecimals) return std::nullopt;
+  std::int64_t units = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (i == point) continue;
+    if (text[i] < '0' || text[i] > '9') return std::nullopt;
+    units = units * 10 + (text[i] - '0');
+  }
+  for (std::size_t i = decimals; i < mostDecimals; ++i) units *= 10;
+  return units;
+}
+
 }  // namespace
 
 Currency Currency::FromDouble(double value) {
@@ -96,7 +115,8 @@ Currency Currency::FromDouble(double value) {
 }
 
 Currency Currency::FromText(std::string_view text) {
-  return FromDouble(Val(text));
+  const auto units = PlainUnits(text);
+  return units ? FromUnits(*units) : FromDouble(Val(text));
 }
 
 double Currency::ToDouble() const {

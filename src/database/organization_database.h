@@ -1,5 +1,6 @@
 #pragma once
 
+#include <future>
 #include <map>
 #include <memory>
 #include <optional>
@@ -24,6 +25,10 @@ class OrganizationDatabase {
                        FilePath file)
       : main_(main), run_(run), settings_(settings), files_(files), file_(std::move(file)) {}
 
+  // Begins to load the file in the background. What is read is used by the next load, unless the
+  // file is another one by then.
+  void LoadAhead();
+
   // Loads the file into ListView1 and DBVersion from the last header line. Raises RuntimeError when
   // the file cannot be read, and at a bad line, with the rows before it loaded.
   void LoadOrganizationList();
@@ -44,12 +49,18 @@ class OrganizationDatabase {
   [[nodiscard]] const OrganizationList* List() const { return list_.get(); }
 
  private:
+  using Shared = std::shared_ptr<const OrganizationList>;
+  // The list that was loaded ahead; null without one, or when it is not the present file's.
+  Shared TakeAhead();
+
   frmBVX& main_;
   RunValues& run_;
   SettingsStore& settings_;
   const Files& files_;
   FilePath file_;
-  std::shared_ptr<const OrganizationList> list_;
+  Shared list_;
+  FileState aheadOf_;  // the file that is loaded ahead
+  std::future<Shared> ahead_;
 };
 
 }  // namespace benevix

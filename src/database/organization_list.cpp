@@ -51,8 +51,11 @@ OrganizationTexts TextsOf(std::string_view line) {
 
 std::optional<std::int32_t> IdIn(std::string_view text) {
   std::int32_t id = 0;
-  const auto read = std::from_chars(text.data(), text.data() + text.size(), id);
-  if (read.ec != std::errc() || std::to_string(id) != text) return std::nullopt;
+  const char* const end = text.data() + text.size();
+  const auto read = std::from_chars(text.data(), end, id);
+  // No zeros stand in front, and no minus before 0.
+  const bool isPadded = text.starts_with("-0") || (text.starts_with('0') && text.size() > 1);
+  if (read.ec != std::errc() || read.ptr != end || isPadded) return std::nullopt;
   return id;
 }
 

@@ -13,11 +13,11 @@
 
 namespace benevix {
 
-FileCalls fileCalls;
+thread_local FileCalls fileCalls;
 
 namespace {
 
-std::bitset<1024> ours;  // the open files below the folder
+thread_local std::bitset<1024> ours;  // the open files below the folder
 
 template <class F>
 F* Real(const char* name) {

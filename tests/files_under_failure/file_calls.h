@@ -11,8 +11,9 @@ enum class Fault {
   FullDisk,  // from this call on: what needs room on the disk fails
 };
 
-// The calls of this process on files below a folder. While they are watched they are counted, and
-// the fault comes at the call with the number `at`.
+// The calls of this thread on files below a folder. While they are watched they are counted, and
+// the fault comes at the call with the number `at`. In the background the program only reads, and
+// what fails there is read once more in the foreground.
 struct FileCalls {
   bool watched = false;
   std::string folder;
@@ -20,7 +21,7 @@ struct FileCalls {
   Fault fault = Fault::None;
   long count = 0;
 };
-extern FileCalls fileCalls;
+extern thread_local FileCalls fileCalls;
 
 inline constexpr int kKilled = 99;  // the exit code of a killed process
 

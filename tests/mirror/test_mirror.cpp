@@ -10,7 +10,6 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
-#include <QToolTip>
 #include <gtest/gtest.h>
 
 #include "../sample_list.h"
@@ -175,37 +174,6 @@ TEST_F(MirrorTest, TheFocusAloneChoosesNoRow) {
   EXPECT_GT(main.ListView1.selected, 0);
 }
 
-TEST_F(MirrorTest, AListIsNewAtTheAddressOfTheLastOneAndScrolls) {
-  struct Rows : SampleRows {
-    [[nodiscard]] int Count() const override { return count; }
-    [[nodiscard]] std::string Text(int row, int column) const override {
-      return SampleRows::Text(row, column) + std::string(column == 1 ? 300 : 0, 'n');
-    }
-    int count = 2;
-  };
-  const auto rows = std::make_shared<Rows>();
-  const auto& view = Widget<QTableView>(main.ListView1);
-  input.Enter([&] { main.ListView1.SetRows(rows); });
-  rows->count = 5;
-  input.Enter([&] { main.ListView1.SetRows(rows); });
-  EXPECT_EQ(view.model()->rowCount(), 5);
-  // A name that is cut off is told, in place of the list's key.
-  const auto tipAt = [&](int column) {
-    const QPoint place = view.visualRect(view.model()->index(1, column)).center();
-    QHelpEvent hover(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
-    QCoreApplication::sendEvent(view.viewport(), &hover);
-    return QToolTip::text();
-  };
-  EXPECT_TRUE(tipAt(1).startsWith(QStringLiteral("Org 2n")));
-  EXPECT_EQ(tipAt(2), QStringLiteral("Ctrl+L"));
-  rows->count = 500;
-  input.Enter([&] {
-    main.ListView1.SetRows(rows);
-    main.ListView1.EnsureVisible(300);
-  });
-  EXPECT_EQ(view.rowAt(0), 299);
-}
-
 TEST_F(MirrorTest, TheSecondPressOfADoubleClickIsNoClick) {
   const auto doubleClick = [this](const Control& control, QPoint place) {
     auto& widget = Widget<QWidget>(control);
@@ -228,12 +196,14 @@ TEST_F(MirrorTest, ALongRequestShowsABusyPointerAndWhatIsGoingOn) {
     EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
     EXPECT_TRUE(line.isVisible());
     EXPECT_EQ(line.text(), QStringLiteral("Asking..."));
+    EXPECT_TRUE(Widget<QPushButton>(main.Command1).property("waits").toBool());
     EXPECT_EQ(Widget<QLabel>(main.Label6).text().toStdString(), main.Label6.caption);
     EXPECT_EQ(mirror.BindingOf(main)->Widget().cursor().shape(), Qt::ArrowCursor);
     desk.SetActivity({});
   });
   EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
   EXPECT_FALSE(line.isVisible());
+  EXPECT_FALSE(Widget<QPushButton>(main.Command1).property("waits").toBool());
 }
 
 TEST_F(MirrorTest, TheYearToDateWindowStandsBesideItsFrameAndLeavesTheKeys) {

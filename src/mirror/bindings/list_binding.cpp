@@ -49,8 +49,7 @@ class ListBinding : public QObject, public WidgetBinding<ListView, QTableView> {
 
  private:
   void ApplyKind() override {
-    // The view cannot scroll among rows that it has not laid out yet.
-    if (model_.Refresh()) widget_.doItemsLayout();
+    model_.Refresh();
     // A row that is not shown stays selected.
     const QModelIndex selected = model_.IndexOf(control_.selected, column::kOrganization);
     if (widget_.currentIndex().row() != selected.row()) {

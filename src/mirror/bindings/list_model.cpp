@@ -29,7 +29,7 @@ QString SpokenRow(const ListView& list, int row) {
 
 }  // namespace
 
-bool ListModel::Refresh() {
+void ListModel::Refresh() {
   if (list_.loads != loads_ || list_.shownRows != shownRows_) {
     beginResetModel();
     loads_ = list_.loads;
@@ -37,13 +37,10 @@ bool ListModel::Refresh() {
     count_ = list_.ShownCount();
     changes_ = list_.changes;
     endResetModel();
-    return true;
-  }
-  if (list_.changes != changes_ && count_ > 0) {
+  } else if (list_.changes != changes_ && count_ > 0) {
     changes_ = list_.changes;
     Q_EMIT dataChanged(index(0, 0), index(count_ - 1, ListView::kColumns - 1));
   }
-  return false;
 }
 
 int ListModel::rowCount(const QModelIndex& parent) const {

@@ -15,9 +15,8 @@ class ListModel : public QAbstractTableModel {
 
   ListModel(const ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
 
-  // Updates the view where texts or rows have changed since the last time. True when there are
-  // other rows.
-  bool Refresh();
+  // Updates the view where texts or rows have changed since the last time.
+  void Refresh();
 
   int rowCount(const QModelIndex& parent = {}) const override;
   // The row of the list at an index, 0 for none, and the other way round.
