@@ -13,12 +13,13 @@ void Require(bool holds, const char* property) {
 
 const std::map<std::string, Target>& Targets() {
   static const std::map<std::string, Target> targets = {
-      {"addresses", CheckAddress}, {"contacts", CheckOrganizationContacts},
-      {"details", CheckContact},   {"help", CheckHelpAnchors},
-      {"journal", CheckJournal},   {"list", CheckOrganizationList},
-      {"news", CheckNews},         {"numbers", CheckNumber},
-      {"rates", CheckRates},       {"recall", CheckRecall},
-      {"settings", CheckSettings}, {"year-to-date", CheckYearToDate},
+      {"addresses", CheckAddress},       {"contacts", CheckOrganizationContacts},
+      {"details", CheckContact},         {"help", CheckHelpAnchors},
+      {"history", CheckHistory},         {"journal", CheckJournal},
+      {"list", CheckOrganizationList},   {"news", CheckNews},
+      {"numbers", CheckNumber},          {"rates", CheckRates},
+      {"recall", CheckRecall},           {"settings", CheckSettings},
+      {"year-to-date", CheckYearToDate},
   };
   return targets;
 }

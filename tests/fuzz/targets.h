@@ -13,6 +13,7 @@ void Require(bool holds, const char* property);
 void CheckAddress(std::string_view input);
 void CheckContact(std::string_view input);
 void CheckHelpAnchors(std::string_view input);
+void CheckHistory(std::string_view input);
 void CheckJournal(std::string_view input);
 void CheckNews(std::string_view input);
 void CheckNumber(std::string_view input);  // the number, and in a second line a pattern
