@@ -209,9 +209,9 @@ bool Input::Key(const Control& control, int key) {
   const NamedControl& named = Named(entry, control);
   const PictureBox* const picture = named.As<PictureBox>();
   const bool isButton = picture != nullptr && picture->isButton;
-  if (key == keys::kEnter && (isButton || named.As<Button>() != nullptr)) {
-    Click(named);
-  } else if (key == ' ' && isButton) {  // the widgets of the other buttons do so by themselves
+  const bool isEnter = key == keys::kEnter && named.As<Button>() != nullptr;
+  // The space bar presses the widgets of the other buttons by itself.
+  if (isEnter || (isButton && (key == keys::kEnter || key == ' '))) {
     Click(named);
   } else if (key != keys::kEnter || !BreaksLines(named)) {
     AnswerKey(entry, key);
