@@ -34,7 +34,9 @@ std::string HeadOf(const Answer& answer) {
                      " \r\nContent-Type: " + answer.contentType +
                      "\r\nContent-Length: " + std::to_string(answer.body.size()) +
                      "\r\nCache-Control: no-store\r\nConnection: close\r\n";
-  for (const auto& [name, value] : answer.headers) head.append(name + ": " + value + "\r\n");
+  for (const auto& [name, value] : answer.headers) {
+    head.append(name).append(": ").append(value).append("\r\n");
+  }
   return head + "\r\n";
 }
 

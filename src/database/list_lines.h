@@ -81,7 +81,6 @@ class ListLines {
   bool CheckOrganization(std::string_view line, std::size_t comma);
 
   const char* bytes_ = nullptr;
-  std::size_t end_ = 0;
 };
 
 }  // namespace benevix

@@ -1,6 +1,5 @@
 // Random sessions of the whole logic: the books are kept, every step is undone and redone, and
 // continued by another run.
-// continued by another run.
 
 #include <gtest/gtest.h>
 #include <map>
@@ -17,7 +16,6 @@ namespace {
 struct State {
   SessionFields fields;
   std::map<int, ListView::Cells> rows;
-  friend bool operator==(const State&, const State&) = default;
 };
 
 State StateOf(Program& program) {

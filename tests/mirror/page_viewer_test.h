@@ -82,10 +82,13 @@ class PageViewerTest : public testing::Test {
     EXPECT_TRUE(QSignalSpy(view, SIGNAL(loadFinished(bool))).wait(20000));
   }
   QString Value(const QString& expression) {
-    using Probe = QString (*)(QObject*, const QString&);
+    using Probe = void (*)(QObject*, const QString&, QString&);
     static const auto probe = reinterpret_cast<Probe>(QLibrary::resolve(PAGE_PROBE, "ValueInPage"));
     QObject* page = Engine("QWebEnginePage");
-    return page == nullptr ? Notice() : probe(page, expression);
+    if (page == nullptr) return Notice();
+    QString value;
+    probe(page, expression, value);
+    return value;
   }
   bool Becomes(const QString& expression, const QString& wanted) {
     QString value;
