@@ -68,14 +68,12 @@ QColor WantedText(const QWidget& widget, Color color, Color design, Scheme schem
   return themes ? ThemeText(widget) : RoleColor(color, scheme);
 }
 
-// A style sheet colours a label without a trace in its palette, so the drawn letters decide.
+// The drawn letters decide, not what the palette holds.
 Text OfLabel(const Label& label, QWidget& widget, Scheme scheme) {
   const auto drawn = ColorsIn(Picture(widget));
   if (drawn.empty()) return std::nullopt;
   const QColor wanted = WantedText(widget, label.foreColor, Label().foreColor, scheme);
-  // The style sheet has another colour for a link under the mouse.
-  const bool lit = widget.underMouse() && label.foreColor == Label().foreColor;
-  if (lit || drawn.count(wanted.rgb()) != 0) return ColorText(label.foreColor);
+  if (drawn.count(wanted.rgb()) != 0) return ColorText(label.foreColor);
   const auto most = std::max_element(
       drawn.begin(), drawn.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
   return DrawnColor(most->first, wanted, label.foreColor);

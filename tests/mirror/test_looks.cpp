@@ -60,7 +60,9 @@ QRect TextRect(const QWidget& widget) {
     return widget.rect().adjusted(26, 2, -2, -2);  // behind the mark
   }
   if (const auto* const box = qobject_cast<const QGroupBox*>(&widget)) {
-    const bool titled = !box->title().isEmpty() && !box->property("look").isValid();
+    const QString look = box->property("look").toString();
+    const bool titled = !box->title().isEmpty() && look != QLatin1String("plain") &&
+                        look != QLatin1String("untitled");
     return titled ? QRect(8, 4, box->width() - 16, box->fontMetrics().height() + 4) : QRect();
   }
   for (const char* const kind : {"QPushButton", "QLineEdit", "QPlainTextEdit", "QComboBox",

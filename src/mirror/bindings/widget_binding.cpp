@@ -1,5 +1,7 @@
 #include "mirror/bindings/widget_binding.h"
 
+#include <QStyle>
+
 #include "mirror/look/texts.h"
 
 namespace benevix {
@@ -18,6 +20,7 @@ void ControlColors::Apply(std::initializer_list<Part> texts, std::initializer_li
   if (shown_ != scheme_) {
     shown_ = scheme_;
     widget_.setPalette({});
+    widget_.style()->polish(&widget_);  // the colour of its look
     theme_ = widget_.palette();
   }
   QPalette palette = theme_;

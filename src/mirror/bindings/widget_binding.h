@@ -59,7 +59,10 @@ class ControlColors {
 
   // The scheme may change.
   ControlColors(QWidget& widget, const Scheme& scheme)
-      : widget_(widget), scheme_(scheme), shown_(scheme), theme_(widget.palette()) {}
+      : widget_(widget), scheme_(scheme), shown_(scheme) {
+    widget.ensurePolished();
+    theme_ = widget.palette();
+  }
 
   // While the widget is disabled its texts keep the theme's colours.
   void Apply(std::initializer_list<Part> texts, std::initializer_list<Part> grounds);

@@ -15,8 +15,7 @@ enum class Scheme { Light, Dark };
 inline constexpr auto kSchemeVariable = "BENEVIX_SCHEME";
 [[nodiscard]] Scheme DesktopScheme();
 
-// Style, palette and style sheet of all windows. Font sizes follow
-// the application's font.
+// Style and palette of all windows. Font sizes follow the application's font.
 void ApplyTheme(QApplication& app, Scheme scheme);
 
 // Another scheme for the theme that is applied.

@@ -6,7 +6,6 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QShortcut>
-#include <QStyle>
 #include <QToolTip>
 #include <QWindow>
 #include <string_view>
@@ -189,7 +188,7 @@ void WindowBinding::ShowActivity() {
     auto* const button = qobject_cast<QPushButton*>(binding->Widget());
     if (button == nullptr || named->Base().endsRequests) continue;
     button->setProperty("waits", !activity.isEmpty());
-    button->style()->polish(button);
+    button->update();
   }
 }
 

@@ -120,8 +120,7 @@ void PageViewHost::SetAddress(const QUrl& address) {
   hostLine_->setText(OriginText(address) +
                      (isProtected ? QString() : QStringLiteral(" - not secure")));
   hostLine_->setProperty("look", isProtected ? "note" : "warning");
-  hostLine_->style()->unpolish(hostLine_);  // so that the style sees the other look
-  hostLine_->style()->polish(hostLine_);
+  hostLine_->style()->polish(hostLine_);  // so that the style sees the other look
 }
 
 void PageViewHost::Close(const QString& reason) {

@@ -1,0 +1,153 @@
+#include "mirror/look/widget_look.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFontInfo>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableView>
+#include <QVariant>
+
+#include "mirror/look/tones.h"
+
+namespace benevix {
+namespace {
+
+constexpr double kSmall = 0.9;
+constexpr double kMedium = 1.15;
+
+struct LabelLook {
+  const char* name;
+  double size;  // of the application's font
+  bool bold;
+  const Tone* color = nullptr;  // null for that of other texts
+  bool dims = false;            // takes the colour of disabled texts when it is disabled
+  QMargins room = {};           // pixels
+};
+
+constexpr LabelLook kLabels[] = {
+    {"heading", 1, true, &tone::kAccent, true, {0, 0, 0, 4}},
+    {"caption", 1, true},
+    {"note", kSmall, false, &tone::kMuted},
+    {"aside", kSmall, false, &tone::kMuted},
+    {"warning", 1, true, &tone::kRed},
+    {"bubble", kSmall, false, &tone::kText, false, {9, 4, 9, 4}},
+    {"figure", kSmall, false},
+    {"name", kMedium, true},
+    {"unit", kMoneyScale, true},
+    {"page", kMoneyScale, false},
+    {"link", 1, false, &tone::kAccent, true, {4, 2, 4, 2}},
+    {"guidance", kMedium, true, &tone::kOnTint, false, {16, 3, 12, 3}},
+    {"enter", 1, false, nullptr, false, {4, 4, 4, 4}},
+    {"exit", 1, false, nullptr, false, {4, 4, 4, 4}},
+};
+
+QFont Sized(double size, bool bold) {
+  QFont font = QApplication::font();
+  font.setPointSizeF(QFontInfo(font).pointSizeF() * size);
+  font.setBold(bold);
+  return font;
+}
+
+int WidthOf(const QFont& font, const char* text) {
+  return QFontMetrics(font).horizontalAdvance(QLatin1String(text));
+}
+
+// Only what the look has of its own; the rest stays that of the parent.
+void GiveFont(QWidget& widget, const LabelLook& look) {
+  QFont font;
+  if (look.size != 1) font.setPointSizeF(Sized(look.size, false).pointSizeF());
+  if (look.bold) font.setBold(true);
+  if (QLatin1String(look.name) == QLatin1String("link")) font.setUnderline(true);
+  widget.setFont(font);
+}
+
+void GiveColor(QWidget& widget, const LabelLook& look, Scheme scheme) {
+  QPalette palette;
+  if (look.color != nullptr) {
+    const QColor color = ColorOf(*look.color, scheme);
+    palette.setColor(QPalette::Active, QPalette::WindowText, color);
+    palette.setColor(QPalette::Inactive, QPalette::WindowText, color);
+    if (!look.dims) palette.setColor(QPalette::Disabled, QPalette::WindowText, color);
+  }
+  widget.setPalette(palette);
+}
+
+void GiveLabelLook(QLabel& label, const QString& name, Scheme scheme) {
+  for (const LabelLook& look : kLabels) {
+    if (name != QLatin1String(look.name)) continue;
+    GiveFont(label, look);
+    GiveColor(label, look, scheme);
+    label.setContentsMargins(look.room);
+  }
+  // Room for two lines, so that a longer sentence does not push what stands below.
+  if (name == QLatin1String("guidance")) {
+    label.setMinimumHeight(2 * label.fontMetrics().lineSpacing() + 6);
+  }
+  // The same, and of its own width: what it says moves nothing.
+  if (name == QLatin1String("aside")) {
+    label.setFixedWidth(WidthOf(label.font(), "Opens when 100.00 m"));
+    label.setMinimumHeight(2 * label.fontMetrics().lineSpacing());
+  }
+}
+
+void GiveEditLook(QLineEdit& edit, const QString& name) {
+  const int padding = PaddingOf(edit).left() + PaddingOf(edit).right();
+  if (name == QLatin1String("money")) {
+    // The size of its font is the mirror's, which gives it that of the struct.
+    const QFont amount = Sized(kMoneyScale, true);
+    edit.setMinimumWidth(WidthOf(amount, "10,000.00") + padding);
+    edit.setMaximumWidth(WidthOf(amount, "1,000,000,000.00") + padding);
+    const QFont accepted = Sized(kMoneyScale * 9 / TextBox().fontSize, true);  // a Budget
+    constexpr int ownMargins = 2;
+    edit.setMinimumHeight(QFontMetrics(accepted).height() + ownMargins + 8);
+  } else if (name == QLatin1String("search")) {
+    // Beyond this the eye would have to go back for what stands behind it.
+    edit.setMaximumWidth(
+        padding +
+        WidthOf(Sized(1, true), "Organizations that help people who were driven from their homes"));
+  }
+}
+
+// Rows without a box of their own, on the ground of what they stand on.
+void GivePlainTable(QTableView& table, Scheme scheme) {
+  table.setFrameShape(QFrame::NoFrame);
+  QPalette palette;
+  palette.setColor(QPalette::Base, Qt::transparent);
+  palette.setColor(QPalette::Highlight, ColorOf(tone::kTint, scheme));
+  palette.setColor(QPalette::HighlightedText, ColorOf(tone::kOnTint, scheme));
+  table.setPalette(palette);
+}
+
+}  // namespace
+
+QString LookOf(const QWidget& widget) {
+  return widget.property(kLook).toString();
+}
+
+QMargins PaddingOf(const QLineEdit& edit) {
+  if (qobject_cast<const QComboBox*>(edit.parentWidget()) != nullptr) return {};
+  const QString look = LookOf(edit);
+  if (look == QLatin1String("money")) return {8, 5, 8, 5};
+  return look == QLatin1String("search") ? QMargins(4, 6, 4, 6) : QMargins(4, 5, 4, 5);
+}
+
+void GiveLook(QWidget& widget, Scheme scheme) {
+  const QString look = LookOf(widget);
+  QFont bold;
+  bold.setBold(true);
+  if (auto* const label = qobject_cast<QLabel*>(&widget)) {
+    GiveLabelLook(*label, look, scheme);
+  } else if (auto* const edit = qobject_cast<QLineEdit*>(&widget)) {
+    GiveEditLook(*edit, look);
+  } else if (auto* const table = qobject_cast<QTableView*>(&widget)) {
+    if (look == QLatin1String("plain")) GivePlainTable(*table, scheme);
+  } else if (qobject_cast<QHeaderView*>(&widget) != nullptr || look == QLatin1String("primary")) {
+    widget.setFont(bold);
+  } else if (look == QLatin1String("track")) {
+    widget.setFixedHeight(widget.fontMetrics().height() + 8);
+  }
+}
+
+}  // namespace benevix
