@@ -222,6 +222,8 @@ QIcon ThemeStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
       return QIcon(QStringLiteral(":/images/warning.svg"));
     case SP_MessageBoxCritical:
       return QIcon(QStringLiteral(":/images/critical.svg"));
+    case SP_LineEditClearButton:  // the toolkit would search the desktop's icons for it
+      return QIcon(QStringLiteral(":/images/clear.svg"));
     default:
       return QProxyStyle::standardIcon(icon, option, widget);
   }

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QTableView>
 #include <QVariant>
+#include <cmath>
 
 #include "mirror/look/tones.h"
 
@@ -92,21 +93,33 @@ void GiveLabelLook(QLabel& label, const QString& name, Scheme scheme) {
   }
 }
 
+// The pixels of boxes for amounts and of the filter, without their padding.
+struct EditSizes {
+  int amount, longestAmount, acceptedBudget, search;
+};
+
+EditSizes MeasuredSizes() {
+  const QFont amount = Sized(kMoneyScale, true);
+  // An accepted Budget is drawn larger than what is typed.
+  const double larger = 9 / TextBox().fontSize;
+  return {
+      WidthOf(amount, "10,000.00"), WidthOf(amount, "1,000,000,000.00"),
+      static_cast<int>(std::ceil(QFontMetrics(amount).height() * larger)),
+      WidthOf(Sized(1, true), "Organizations that help people who were driven from their homes")};
+}
+
 void GiveEditLook(QLineEdit& edit, const QString& name) {
-  const int padding = PaddingOf(edit).left() + PaddingOf(edit).right();
+  static const EditSizes sizes = MeasuredSizes();
+  const QMargins padding = PaddingOf(edit);
+  const int beside = padding.left() + padding.right();
   if (name == QLatin1String("money")) {
     // The size of its font is the mirror's, which gives it that of the struct.
-    const QFont amount = Sized(kMoneyScale, true);
-    edit.setMinimumWidth(WidthOf(amount, "10,000.00") + padding);
-    edit.setMaximumWidth(WidthOf(amount, "1,000,000,000.00") + padding);
-    const QFont accepted = Sized(kMoneyScale * 9 / TextBox().fontSize, true);  // a Budget
-    constexpr int ownMargins = 2;
-    edit.setMinimumHeight(QFontMetrics(accepted).height() + ownMargins + 8);
+    edit.setMinimumWidth(sizes.amount + beside);
+    edit.setMaximumWidth(sizes.longestAmount + beside);
+    edit.setMinimumHeight(sizes.acceptedBudget + padding.top() + padding.bottom());
   } else if (name == QLatin1String("search")) {
     // Beyond this the eye would have to go back for what stands behind it.
-    edit.setMaximumWidth(
-        padding +
-        WidthOf(Sized(1, true), "Organizations that help people who were driven from their homes"));
+    edit.setMaximumWidth(sizes.search + beside);
   }
 }
 
