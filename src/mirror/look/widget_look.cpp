@@ -101,7 +101,7 @@ struct EditSizes {
 EditSizes MeasuredSizes() {
   const QFont amount = Sized(kMoneyScale, true);
   // An accepted Budget is drawn larger than what is typed.
-  const double larger = 9 / TextBox().fontSize;
+  const double larger = 9.0 / TextBox().fontSize;
   return {
       WidthOf(amount, "10,000.00"), WidthOf(amount, "1,000,000,000.00"),
       static_cast<int>(std::ceil(QFontMetrics(amount).height() * larger)),
