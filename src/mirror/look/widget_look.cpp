@@ -116,7 +116,8 @@ void GiveEditLook(QLineEdit& edit, const QString& name) {
     // The size of its font is the mirror's, which gives it that of the struct.
     edit.setMinimumWidth(sizes.amount + beside);
     edit.setMaximumWidth(sizes.longestAmount + beside);
-    edit.setMinimumHeight(sizes.acceptedBudget + padding.top() + padding.bottom());
+    constexpr int ownMargins = 2;
+    edit.setMinimumHeight(sizes.acceptedBudget + ownMargins + padding.top() + padding.bottom());
   } else if (name == QLatin1String("search")) {
     // Beyond this the eye would have to go back for what stands behind it.
     edit.setMaximumWidth(sizes.search + beside);
@@ -142,7 +143,7 @@ QString LookOf(const QWidget& widget) {
 QMargins PaddingOf(const QLineEdit& edit) {
   if (qobject_cast<const QComboBox*>(edit.parentWidget()) != nullptr) return {};
   const QString look = LookOf(edit);
-  if (look == QLatin1String("money")) return {8, 5, 8, 5};
+  if (look == QLatin1String("money")) return {8, 4, 8, 4};
   return look == QLatin1String("search") ? QMargins(4, 6, 4, 6) : QMargins(4, 5, 4, 5);
 }
 
