@@ -83,7 +83,7 @@ std::optional<GivenSession> ReadHeading(std::string_view line) {
   if (line.size() != size || line.substr(13, 3) != " @ " || line[18] != ':') return std::nullopt;
   const auto day = ReadDay(line.substr(3, 10));
   const auto digit = [&](std::size_t at) { return line[at] - '0'; };
-  for (const std::size_t at : {16, 17, 19, 20}) {
+  for (const std::size_t at : {16U, 17U, 19U, 20U}) {
     if (digit(at) < 0 || digit(at) > 9) return std::nullopt;
   }
   GivenSession session;
