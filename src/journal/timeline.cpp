@@ -36,6 +36,7 @@ void Timeline::Note(std::string time, std::string name, const SessionFields& fie
   for (const auto& [row, after] : rows) {
     const auto known = rows_.find(row);
     const auto before = known == rows_.end() ? std::nullopt : std::optional(known->second);
+    if (!before && !after) continue;  // a journal of another hand may say so
     SetRow(row, after);
     step.rows.push_back({row, before, after});
   }
