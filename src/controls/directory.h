@@ -27,6 +27,10 @@ struct NamedControl {
 
 using Directory = std::vector<NamedControl>;
 
+// A control that is no element of an array, or the only one of it, which its name then says:
+// "Name(1)".
+[[nodiscard]] NamedControl NamedAlone(const std::string& name, AnyControl any);
+
 // All controls of a window in its own order, which is the tab order. Each window struct brings a
 // `visit(window, f)` that calls f(name, control) for every control and array.
 template <class W>
@@ -37,12 +41,7 @@ Directory ControlsOf(W& window) {
       int index = 0;
       for (auto& element : control) controls.push_back({name, index++, &element});
     } else {
-      // "Name(1)": the array has this element only.
-      const std::string text = name;
-      const auto bracket = text.find('(');
-      const bool alone = bracket == std::string::npos;
-      controls.push_back(
-          {text.substr(0, bracket), alone ? -1 : std::stoi(text.substr(bracket + 1)), &control});
+      controls.push_back(NamedAlone(name, &control));
     }
   });
   return controls;

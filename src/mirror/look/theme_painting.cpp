@@ -211,11 +211,11 @@ QColor ButtonText(const QStyleOption& option, const QWidget* widget, Scheme sche
 
 void PaintGroupBox(const QStyleOptionGroupBox& box, const QString& look, Scheme scheme,
                    QPainter& painter) {
-  const bool plain = look == QLatin1String("plain");
-  PaintRounded(box.rect, ColorOf(tone::kBase, scheme),
-               plain ? QPen(Qt::NoPen) : QPen(ColorOf(tone::kLine, scheme)), kCardRadius, painter);
-  // A label above a plain or untitled box shows the title already.
-  if (plain || look == QLatin1String("untitled")) return;
+  if (look == QLatin1String("plain")) return;
+  PaintRounded(box.rect, ColorOf(tone::kBase, scheme), ColorOf(tone::kLine, scheme), kCardRadius,
+               painter);
+  // A label above it shows the title already.
+  if (look == QLatin1String("untitled")) return;
   const bool enabled = Has(box, QStyle::State_Enabled);
   painter.setPen(ColorOf(enabled ? tone::kAccent : tone::kMuted, scheme));
   painter.drawText(TitleRect(box), Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip,
