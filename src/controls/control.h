@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace benevix {
@@ -21,7 +22,7 @@ struct Control {
   std::string note;
   // The note when a character is refused: what the box takes.
   const char* takes = "Western European letters and signs only";
-  // A click on it ends a request, so it is taken while the program waits for one.
+  // A click on it ends a request, in its own way, so it is taken while the program waits for one.
   bool endsRequests = false;
   // The frame, picture box or menu of the same window that holds it; none when empty. What is held
   // can be used only while its holder can.
@@ -37,5 +38,11 @@ inline constexpr const char* kNameTakes = "No comma, and Western European letter
 
 inline constexpr const char* kEnterShortcut = "Enter";
 inline constexpr const char* kEscapeShortcut = "Esc";
+
+// Whether a click on it is taken while the program waits for a request, which it ends. What Escape
+// presses does so then, as Escape itself does.
+[[nodiscard]] inline bool EndsRequests(const Control& control) {
+  return control.endsRequests || std::string_view(control.shortcut) == kEscapeShortcut;
+}
 
 }  // namespace benevix

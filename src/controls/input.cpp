@@ -88,6 +88,7 @@ bool Input::Shortcut(const NamedControl& control) {
 }
 
 bool Input::Click(Button& button) {
+  if (busy_ && EndsRequests(button) && !button.endsRequests) return Interrupt(cancelRequest);
   return Do(button, [&](Desk::Entry&) {
     desk_.SetFocus(button);
     Fire(button, Event::Click);

@@ -135,7 +135,7 @@ const WindowBinding::BoundControl* WindowBinding::BoundTo(const QObject* widget)
 
 bool WindowBinding::EndsRequests(const QObject& widget) const {
   const BoundControl* const bound = BoundTo(&widget);
-  return bound != nullptr && bound->control->Base().endsRequests;
+  return bound != nullptr && benevix::EndsRequests(bound->control->Base());
 }
 
 void WindowBinding::Apply(QWidget* transientParent, const QWidget* neighbour) {
@@ -186,7 +186,7 @@ void WindowBinding::ShowActivity() {
   activityLine_->setVisible(!activity.isEmpty());
   for (const auto& [named, binding] : bound_) {
     auto* const button = qobject_cast<QPushButton*>(binding->Widget());
-    if (button == nullptr || named->Base().endsRequests) continue;
+    if (button == nullptr || benevix::EndsRequests(named->Base())) continue;
     button->setProperty("waits", !activity.isEmpty());
     button->update();
   }
