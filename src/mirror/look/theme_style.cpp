@@ -106,7 +106,10 @@ void ThemeStyle::drawControl(ControlElement element, const QStyleOption* option,
         PaintHeaderSection(option->rect, scheme_, *painter);
         QStyleOptionHeader label = *header;
         label.rect = option->rect.marginsRemoved(kAroundHeading);
-        return QProxyStyle::drawControl(CE_HeaderLabel, &label, painter, widget);
+        QProxyStyle::drawControl(CE_HeaderLabel, &label, painter, widget);
+        if (header->sortIndicator == QStyleOptionHeader::None) return;
+        label.rect = subElementRect(SE_HeaderArrow, option, widget);
+        return QProxyStyle::drawPrimitive(PE_IndicatorHeaderArrow, &label, painter, widget);
       }
       break;
     case CE_HeaderEmptyArea:

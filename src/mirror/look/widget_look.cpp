@@ -149,8 +149,6 @@ QMargins PaddingOf(const QLineEdit& edit) {
 
 void GiveLook(QWidget& widget, Scheme scheme) {
   const QString look = LookOf(widget);
-  QFont bold;
-  bold.setBold(true);
   if (auto* const label = qobject_cast<QLabel*>(&widget)) {
     GiveLabelLook(*label, look, scheme);
   } else if (auto* const edit = qobject_cast<QLineEdit*>(&widget)) {
@@ -158,6 +156,8 @@ void GiveLook(QWidget& widget, Scheme scheme) {
   } else if (auto* const table = qobject_cast<QTableView*>(&widget)) {
     if (look == QLatin1String("plain")) GivePlainTable(*table, scheme);
   } else if (qobject_cast<QHeaderView*>(&widget) != nullptr || look == QLatin1String("primary")) {
+    QFont bold;
+    bold.setBold(true);
     widget.setFont(bold);
   } else if (look == QLatin1String("track")) {
     widget.setFixedHeight(widget.fontMetrics().height() + 8);
