@@ -59,15 +59,18 @@ class ControlColors {
 
   // The scheme may change.
   ControlColors(QWidget& widget, const Scheme& scheme)
-      : widget_(widget), scheme_(scheme), shown_(scheme) {
-    widget.ensurePolished();
-    theme_ = widget.palette();
-  }
+      : widget_(widget), scheme_(scheme), shown_(scheme), theme_(ThemeOf(widget)) {}
 
   // While the widget is disabled its texts keep the theme's colours.
   void Apply(std::initializer_list<Part> texts, std::initializer_list<Part> grounds);
 
  private:
+  // With the colour of its look.
+  static QPalette ThemeOf(const QWidget& widget) {
+    widget.ensurePolished();
+    return widget.palette();
+  }
+
   QWidget& widget_;
   const Scheme& scheme_;
   Scheme shown_;

@@ -19,29 +19,33 @@ constexpr double kSmall = 0.9;
 constexpr double kMedium = 1.15;
 
 struct LabelLook {
-  const char* name;
-  double size;  // of the application's font
-  bool bold;
+  const char* name = "";
+  double size = 1;              // of the application's font
   const Tone* color = nullptr;  // null for that of other texts
-  bool dims = false;            // takes the colour of disabled texts when it is disabled
   QMargins room = {};           // pixels
+  bool bold = false;
+  bool dims = false;  // takes the colour of disabled texts when it is disabled
 };
 
 constexpr LabelLook kLabels[] = {
-    {"heading", 1, true, &tone::kAccent, true, {0, 0, 0, 4}},
-    {"caption", 1, true},
-    {"note", kSmall, false, &tone::kMuted},
-    {"aside", kSmall, false, &tone::kMuted},
-    {"warning", 1, true, &tone::kRed},
-    {"bubble", kSmall, false, &tone::kText, false, {9, 4, 9, 4}},
-    {"figure", kSmall, false},
-    {"name", kMedium, true},
-    {"unit", kMoneyScale, true},
-    {"page", kMoneyScale, false},
-    {"link", 1, false, &tone::kAccent, true, {4, 2, 4, 2}},
-    {"guidance", kMedium, true, &tone::kOnTint, false, {16, 3, 12, 3}},
-    {"enter", 1, false, nullptr, false, {4, 4, 4, 4}},
-    {"exit", 1, false, nullptr, false, {4, 4, 4, 4}},
+    {.name = "heading", .color = &tone::kAccent, .room = {0, 0, 0, 4}, .bold = true, .dims = true},
+    {.name = "caption", .bold = true},
+    {.name = "note", .size = kSmall, .color = &tone::kMuted},
+    {.name = "aside", .size = kSmall, .color = &tone::kMuted},
+    {.name = "warning", .color = &tone::kRed, .bold = true},
+    {.name = "bubble", .size = kSmall, .color = &tone::kText, .room = {9, 4, 9, 4}},
+    {.name = "figure", .size = kSmall},
+    {.name = "name", .size = kMedium, .bold = true},
+    {.name = "unit", .size = kMoneyScale, .bold = true},
+    {.name = "page", .size = kMoneyScale},
+    {.name = "link", .color = &tone::kAccent, .room = {4, 2, 4, 2}, .dims = true},
+    {.name = "guidance",
+     .size = kMedium,
+     .color = &tone::kOnTint,
+     .room = {16, 3, 12, 3},
+     .bold = true},
+    {.name = "enter", .room = {4, 4, 4, 4}},
+    {.name = "exit", .room = {4, 4, 4, 4}},
 };
 
 QFont Sized(double size, bool bold) {
