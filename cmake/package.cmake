@@ -21,8 +21,6 @@ own page viewer, and a history keeps every session.
 Each user has their own data files, made from the installed ones at the first
 start.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The SVG plug-in is loaded at run time, so that shlibdeps does not find it.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS libqt6svg6)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "ca-certificates, qt6-wayland, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 include(CPack)

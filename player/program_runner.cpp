@@ -77,7 +77,8 @@ void ProgramRunner::Launch() {
   navigated_.reset();
   program_ = std::make_unique<Program>(
       Environment{world_.info, world_.settings, http_, frontEnd_.Boxes(), frontEnd_.TheWaits(),
-                  world_.clock, world_.random, world_.shell, world_.files, world_.printer});
+                  world_.clock, world_.random, world_.shell, world_.files, world_.printer},
+      ListAhead(world_.files, world_.info.Resource(kListFile)));
   frontEnd_.Start(*program_);
   program_->Main();
 }

@@ -1,14 +1,15 @@
 // The desktop program.
 
 #include <QApplication>
-#include <QIcon>
 #include <cstdio>
 
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "benevix/command.h"
 #include "benevix/machine.h"
+#include "database/list_ahead.h"
 #include "mirror/look/desktop_scheme.h"
+#include "mirror/look/pictures.h"
 #include "mirror/look/theme.h"
 #include "mirror/mirror/mirror.h"
 #include "mirror/mirror/qt_message_boxes.h"
@@ -32,11 +33,11 @@ void BringToFront(Mirror& mirror, const QByteArray& token) {
   qunsetenv(kActivationToken);
 }
 
-int RunOn(Machine& machine, Mirror& mirror) {
+int RunOn(Machine& machine, Mirror& mirror, ListAhead list) {
   const Environment environment = machine.TheEnvironment();
   SettingsStore settings(environment.registry);
   const WindowLayout layout(settings);
-  Program program(environment);
+  Program program(environment, std::move(list));
   mirror.Attach(program.TheDesk(), program.TheInput(), &layout);
   mirror.onEnded = [] { QCoreApplication::exit(); };
   program.Main();
@@ -46,7 +47,17 @@ int RunOn(Machine& machine, Mirror& mirror) {
   return result;
 }
 
-int Run(const QByteArray& token) {
+// A long list takes as long as the toolkit needs to start, so both begin together.
+ListAhead LoadListAhead() {
+  try {
+    const FilePath folder(ProgramFolder(ExecutablePath()));
+    return {LinuxFiles(), folder / "Resources" / kListFile};
+  } catch (const RuntimeError&) {
+    return {};  // the program loads it when it needs it
+  }
+}
+
+int Run(const QByteArray& token, ListAhead list) {
   const std::string executable = QCoreApplication::applicationFilePath().toStdString();
   LinuxFiles files;
   RunningCopy copy(
@@ -65,7 +76,7 @@ int Run(const QByteArray& token) {
   QtMessageBoxes boxes(mirror);
   try {
     Machine machine(executable, mirror, boxes);
-    return RunOn(machine, mirror);
+    return RunOn(machine, mirror, std::move(list));
   } catch (const RuntimeError& error) {
     std::fprintf(stderr, "%s\n", ToUtf8(error.what()).c_str());
     boxes.Show("Benevix", error.what(), BoxIcon::Critical, BoxButtons::OK);
@@ -78,9 +89,10 @@ int Run(const QByteArray& token) {
 int main(int argc, char** argv) {
   if (const auto status = benevix::RunCommand(argc, argv)) return *status;
   const QByteArray token = qgetenv(kActivationToken);  // before the toolkit takes it
+  ListAhead list = LoadListAhead();
   const QApplication app(argc, argv);
   QApplication::setApplicationName("Benevix");
-  QApplication::setWindowIcon(QIcon(":/images/benevix.svg"));
+  QApplication::setWindowIcon(PictureIcon("benevix"));
   QApplication::setQuitOnLastWindowClosed(false);
-  return Run(token);
+  return Run(token, std::move(list));
 }

@@ -9,31 +9,9 @@
 
 namespace benevix {
 
-void OrganizationDatabase::LoadAhead() {
-  try {
-    const std::shared_ptr<const FileReader> file = files_.Open(file_);
-    aheadOf_ = file->State();
-    ahead_ = std::async(std::launch::async,
-                        [file] { return std::make_shared<const OrganizationList>(*file); });
-  } catch (const RuntimeError&) {
-    // The load itself will raise it.
-  }
-}
-
-OrganizationDatabase::Shared OrganizationDatabase::TakeAhead() {
-  if (!ahead_.valid()) return nullptr;
-  try {
-    auto list = ahead_.get();
-    if (files_.Open(file_)->State() == aheadOf_) return list;
-  } catch (const RuntimeError&) {
-    // It is loaded as if nothing had been tried before.
-  }
-  return nullptr;
-}
-
 void OrganizationDatabase::LoadOrganizationList() {
   list_.reset();  // first, so that memory never holds two lists
-  list_ = TakeAhead();
+  list_ = ahead_.Take(files_, file_);
   if (!list_) list_ = std::make_shared<const OrganizationList>(*files_.Open(file_));
   main_.ListView1.SetRows(list_);
   if (list_->Version()) run_.DBVersion = *list_->Version();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <future>
 #include <map>
 #include <memory>
 #include <optional>
@@ -9,6 +8,7 @@
 
 #include "core/run_values.h"
 #include "core/settings_store.h"
+#include "database/list_ahead.h"
 #include "database/organization_list.h"
 #include "forms/frmBVX.h"
 
@@ -21,13 +21,15 @@ std::optional<float> ListFileVersion(const Files& files, const FilePath& file);
 // The installed organization list, its version and the countries menu.
 class OrganizationDatabase {
  public:
+  // The first load takes the list that was loaded ahead, if it is the file's.
   OrganizationDatabase(frmBVX& main, RunValues& run, SettingsStore& settings, const Files& files,
-                       FilePath file)
-      : main_(main), run_(run), settings_(settings), files_(files), file_(std::move(file)) {}
-
-  // Begins to load the file in the background. What is read is used by the next load, unless the
-  // file is another one by then.
-  void LoadAhead();
+                       FilePath file, ListAhead ahead = {})
+      : main_(main),
+        run_(run),
+        settings_(settings),
+        files_(files),
+        file_(std::move(file)),
+        ahead_(std::move(ahead)) {}
 
   // Loads the file into ListView1 and DBVersion from the last header line. Raises RuntimeError when
   // the file cannot be read, and at a bad line, with the rows before it loaded.
@@ -49,18 +51,13 @@ class OrganizationDatabase {
   [[nodiscard]] const OrganizationList* List() const { return list_.get(); }
 
  private:
-  using Shared = std::shared_ptr<const OrganizationList>;
-  // The list that was loaded ahead; null without one, or when it is not the present file's.
-  Shared TakeAhead();
-
   frmBVX& main_;
   RunValues& run_;
   SettingsStore& settings_;
   const Files& files_;
   FilePath file_;
-  Shared list_;
-  FileState aheadOf_;  // the file that is loaded ahead
-  std::future<Shared> ahead_;
+  ListAhead ahead_;
+  std::shared_ptr<const OrganizationList> list_;
 };
 
 }  // namespace benevix

@@ -16,6 +16,9 @@
 
 namespace benevix {
 
+// The installed list's file in the Resources folder.
+inline constexpr auto kListFile = "sharedb.dat";
+
 // Columns of the organization list.
 namespace column {
 inline constexpr int kCountry = 0;

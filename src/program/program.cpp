@@ -16,7 +16,7 @@ Environment WithHttp(const Environment& from, HttpClient& http) {
 
 }  // namespace
 
-Program::Program(const Environment& environment)
+Program::Program(const Environment& environment, ListAhead list)
     : desk_(events_),
       requests_(environment.http, desk_, environment.waits, main_.CancelRequest),
       environment_(WithHttp(environment, requests_)),
@@ -24,8 +24,8 @@ Program::Program(const Environment& environment)
       settings_(environment_.registry),
       messages_(environment_.boxes, environment_.info, run_),
       codec_(environment_.info.exeName),
-      database_(main_, run_, settings_, environment_.files,
-                environment_.info.Resource("sharedb.dat")),
+      database_(main_, run_, settings_, environment_.files, environment_.info.Resource(kListFile),
+                std::move(list)),
       budgetEntry_(main_, values_, desk_, messages_, [this] { paymentOptions_.AskOnce(); }),
       donationEntry_(main_, values_, rates_, desk_, messages_,
                      {forms_.Get<frmPersInfo>(), forms_.Get<frmPayOpt>(),

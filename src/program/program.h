@@ -61,7 +61,8 @@ namespace benevix {
 // One run of the program: builds every module once and hands each exactly what it uses.
 class Program {
  public:
-  explicit Program(const Environment& environment);
+  // The list is the one that was loaded ahead of the program, if any was.
+  explicit Program(const Environment& environment, ListAhead list = {});
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
   ~Program() = default;

@@ -13,8 +13,6 @@
 namespace benevix {
 
 void Program::Main() {
-  // The list is there by the time that the user has read the splash.
-  database_.LoadAhead();
   input_.Enter([this] {
     UpdateOwnSettings(settings_, environment_);
     desk_.Show(forms_.Get<frmSplash>());

@@ -6,6 +6,7 @@
 #include "base/lines.h"
 #include "base/runtime_error.h"
 #include "core/date_text.h"
+#include "database/organization_list.h"
 #include "platform/line_reader.h"
 #include "session/fees.h"
 #include "session/modes.h"
@@ -126,7 +127,7 @@ std::map<std::string, std::string> LastSession::NamesInFile(
   std::map<std::string, std::string> names;
   std::set<std::string_view> wanted(ids.begin(), ids.end());
   if (wanted.empty()) return names;
-  LineReader lines(environment_.files.Open(environment_.info.Resource("sharedb.dat")));
+  LineReader lines(environment_.files.Open(environment_.info.Resource(kListFile)));
   while (!wanted.empty()) {
     const auto line = lines.Next();
     if (!line) break;

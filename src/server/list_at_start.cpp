@@ -1,6 +1,7 @@
 #include "server/list_at_start.h"
 
 #include "base/runtime_error.h"
+#include "database/organization_list.h"
 
 namespace benevix {
 namespace {
@@ -62,10 +63,10 @@ bool ListAtStart::FetchAgain() {
 
 bool ListAtStart::UseInstalled() {
   const ProgramInfo& info = environment_.info;
-  const FilePath installed = info.installed / "Resources/sharedb.dat";
+  const FilePath installed = info.installed / "Resources" / kListFile;
   if (info.installed.IsEmpty() || !ListFault(environment_.files, installed).empty()) return false;
   try {
-    environment_.files.Link(installed, info.Resource("sharedb.dat"));
+    environment_.files.Link(installed, info.Resource(kListFile));
   } catch (const RuntimeError&) {
     return false;
   }

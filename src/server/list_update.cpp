@@ -82,7 +82,7 @@ bool ListUpdate::InstallList() {
     // The doubled "d" is intended: in an installation that name is a link to sharedb.dat, from
     // which the list is loaded. Without the link that file is gone afterwards.
     const FilePath place = files.Move(Downloaded(), info.Resource("/shareddb.dat"));
-    if (!place.Utf8().ends_with("/sharedb.dat")) files.Remove(info.Resource("sharedb.dat"));
+    if (!place.Utf8().ends_with("/sharedb.dat")) files.Remove(info.Resource(kListFile));
   }
   files.Remove(Downloaded());
   return isInstallable;
@@ -91,7 +91,7 @@ bool ListUpdate::InstallList() {
 bool ListUpdate::ReinstallList() {
   const bool isInstallable = IsInstallable();
   if (isInstallable) {
-    environment_.files.Move(Downloaded(), environment_.info.Resource("sharedb.dat"));
+    environment_.files.Move(Downloaded(), environment_.info.Resource(kListFile));
   }
   environment_.files.Remove(Downloaded());
   return isInstallable;

@@ -37,9 +37,10 @@ void Donor::Start() {
   if (program_) program_->Finish();
   program_.reset();
   sent_ = false;
-  program_ = std::make_unique<Program>(Environment{world_.info, world_.settings, http_, boxes_,
-                                                   waits_, world_.clock, world_.random,
-                                                   world_.shell, world_.files, world_.printer});
+  program_ = std::make_unique<Program>(
+      Environment{world_.info, world_.settings, http_, boxes_, waits_, world_.clock, world_.random,
+                  world_.shell, world_.files, world_.printer},
+      ListAhead(world_.files, world_.info.Resource(kListFile)));
   program_->Main();
   Input().Click(program_->TheForms().Get<frmSplash>().Image2[0]);
   if (!HasEnded() && Main().Unfinished.visible) Input().Click(Main().ContinueUnfinished);

@@ -1,12 +1,12 @@
 #include "mirror/look/theme_painting.h"
 
-#include <QIcon>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QStyle>
 #include <QTableView>
 #include <algorithm>
 
+#include "mirror/look/pictures.h"
 #include "mirror/look/tones.h"
 #include "mirror/look/widget_look.h"
 
@@ -85,7 +85,8 @@ QRect HandleRect(const QStyleOptionSlider& bar) {
 }
 
 // Images that are pressed show their focus.
-void PaintPicture(const QStyleOption& option, QRect rect, const QString& name, QPainter& painter) {
+void PaintPictureLabel(const QStyleOption& option, QRect rect, const QString& name,
+                       QPainter& painter) {
   if (name == QLatin1String("enter") || name == QLatin1String("exit")) {
     constexpr double radius = 6;
     if (Has(option, QStyle::State_HasFocus)) {
@@ -95,7 +96,7 @@ void PaintPicture(const QStyleOption& option, QRect rect, const QString& name, Q
     rect.adjust(4, 4, -4, -4);
   }
   const auto side = name == QLatin1String("wizard") ? Qt::AlignTop : Qt::AlignVCenter;
-  QIcon(QStringLiteral(":/images/%1.svg").arg(name)).paint(&painter, rect, Qt::AlignHCenter | side);
+  PaintPicture(name, rect, Qt::AlignHCenter | side, painter);
 }
 
 }  // namespace
@@ -289,7 +290,7 @@ bool PaintFrame(const QStyleOption& option, const QWidget* widget, Scheme scheme
   } else if (look == QLatin1String("logo") || look == QLatin1String("enter") ||
              look == QLatin1String("exit") || look == QLatin1String("wizard") ||
              look == QLatin1String("mail")) {
-    PaintPicture(option, rect, look, painter);
+    PaintPictureLabel(option, rect, look, painter);
   } else {
     return false;
   }

@@ -1,7 +1,6 @@
 #include "mirror/look/theme_style.h"
 
 #include <QGroupBox>
-#include <QIcon>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -9,6 +8,7 @@
 #include <QTableView>
 #include <algorithm>
 
+#include "mirror/look/pictures.h"
 #include "mirror/look/theme_painting.h"
 #include "mirror/look/tones.h"
 #include "mirror/look/widget_look.h"
@@ -218,15 +218,18 @@ QIcon ThemeStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
                                const QWidget* widget) const {
   switch (icon) {
     case SP_MessageBoxInformation:
-      return QIcon(QStringLiteral(":/images/information.svg"));
+      return PictureIcon(QStringLiteral("information"));
     case SP_MessageBoxQuestion:
-      return QIcon(QStringLiteral(":/images/question.svg"));
+      return PictureIcon(QStringLiteral("question"));
     case SP_MessageBoxWarning:
-      return QIcon(QStringLiteral(":/images/warning.svg"));
+      return PictureIcon(QStringLiteral("warning"));
     case SP_MessageBoxCritical:
-      return QIcon(QStringLiteral(":/images/critical.svg"));
-    case SP_LineEditClearButton:  // the toolkit would search the desktop's icons for it
-      return QIcon(QStringLiteral(":/images/clear.svg"));
+      return PictureIcon(QStringLiteral("critical"));
+    // The toolkit would search the desktop's icons for this one, and read three images for that one.
+    case SP_LineEditClearButton:
+      return PictureIcon(QStringLiteral("clear"));
+    case SP_ToolBarHorizontalExtensionButton:  // of a menu bar that is too narrow for its menus
+      return PictureIcon(QStringLiteral("more"));
     default:
       return QProxyStyle::standardIcon(icon, option, widget);
   }
