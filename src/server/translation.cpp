@@ -40,7 +40,7 @@ void Translation::Close() {
 std::string Translation::RequestAddress() const {
   const Deployment& deployment = environment_.info.deployment;
   const auto& boxes = windows_.preferences.Text1;
-  const bool builtIn = LowerCase(boxes[kService].text) == LowerCase(deployment.translationName);
+  const bool builtIn = SameText(boxes[kService].text, deployment.translationName);
   const ListView& list = windows_.main.ListView1;
   // For another service the user enters its address and its key.
   const std::string prefix =

@@ -55,7 +55,7 @@ Charge ChargeWith(int option, const SessionValues& values, const FeeRates& rates
   Charge charge;
   charge.amount = amount(roundUp);
   charge.serviceFees = serviceFees;
-  charge.rounding = charge.amount - amount(false);
+  if (roundUp) charge.rounding = charge.amount - amount(false);
   charge.methodFee = charge.amount - charge.rounding - values.TotalDonated - serviceFees;
   return charge;
 }
