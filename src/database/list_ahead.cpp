@@ -6,20 +6,19 @@ namespace benevix {
 
 ListAhead::ListAhead(const Files& files, const FilePath& path) {
   try {
-    const std::shared_ptr<const FileReader> file = files.Open(path);
-    state_ = file->State();
-    list_ = std::async(std::launch::async,
-                       [file] { return std::make_shared<const OrganizationList>(*file); });
+    file_ = files.Open(path);
+    load_ = std::make_unique<ListLoad>(*file_);
   } catch (const RuntimeError&) {
     // Whoever loads it then will raise it.
   }
 }
 
 std::shared_ptr<const OrganizationList> ListAhead::Take(const Files& files, const FilePath& path) {
-  if (!list_.valid()) return nullptr;
+  const std::unique_ptr<ListLoad> load = std::move(load_);
+  if (!load) return nullptr;
   try {
-    auto list = list_.get();
-    if (files.Open(path)->State() == state_) return list;
+    auto list = std::make_shared<const OrganizationList>(*load);
+    if (files.Open(path)->State() == file_->State()) return list;
   } catch (const RuntimeError&) {
     // It is loaded as if nothing had been tried before.
   }

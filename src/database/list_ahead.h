@@ -1,29 +1,28 @@
 #pragma once
 
-#include <future>
 #include <memory>
 
+#include "database/list_load.h"
 #include "database/organization_list.h"
 #include "platform/files.h"
 
 namespace benevix {
 
-// A list file that is loaded in the background, before the program needs it.
+// A list file whose load begins before the program needs it.
 class ListAhead {
  public:
-  // Begins to load the file. Whoever takes a list that could not be loaded gets none.
+  // Begins. Whoever takes a list that could not be loaded gets none.
   ListAhead(const Files& files, const FilePath& path);
   // Of no file.
   ListAhead() = default;
 
-  // The list, at the first call; waits until it is loaded. Null without one, and when this path
-  // leads to another file by now.
+  // The list, at the first call. Null without one, and when this path leads to another file by now.
   [[nodiscard]] std::shared_ptr<const OrganizationList> Take(const Files& files,
                                                              const FilePath& path);
 
  private:
-  FileState state_;
-  std::future<std::shared_ptr<const OrganizationList>> list_;
+  std::unique_ptr<const FileReader> file_;
+  std::unique_ptr<ListLoad> load_;
 };
 
 }  // namespace benevix

@@ -34,7 +34,6 @@ std::int32_t OrganizationId(std::string_view line) {
 
 void ListLines::Load(const FileReader& file, char* bytes, std::size_t begin, std::size_t end) {
   bytes_ = bytes;
-  starts.reserve((end - begin) / kShortLine);
   LineScan scan(begin);
   const auto onLine = [this](std::size_t lineBegin, std::size_t lineEnd, std::size_t comma) {
     if (!IsPlainOrganization(lineBegin, comma)) return Add(lineBegin, lineEnd, comma);

@@ -4,9 +4,6 @@
 #include <bitset>
 #include <charconv>
 #include <cstring>
-#include <future>
-#include <limits>
-#include <thread>
 
 #include "base/number_text.h"
 #include "base/runtime_error.h"
@@ -15,26 +12,6 @@
 
 namespace benevix {
 namespace {
-
-// Where the parts of the file end that are loaded side by side, each behind a line; the last one at
-// the end of the file.
-std::vector<std::size_t> PartEnds(const FileReader& file, std::size_t size) {
-  constexpr std::size_t isLong = std::size_t{1} << 20;  // worth another thread
-  constexpr std::size_t mostParts = 4;                  // more would wait for the memory
-  const std::size_t parts = std::clamp<std::size_t>(
-      std::min<std::size_t>(size / isLong, std::thread::hardware_concurrency()), 1, mostParts);
-  std::vector<std::size_t> ends;
-  std::string around(std::size_t{4} << 10, '\0');
-  for (std::size_t part = 1; part < parts; ++part) {
-    const std::size_t from = size / parts * part;
-    const std::size_t count = file.Read(from, around.data(), around.size());
-    const std::size_t lineEnd = std::string_view(around.data(), count).find('\n');
-    // A line can be longer; then this part and the next one are loaded as one.
-    if (lineEnd != std::string_view::npos) ends.push_back(from + lineEnd + 1);
-  }
-  ends.push_back(size);
-  return ends;
-}
 
 struct OrganizationTexts {
   std::string_view name, type;
@@ -73,27 +50,12 @@ std::string ListFault(const Files& files, const FilePath& file) {
   }
 }
 
+OrganizationList::OrganizationList(ListLoad& load) {
+  load.Finish(bytes_, lines_);
+}
+
 OrganizationList::OrganizationList(const FileReader& file) {
-  const std::size_t size = file.State().size;
-  if (size > std::numeric_limits<std::uint32_t>::max()) {
-    lines_.damage = "too large";
-    return;
-  }
-  bytes_.resize(size);
-  lines_.starts.reserve(size / kShortLine);
-  const std::vector<std::size_t> ends = PartEnds(file, size);
-  std::vector<ListLines> others(ends.size() - 1);
-  std::vector<std::future<void>> loads;
-  for (std::size_t i = 0; i < others.size(); ++i) {
-    loads.push_back(std::async(
-        std::launch::async, [&, i] { others[i].Load(file, bytes_.data(), ends[i], ends[i + 1]); }));
-  }
-  lines_.Load(file, bytes_.data(), 0, ends[0]);
-  for (std::size_t i = 0; i < others.size(); ++i) {
-    loads[i].get();
-    if (lines_.loaded == ends[i]) lines_.Append(others[i]);
-  }
-  bytes_.resize(lines_.loaded);
+  ListLoad(file).Finish(bytes_, lines_);
 }
 
 std::string_view OrganizationList::Line(int row) const {

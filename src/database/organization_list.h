@@ -8,10 +8,10 @@
 #include <string_view>
 #include <vector>
 
-#include "base/large_memory.h"
 #include "base/word_search.h"
 #include "controls/list_view.h"
 #include "database/list_lines.h"
+#include "database/list_load.h"
 #include "platform/files.h"
 
 namespace benevix {
@@ -41,6 +41,8 @@ class OrganizationList : public RowSource {
   // Reads the file; raises RuntimeError when that fails. A bad line ends the list before it, and a
   // file of 4 GiB or more is not read at all; Damage() then says why.
   explicit OrganizationList(const FileReader& file);
+  // The same with a load that has begun already.
+  explicit OrganizationList(ListLoad& load);
 
   [[nodiscard]] int Count() const override { return static_cast<int>(lines_.starts.size()); }
   [[nodiscard]] std::string Text(int row, int column) const override;
@@ -89,7 +91,7 @@ class OrganizationList : public RowSource {
   [[nodiscard]] int RowOf(std::size_t begin) const;
   [[nodiscard]] int FindNameIn(std::string_view word, int from, int to) const;
 
-  std::vector<char, LargeAllocator<char>> bytes_;
+  ListBytes bytes_;
   ListLines lines_;
 };
 
