@@ -104,6 +104,14 @@ def key(code):
     let_pass(0.3)
 
 
+def control(letter):
+    left_control = 37  # the keycode
+    pyatspi.Registry.generateKeyboardEvent(left_control, None, pyatspi.KEY_PRESS)
+    key(ord(letter))
+    pyatspi.Registry.generateKeyboardEvent(left_control, None, pyatspi.KEY_RELEASE)
+    let_pass(0.3)
+
+
 def write(role, name, text):
     focus(role, name)
     pyatspi.Registry.generateKeyboardEvent(0, text, pyatspi.KEY_STRING)

@@ -7,7 +7,8 @@ import re
 import subprocess
 import sys
 
-from bus import DOWN, ENTER, check_names, find, focus, hearing, key, press, turn_on, wait_for, write
+from bus import (DOWN, ENTER, check_names, control, find, focus, hearing, key, press, turn_on,
+                 wait_for, write)
 
 folder = sys.argv[1]
 NAME = "object:property-change:accessible-name"
@@ -38,6 +39,10 @@ def answer_the_wizard():
 
 
 def type_a_budget():
+    focus("text", "Budget")
+    # On this display a box takes these keys for the end of its line.
+    with hearing("object:state-changed:focused", "text", "Filter the list"):
+        control("e")
     write("text", "Budget", "200")
     with hearing(TEXT, "text", "Balance", "200.00"):
         key(ENTER)

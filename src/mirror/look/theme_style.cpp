@@ -225,10 +225,8 @@ QIcon ThemeStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
       return PictureIcon(QStringLiteral("warning"));
     case SP_MessageBoxCritical:
       return PictureIcon(QStringLiteral("critical"));
-    // The toolkit would search the desktop's icons for this one, and read three images for that one.
-    case SP_LineEditClearButton:
-      return PictureIcon(QStringLiteral("clear"));
-    case SP_ToolBarHorizontalExtensionButton:  // of a menu bar that is too narrow for its menus
+    // Of a menu bar that is too narrow for its menus; every start would read three images for it.
+    case SP_ToolBarHorizontalExtensionButton:
       return PictureIcon(QStringLiteral("more"));
     default:
       return QProxyStyle::standardIcon(icon, option, widget);

@@ -8,6 +8,7 @@
 #include <QShortcut>
 #include <QToolTip>
 #include <QWindow>
+#include <algorithm>
 #include <string_view>
 
 #include "mirror/bindings/make_binding.h"
@@ -112,7 +113,13 @@ void WindowBinding::MakeShortcuts(const Desk::Entry& entry) {
     shortcut->setAutoRepeat(false);
     connect(shortcut, &QShortcut::activated, this,
             [this, &control] { context_.input.Shortcut(control); });
+    shortcuts_.push_back(shortcut);
   }
+}
+
+bool WindowBinding::IsShortcut(const QKeyEvent& key) const {
+  const QKeySequence keys(key.keyCombination());
+  return std::ranges::any_of(shortcuts_, [&](const auto* own) { return own->key() == keys; });
 }
 
 QWidget* WindowBinding::WidgetOf(const Control& control) const {
@@ -274,6 +281,11 @@ bool WindowBinding::FilterControl(const BoundControl& bound, QEvent& event) {
   Control& control = bound.control->Base();
   QWidget& widget = *bound.binding->Widget();
   switch (event.type()) {
+    // On some desktops a box takes Ctrl+E for the end of its line.
+    case QEvent::ShortcutOverride:
+      if (!IsShortcut(static_cast<const QKeyEvent&>(event))) return false;
+      event.ignore();
+      return true;
     case QEvent::FocusIn:
       if (!context_.applying && IsUsersFocus(static_cast<const QFocusEvent&>(event).reason())) {
         context_.input.Focus(control);

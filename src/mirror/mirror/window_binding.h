@@ -12,6 +12,9 @@
 #include "mirror/look/note_bubble.h"
 #include "mirror/mirror/window_keys.h"
 
+class QKeyEvent;
+class QShortcut;
+
 namespace benevix {
 
 class WindowLayout;
@@ -55,6 +58,7 @@ class WindowBinding : public QObject {
 
   void GiveMnemonics();
   void MakeShortcuts(const Desk::Entry& entry);
+  [[nodiscard]] bool IsShortcut(const QKeyEvent& key) const;
   void ApplyControls();
   void ApplyNote();
   void ApplyWindow();
@@ -77,6 +81,7 @@ class WindowBinding : public QObject {
   NoteBubble* note_;  // a child of the widget
   std::vector<BoundControl> bound_;
   std::unique_ptr<MenuBinding> menus_;
+  std::vector<const QShortcut*> shortcuts_;  // children of the widget
 };
 
 }  // namespace benevix
