@@ -34,6 +34,7 @@ inline constexpr int kBackspace = 8;
 inline constexpr int kTab = 9;
 inline constexpr int kEnter = 13;
 inline constexpr int kEscape = 27;
+inline constexpr int kDown = 256;  // no character
 }  // namespace keys
 
 enum class MouseButton { Left = 1, Right = 2 };

@@ -70,6 +70,7 @@ void Program::ConnectMainWindow() {
              [this](EventArgs& args) { listView_.ListView1_KeyUp(args); });
   events_.On(main_.Filter, Event::KeyUp,
              [this](EventArgs& args) { listFilter_.Filter_KeyUp(args); });
+  events_.On(main_.Filter, Event::GotFocus, Plain([this] { listFilter_.Filter_GotFocus(); }));
   events_.On(main_.ShowAll, Event::Click, Plain([this] { listFilter_.ShowAll_Click(); }));
   events_.On(main_.GiftRows, Event::ItemClick, Plain([this] { giftsPanel_.GiftRows_ItemClick(); }));
   events_.On(main_.Command1, Event::Click, Plain([this] { finalization_.Command1_Click(); }));

@@ -33,7 +33,7 @@ Program::Program(const Environment& environment, ListAhead list)
       mainWindow_(main_, values_, budgetEntry_, donationEntry_),
       listView_(main_, values_, desk_, run_, [this] { yearToDate_.ShowYtd(); }),
       listTyping_(main_, database_, environment_.clock, listView_),
-      listFilter_(main_, database_, desk_),
+      listFilter_(main_, database_, desk_, [this](int row) { listView_.SelectByKeyboard(row); }),
       search_(forms_.Get<frmSrch>(), main_, database_,
               [this](int row) { listView_.Select(row, true); }),
       favorites_(main_, settings_, database_, listView_),

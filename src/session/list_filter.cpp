@@ -5,8 +5,20 @@
 namespace benevix {
 
 void ListFilter::Filter_KeyUp(const EventArgs& args) {
+  if (args.key == keys::kEnter || args.key == keys::kDown) GoToFound();
   if (args.key != keys::kEscape) return;
   main_.Filter.Write("");
+  desk_.SetFocus(main_.ListView1);
+}
+
+void ListFilter::GoToFound() {
+  const ListView& list = main_.ListView1;
+  int place = list.PlaceOf(list.selected);
+  if (place == 0) place = 1;
+  while (place <= list.ShownCount() && !list.Text(list.RowAt(place)).empty()) ++place;
+  if (place > list.ShownCount()) return;
+  const int row = list.RowAt(place);
+  if (row != list.selected) select_(row);
   desk_.SetFocus(main_.ListView1);
 }
 

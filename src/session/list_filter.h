@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "controls/desk.h"
@@ -13,10 +14,15 @@ namespace benevix {
 // donation. It follows from the controls and the list after each event.
 class ListFilter {
  public:
-  ListFilter(frmBVX& main, const OrganizationDatabase& database, Desk& desk)
-      : main_(main), database_(database), desk_(desk) {}
+  // `select` selects a row as the arrow keys do.
+  ListFilter(frmBVX& main, const OrganizationDatabase& database, Desk& desk,
+             std::function<void(int row)> select)
+      : main_(main), database_(database), desk_(desk), select_(std::move(select)) {}
 
-  // Escape empties the box and goes back to the list.
+  // What is typed then replaces what was typed before.
+  void Filter_GotFocus() { ++main_.Filter.selections; }
+  // Escape empties the box and goes back to the list. Enter and the arrow down go on to what was
+  // found.
   void Filter_KeyUp(const EventArgs& args);
   void ShowAll_Click();
 
@@ -35,12 +41,15 @@ class ListFilter {
   };
 
   void Empty();
+  // To the selected row, or where that is hidden to the first organization that is shown.
+  void GoToFound();
   void ShowRows();
   [[nodiscard]] ShownRows GivenRows() const;
 
   frmBVX& main_;
   const OrganizationDatabase& database_;
   Desk& desk_;
+  std::function<void(int)> select_;
   Basis basis_;
   int selected_ = 0, scrolls_ = 0;  // of the list after the last event
 };

@@ -18,6 +18,8 @@ int KeyCode(int key) {
       return keys::kEscape;
     case Qt::Key_Backspace:
       return keys::kBackspace;
+    case Qt::Key_Down:
+      return keys::kDown;
     default:
       return key < 128 ? key : 0;
   }
